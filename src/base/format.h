@@ -1,0 +1,12 @@
+// The system's printed numbers follow printf formats ("%0.2f", "%d:0%d"): this
+// helper produces them exactly, in one place.
+#pragma once
+
+#include <string>
+
+namespace tavi {
+
+// printf-style formatting into a std::string.
+[[gnu::format(printf, 1, 2)]] std::string format(const char* fmt, ...);
+
+} // namespace tavi
