@@ -1,0 +1,43 @@
+// The four code lists that sort codes into errors, fluency codes,
+// nonmainstream forms and code switches, and the matching of a code against a
+// list. The lists are settings ("OMITERR", "FLUENCY", "NONMAINSTREAM",
+// "CODESWITCH"); these are the defaults a new installation starts with.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tavi {
+
+struct CodeLists {
+    std::string errors = "[EW*][EO*][EU*][EP*]";
+    std::string fluency = "[PWR][WWR][PRO][BLK][FL*]";
+    std::string nonmainstream = "[NM*]";
+    std::string codeSwitch = "[CS*]";
+
+    bool operator==(const CodeLists&) const = default;
+};
+
+// Items of a bracketed list "[EW][EO*]" or of a comma-separated list "EW, EO*";
+// blanks around items are dropped, empty items skipped.
+std::vector<std::string> parseCodeItems(std::string_view list);
+
+// A code matches an item when the code's text before any ":" equals the item,
+// without regard to case; an item ending in "*" matches any ending.
+bool codeMatchesItem(std::string_view code, std::string_view item);
+
+// A parsed list, ready to test codes against.
+class CodeMatcher {
+public:
+    CodeMatcher() = default;
+    explicit CodeMatcher(std::string_view list) : items_(parseCodeItems(list)) {}
+    bool empty() const { return items_.empty(); }
+    bool matches(std::string_view code) const;
+    const std::vector<std::string>& items() const { return items_; }
+
+private:
+    std::vector<std::string> items_;
+};
+
+} // namespace tavi

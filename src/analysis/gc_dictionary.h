@@ -1,0 +1,64 @@
+// The grammatical-category dictionary ("GC/GCDictionaryFile.txt"): a fixed
+// open-addressing table of whole lines keyed by the text before the first
+// blank. A line's value lists the word's categories as codes separated by
+// blanks, most likely first: "run [GC:VERB] [GC:NOUN]".
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "transcript/utterance.h"
+
+namespace tavi {
+
+class Prompter;
+
+inline constexpr int MAX_DICTIONARY_WORDS = 185551;
+
+// h = (h * 64 + c) mod capacity for each UTF-16 code unit c, in signed 32-bit
+// arithmetic; an empty key hashes to 0.
+std::int32_t dictionaryHash(std::u16string_view key, std::int32_t capacity = MAX_DICTIONARY_WORDS);
+
+class GcDictionary {
+public:
+    explicit GcDictionary(std::int32_t capacity = MAX_DICTIONARY_WORDS);
+
+    // Stores one line (duplicates too). False when the table is full.
+    bool insert(std::string_view line);
+    // Stores every line of the text; when the table fills, shows
+    // "Increase MAX_DICTIONARY_WORDS" once and keeps what was stored.
+    void load(std::string_view text, Prompter& prompter);
+    // Reads the file; a missing file shows "Unable to open Grammatical
+    // Category dictionary file (" + path + ")" and returns false.
+    bool loadFile(const std::string& path, Prompter& prompter);
+
+    // The trimmed value of the first line whose key equals `word` exactly.
+    std::optional<std::string_view> lookup(std::string_view word) const;
+    std::int32_t capacity() const { return capacity_; }
+    std::int32_t size() const { return size_; }
+
+private:
+    struct Slot {
+        std::string line;
+        std::uint32_t keyLength = 0;
+        bool used = false;
+    };
+    std::int32_t capacity_;
+    std::int32_t size_ = 0;
+    std::vector<Slot> slots_;
+};
+
+// Whether a token is skipped by the category count: its first character is a
+// notation mark, a separator or white space.
+bool isSkippedCategoryToken(std::string_view token);
+
+// The categories of a word (indices into kGrammaticalCategoryTable), most
+// likely first: the dictionary entry of its root (as written, then in lower
+// case), else a guess from its form: a verb ending ("/ed", "/ing", "/3s",
+// "/en") or "-ing"/"-ed" makes a verb, "-ly" an adverb, anything else a noun.
+std::vector<int> wordCategories(const Word& word, const GcDictionary* dictionary);
+
+} // namespace tavi
