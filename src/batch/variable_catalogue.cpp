@@ -253,15 +253,14 @@ void addDiscourse(CatalogueBuilder& b) {
     b.decimal("MedTurnUt", std::string("Median Turn Length (utterances)") + kTotal);
     b.decimal("MeanTurnWd", std::string("Mean Turn Length (words)") + kTotal);
     b.decimal("MedTurnWd", std::string("Median Turn Length (words)") + kTotal);
-    b.decimal("%RespToQues", std::string("% Responses to Questions") + kTotal, "%RespQues");
+    b.decimal("%RespToQues", std::string("% Responses to Questions") + kTotal);
     b.count("OtherSpkQues", std::string("Questions of the Other Speaker") + kTotal);
     b.count("RespToQues", std::string("Responses to Questions") + kTotal);
     b.count("ReqClarRespToQues",
             std::string("Requests for Clarification in Response to Questions") + kTotal);
     b.count("YNRespToQues", std::string("Yes/No Responses to Questions") + kTotal);
     b.count("OthRespToQues", std::string("Other Responses to Questions") + kTotal);
-    b.decimal("%RespToIntPrmpt", std::string("% Responses to Intonation Prompts") + kTotal,
-              "%RespPrmpt");
+    b.decimal("%RespToIntPrmpt", std::string("% Responses to Intonation Prompts") + kTotal);
     b.count("OtherSpkIntPrmpt", std::string("Intonation Prompts of the Other Speaker") + kTotal);
     b.count("RespToIntPrmpt", std::string("Responses to Intonation Prompts") + kTotal);
     b.count("Imitations", std::string("Imitations") + kTotal);
@@ -303,8 +302,8 @@ void addTiming(CatalogueBuilder& b) {
 
 void addMazes(CatalogueBuilder& b) {
     b.group("Verbal Facility Summary", "MZCDSMRY");
-    b.decimal("%AbanUtt", std::string("% Abandoned Utterances") + kTotal, "%AbanUt");
-    b.count("AbanUtt", std::string("Abandoned Utterances") + kTotal, "AbanUt");
+    b.decimal("%AbanUtt", std::string("% Abandoned Utterances") + kTotal);
+    b.count("AbanUtt", std::string("Abandoned Utterances") + kTotal);
     b.count("MzWds", std::string("Maze Words") + kMazesTotal);
     b.decimal("%MzWds", "Maze Words as % of Total Words");
     b.count("Tot#Mz", "Total Number of Mazes");
@@ -322,11 +321,10 @@ void addMazes(CatalogueBuilder& b) {
     b.count("MzFPSingleWd", std::string("Maze Filled Pauses, Single Words") + kMazesTotal);
     b.count("MzFPMultWd", std::string("Maze Filled Pauses, Multiple Words") + kMazesTotal);
     b.decimal("%MazeComp", std::string("% Maze Components") + kMazesTotal);
-    b.decimal("%UttwFC", std::string("% Utterances with Fluency Codes") + kTotal, "%UtWFluencyCd");
-    b.count("UttwFC", std::string("Utterances with Fluency Codes") + kTotal, "UtWFLuencyCode");
-    b.decimal("%UttwCS", std::string("% Utterances with Code-switch Codes") + kTotal,
-              "%UtWCSwitchCd");
-    b.count("UttwCS", std::string("Utterances with Code-switch Codes") + kTotal, "UtWCSwitchCode");
+    b.decimal("%UttwFC", std::string("% Utterances with Fluency Codes") + kTotal);
+    b.count("UttwFC", std::string("Utterances with Fluency Codes") + kTotal);
+    b.decimal("%UttwCS", std::string("% Utterances with Code-switch Codes") + kTotal);
+    b.count("UttwCS", std::string("Utterances with Code-switch Codes") + kTotal);
 }
 
 void addWordLists(CatalogueBuilder& b) {
@@ -424,8 +422,7 @@ void addNonmainstream(CatalogueBuilder& b) {
 
 void addCodeSwitch(CatalogueBuilder& b) {
     b.group("Code-switch Codes", "CSCODE");
-    b.decimal("%UtWCSwitch", std::string("% Utterances with Code-switch Codes") + kTotal,
-              "%UtWCSwitchCd");
+    b.decimal("%UtWCSwitch", std::string("% Utterances with Code-switch Codes") + kTotal);
     b.count("CSwitchCodes", std::string("Total Code-switch Codes") + kTotal);
     b.count("CSwitchCodesWd", std::string("Word-level Code-switch Codes") + kTotal);
     b.count("CSwitchCodesUt", std::string("Utterance-level Code-switch Codes") + kTotal);

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "analysis/measure_id.h"
 #include "batch/variable_catalogue.h"
 
 namespace tavi {
@@ -516,7 +517,23 @@ TEST(VariableCatalogue, DescriptionsTypesAndSources) {
     EXPECT_EQ(first("TotNumUt").type, ValueType::Integer);
     EXPECT_EQ(c.variable(c.find("MLUw")[1]).description,
               "MLU in Words - words, analysis set utterances");
-    EXPECT_EQ(first("%RespToQues").measure, "%RespQues");
+}
+
+// Every measure column is a measure the analysis computes, printed in the
+// same kind of number: counts as whole numbers, means and percentages as
+// decimals, stages and times as texts.
+TEST(VariableCatalogue, MeasureColumnsNameComputedMeasures) {
+    for (const BatchVariable& v : VariableCatalogue::standard().variables()) {
+        if (v.source != ValueSource::Measure)
+            continue;
+        std::optional<MeasureId> id = measureIdByName(v.measure);
+        ASSERT_TRUE(id.has_value()) << v.name;
+        MeasureFormat f = measureFormat(*id);
+        ValueType expected = f == MeasureFormat::Count  ? ValueType::Integer
+                             : f == MeasureFormat::Text ? ValueType::Text
+                                                        : ValueType::Decimal;
+        EXPECT_EQ(v.type, expected) << v.name;
+    }
 }
 
 } // namespace
