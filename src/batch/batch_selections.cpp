@@ -154,7 +154,8 @@ bool applyExploreLine(ExploreOptions& e, std::string_view keyword, std::string_v
     }
     if (equalsIgnoreCase(keyword, "WBSUT_OR") || equalsIgnoreCase(keyword, "WBSUT_AND"))
         e.wordBaseAnd = equalsIgnoreCase(keyword, "WBSUT_AND");
-    else if (equalsIgnoreCase(keyword, "WBSUT_NOT_YES") || equalsIgnoreCase(keyword, "WBSUT_NOT_NO"))
+    else if (equalsIgnoreCase(keyword, "WBSUT_NOT_YES") ||
+             equalsIgnoreCase(keyword, "WBSUT_NOT_NO"))
         e.wordBaseNot = equalsIgnoreCase(keyword, "WBSUT_NOT_YES");
     else if (equalsIgnoreCase(keyword, "WBSUT"))
         applyWordBaseSubset(e, value);
@@ -193,12 +194,11 @@ BatchSelections BatchSelections::empty() {
 
 const std::vector<std::string_view>& selectionGroupKeywords() {
     static const std::vector<std::string_view> keywords = {
-        "SMR",       "UTTYPE",   "SYNSMRY",     "UTTDIST",    "UDLENGTH", "UDUTT",
-        "SEMSMRY",   "DCSMRY",   "TURNLEN",     "VFSMRY",     "MZCDSMRY", "FORMATRPT",
-        "SWL",       "SWLUTT",   "SWLAREA",     "SWLLANG",    "SUL",      "SULUTT",
-        "MZDIST",    "MDLENGTH", "MDUTT",       "OMITERR",    "FLUENCY",  "FLUENCYBEH",
-        "NMFORM",    "CSCODE",   "SI",          "MACROSTRUCT", "COMPQUES", "GCL",
-        "GCLUTT",
+        "SMR",      "UTTYPE",  "SYNSMRY",    "UTTDIST",  "UDLENGTH",  "UDUTT",    "SEMSMRY",
+        "DCSMRY",   "TURNLEN", "VFSMRY",     "MZCDSMRY", "FORMATRPT", "SWL",      "SWLUTT",
+        "SWLAREA",  "SWLLANG", "SUL",        "SULUTT",   "MZDIST",    "MDLENGTH", "MDUTT",
+        "OMITERR",  "FLUENCY", "FLUENCYBEH", "NMFORM",   "CSCODE",    "SI",       "MACROSTRUCT",
+        "COMPQUES", "GCL",     "GCLUTT",
     };
     return keywords;
 }

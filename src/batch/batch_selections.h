@@ -25,26 +25,26 @@ struct ExploreEntry {
 
 // What the explore variables count and over which words.
 struct ExploreOptions {
-    bool selectedUtterances = false; // "EXPLSELUTTS"
-    bool occurrences = false;        // "EXPLNUMOCC"
-    bool utterances = false;         // "EXPLNUMUTT"
-    bool differentForms = false;     // "EXPLDIFFFORM"
-    bool differentWords = false;     // "EXPLDIFFWORD"
-    bool presence = false;           // "EXPLPRESENCE"
-    bool mentionedFirst = false;     // "EXPLMENTIONEDFIRST"
-    int utteranceChoice = 0;         // "EXPLUTT"
-    int areaChoice = 0;              // "EXPLAREA"
-    int rootIdChoice = 0;            // "EXPLRID"
-    int codeTypeChoice = 0;          // "EXPLCODETYPE"
-    bool wordBaseAnd = false;        // "WBSUT_AND" (else "WBSUT_OR")
-    bool wordBaseNot = false;        // "WBSUT_NOT_YES"
-    bool mazeFilledPauses = false;   // "WBSUT MZFP_YES"
-    bool mazeRepetitions = false;    // "WBSUT MZREP_YES"
-    bool mazeRevisions = false;      // "WBSUT MZREV_YES"
-    std::set<int> wordBaseChoices;   // "WBSUT %d"
-    int lengthFrom = 0;              // "WBLENFROM"
-    int lengthTo = 0;                // "WBLENTO"
-    bool lengthInMorphemes = false;  // "WB_MRPHLEN" (else "WB_WDLEN")
+    bool selectedUtterances = false;    // "EXPLSELUTTS"
+    bool occurrences = false;           // "EXPLNUMOCC"
+    bool utterances = false;            // "EXPLNUMUTT"
+    bool differentForms = false;        // "EXPLDIFFFORM"
+    bool differentWords = false;        // "EXPLDIFFWORD"
+    bool presence = false;              // "EXPLPRESENCE"
+    bool mentionedFirst = false;        // "EXPLMENTIONEDFIRST"
+    int utteranceChoice = 0;            // "EXPLUTT"
+    int areaChoice = 0;                 // "EXPLAREA"
+    int rootIdChoice = 0;               // "EXPLRID"
+    int codeTypeChoice = 0;             // "EXPLCODETYPE"
+    bool wordBaseAnd = false;           // "WBSUT_AND" (else "WBSUT_OR")
+    bool wordBaseNot = false;           // "WBSUT_NOT_YES"
+    bool mazeFilledPauses = false;      // "WBSUT MZFP_YES"
+    bool mazeRepetitions = false;       // "WBSUT MZREP_YES"
+    bool mazeRevisions = false;         // "WBSUT MZREV_YES"
+    std::set<int> wordBaseChoices;      // "WBSUT %d"
+    int lengthFrom = 0;                 // "WBLENFROM"
+    int lengthTo = 0;                   // "WBLENTO"
+    bool lengthInMorphemes = false;     // "WB_MRPHLEN" (else "WB_WDLEN")
     std::vector<ExploreEntry> wordList; // "EXPLLIST"
 
     bool operator==(const ExploreOptions&) const = default;
@@ -56,9 +56,9 @@ struct BatchSelections {
     static constexpr int kBothSpeakers = 2;  // no "SPEAKER" line: a row per main speaker
 
     int speaker = kTargetSpeaker;
-    std::string missingText = "NA";      // "XTEXT"
-    std::string missingInteger = "-999"; // "XINT"
-    std::string missingDecimal = "-999"; // "XVAL"
+    std::string missingText = "NA";                                  // "XTEXT"
+    std::string missingInteger = "-999";                             // "XINT"
+    std::string missingDecimal = "-999";                             // "XVAL"
     std::array<bool, 6> general{true, true, true, true, true, true}; // "GENINFO %d"
     std::array<bool, 20> plusLines{};                                // "PLUSLINE %d"
     std::vector<std::string> plusList; // "PLUSLIST": extra header keywords
