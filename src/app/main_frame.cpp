@@ -1,0 +1,329 @@
+// The frame itself: menus from the command table, command states, windows.
+#include "app/main_frame.h"
+
+#include <QCloseEvent>
+#include <QFileInfo>
+#include <QMenuBar>
+#include <QPrinter>
+#include <QStatusBar>
+#include <vector>
+
+#include "app/rept_doc.h"
+#include "app/rept_frame.h"
+#include "app/rept_view.h"
+#include "app/tavi_app.h"
+#include "app/tavi_doc.h"
+#include "app/tavi_frame.h"
+#include "app/tavi_view.h"
+
+namespace tavi::app {
+namespace {
+
+// "prompt\ntip" split in two; a command without its own prompt is described
+// by its menu text.
+std::pair<QString, QString> promptAndTip(const MenuEntry& entry) {
+    QString prompt = QString::fromUtf8(entry.prompt);
+    if (prompt.isEmpty()) {
+        QString text = QString::fromUtf8(entry.text);
+        text.replace(QStringLiteral("&&"), QStringLiteral("\x01"));
+        text.remove(QLatin1Char('&'));
+        text.replace(QLatin1Char('\x01'), QLatin1Char('&'));
+        if (text.endsWith(QStringLiteral("...")))
+            text.chop(3);
+        return {text, text};
+    }
+    const qsizetype nl = prompt.indexOf(QLatin1Char('\n'));
+    if (nl < 0)
+        return {prompt, prompt};
+    return {prompt.left(nl), prompt.mid(nl + 1)};
+}
+
+} // namespace
+
+CMainFrame::CMainFrame(CTAVIApp& app) : app_(app), mdi_(new QMdiArea) {
+    setObjectName(QStringLiteral("CMainFrame"));
+    setWindowTitle(QStringLiteral("TAVI"));
+    app_.prompter().setParent(this);
+    mdi_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    mdi_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setCentralWidget(mdi_);
+    registerCommands();
+    buildMenus();
+    statusBar()->showMessage(QStringLiteral("Ready"));
+    connect(mdi_, &QMdiArea::subWindowActivated, this, &CMainFrame::updateCommands);
+    updateCommands();
+    resize(1100, 760);
+}
+
+CMainFrame::~CMainFrame() = default;
+
+QString CMainFrame::notAvailablePrompt(const QString& prompt) {
+    return prompt + QStringLiteral(" (not available yet)");
+}
+
+QAction* CMainFrame::action(const QString& id) const {
+    const auto it = actions_.find(id);
+    return it == actions_.end() ? nullptr : it->second;
+}
+
+void CMainFrame::on(const char* id, std::function<void()> run, std::function<bool()> enabled) {
+    commands_[QString::fromLatin1(id)] = {std::move(run), std::move(enabled)};
+}
+
+QAction* CMainFrame::makeAction(const MenuEntry& entry) {
+    const QString id = QString::fromLatin1(entry.id);
+    auto* act = new QAction(QString::fromUtf8(entry.text), this);
+    act->setObjectName(id);
+    const auto [prompt, tip] = promptAndTip(entry);
+    if (*entry.shortcut)
+        act->setShortcut(QKeySequence(QString::fromLatin1(entry.shortcut)));
+    if (commands_.count(id)) {
+        act->setStatusTip(prompt);
+        act->setToolTip(tip);
+        connect(act, &QAction::triggered, this, [this, id] {
+            updateCommands();
+            const Command& c = commands_[id];
+            if (!c.enabled || c.enabled())
+                c.run();
+        });
+    } else {
+        act->setStatusTip(notAvailablePrompt(prompt));
+        act->setToolTip(notAvailablePrompt(tip));
+        act->setEnabled(false);
+        act->setProperty("notAvailable", true);
+    }
+    actions_[id] = act;
+    return act;
+}
+
+void CMainFrame::buildMenus() {
+    std::vector<QMenu*> open;
+    for (const MenuEntry& entry : mainMenuTable()) {
+        QMenu* current = open.empty() ? nullptr : open.back();
+        switch (entry.kind) {
+        case EntryKind::Menu: {
+            QMenu* m = current ? current->addMenu(QString::fromUtf8(entry.text))
+                               : menuBar()->addMenu(QString::fromUtf8(entry.text));
+            m->setToolTipsVisible(true);
+            connect(m, &QMenu::hovered, this,
+                    [this](QAction* a) { statusBar()->showMessage(a->statusTip()); });
+            open.push_back(m);
+            break;
+        }
+        case EntryKind::EndMenu:
+            open.pop_back();
+            break;
+        case EntryKind::Item:
+            current->addAction(makeAction(entry));
+            break;
+        case EntryKind::Heading: {
+            QAction* label = current->addAction(QString::fromUtf8(entry.text));
+            label->setObjectName(QString::fromLatin1(entry.id));
+            label->setEnabled(false);
+            QFont bold = label->font();
+            bold.setBold(true);
+            label->setFont(bold);
+            label->setProperty("heading", true);
+            break;
+        }
+        case EntryKind::Separator:
+            current->addSeparator();
+            break;
+        case EntryKind::RecentFiles:
+            recentAnchor_ = current->addSeparator();
+            recentAnchor_->setObjectName(QString::fromLatin1(entry.id));
+            recentAnchor_->setVisible(false);
+            connect(current, &QMenu::aboutToShow, this, &CMainFrame::refreshRecentFiles);
+            break;
+        }
+        if (entry.kind == EntryKind::Menu && QString::fromUtf8(entry.text) == "&Window")
+            windowMenu_ = open.back();
+        for (QMenu* m : open)
+            connect(m, &QMenu::aboutToShow, this, &CMainFrame::updateCommands,
+                    Qt::UniqueConnection);
+    }
+    connect(windowMenu_, &QMenu::aboutToShow, this, &CMainFrame::refreshWindowList);
+    refreshRecentFiles();
+}
+
+QMenu* CMainFrame::makeContextMenu(std::span<const MenuEntry> table) {
+    updateCommands();
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (const MenuEntry& entry : table) {
+        if (entry.kind == EntryKind::Separator) {
+            menu->addSeparator();
+            continue;
+        }
+        QAction* target = action(QString::fromLatin1(entry.id));
+        QAction* item = menu->addAction(QString::fromUtf8(entry.text));
+        item->setObjectName(QString::fromLatin1(entry.id));
+        item->setEnabled(target && target->isEnabled());
+        if (target) {
+            item->setStatusTip(target->statusTip());
+            connect(item, &QAction::triggered, target, &QAction::trigger);
+        }
+    }
+    return menu;
+}
+
+void CMainFrame::updateCommands() {
+    for (auto& [id, act] : actions_) {
+        const auto it = commands_.find(id);
+        if (it == commands_.end())
+            continue;
+        act->setEnabled(!it->second.enabled || it->second.enabled());
+    }
+}
+
+void CMainFrame::refreshRecentFiles() {
+    for (QAction* a : recentActions_)
+        delete a;
+    recentActions_.clear();
+    auto* menu = qobject_cast<QMenu*>(recentAnchor_->parent());
+    const QStringList files = app_.recentFiles();
+    QAction* before = nullptr;
+    const auto all = menu->actions();
+    const auto at = all.indexOf(recentAnchor_);
+    if (at + 1 < all.size())
+        before = all[at + 1];
+    for (qsizetype i = 0; i < files.size(); ++i) {
+        auto* a = new QAction(QStringLiteral("&%1 %2").arg(i + 1).arg(files[i]), menu);
+        a->setObjectName(QStringLiteral("ID_FILE_MRU_FILE%1").arg(i + 1));
+        a->setStatusTip(QStringLiteral("Open this document"));
+        const QString path = files[i];
+        connect(a, &QAction::triggered, this, [this, path] { openTranscript(path); });
+        menu->insertAction(before, a);
+        recentActions_ << a;
+    }
+    if (files.isEmpty()) {
+        auto* a = new QAction(QStringLiteral("Recent File"), menu);
+        a->setEnabled(false);
+        menu->insertAction(before, a);
+        recentActions_ << a;
+    }
+}
+
+void CMainFrame::refreshWindowList() {
+    for (QAction* a : windowActions_)
+        delete a;
+    windowActions_.clear();
+    const auto windows = mdi_->subWindowList();
+    if (!windows.isEmpty())
+        windowActions_ << windowMenu_->addSeparator();
+    for (qsizetype i = 0; i < windows.size(); ++i) {
+        QMdiSubWindow* w = windows[i];
+        QString title = w->windowTitle();
+        title.replace(QStringLiteral("[*]"), QString());
+        auto* a = windowMenu_->addAction(QStringLiteral("&%1 %2").arg(i + 1).arg(title));
+        a->setCheckable(true);
+        a->setChecked(w == mdi_->currentSubWindow());
+        connect(a, &QAction::triggered, this, [this, w] { mdi_->setActiveSubWindow(w); });
+        windowActions_ << a;
+    }
+}
+
+CTAVIFrame* CMainFrame::activeTranscriptFrame() const {
+    return qobject_cast<CTAVIFrame*>(mdi_->currentSubWindow());
+}
+
+CReptFrame* CMainFrame::activeReportFrame() const {
+    return qobject_cast<CReptFrame*>(mdi_->currentSubWindow());
+}
+
+QList<CTAVIFrame*> CMainFrame::transcriptFrames() const {
+    QList<CTAVIFrame*> frames;
+    for (QMdiSubWindow* w : mdi_->subWindowList())
+        if (auto* f = qobject_cast<CTAVIFrame*>(w))
+            frames << f;
+    return frames;
+}
+
+QList<CReptFrame*> CMainFrame::reportFrames() const {
+    QList<CReptFrame*> frames;
+    for (QMdiSubWindow* w : mdi_->subWindowList())
+        if (auto* f = qobject_cast<CReptFrame*>(w))
+            frames << f;
+    return frames;
+}
+
+void CMainFrame::addFrame(QMdiSubWindow* frame) {
+    mdi_->addSubWindow(frame);
+    connect(frame, &QObject::destroyed, this, &CMainFrame::updateCommands, Qt::QueuedConnection);
+    frame->resize(mdi_->size() * 0.8);
+    frame->show();
+    mdi_->setActiveSubWindow(frame);
+    updateCommands();
+}
+
+CTAVIFrame* CMainFrame::newTranscript(const QString& text) {
+    auto* doc = new CTAVIDoc(app_, ++untitledCount_);
+    auto* frame = new CTAVIFrame(doc, [this](CTAVIFrame& f) { return saveTranscript(f, false); });
+    connect(&frame->view(), &CTAVIView::contextMenuWanted, this,
+            [this](QPoint at) { makeContextMenu(transcriptContextTable())->popup(at); });
+    connect(doc, &CTAVIDoc::backupFailed, this, [this](const QString& path) {
+        app_.prompter().inform("Warning: unable to save automatic backup file (" +
+                               path.toStdString() + ")");
+    });
+    connect(doc->document(), &QTextDocument::undoAvailable, this, &CMainFrame::updateCommands);
+    connect(doc->document(), &QTextDocument::redoAvailable, this, &CMainFrame::updateCommands);
+    addFrame(frame);
+    if (!text.isEmpty()) {
+        doc->setComposedText(text);
+        frame->view().moveCursor(QTextCursor::End);
+    }
+    return frame;
+}
+
+CTAVIFrame* CMainFrame::openTranscript(const QString& path) {
+    const QString absolute = QFileInfo(path).absoluteFilePath();
+    for (CTAVIFrame* f : transcriptFrames())
+        if (f->doc().path() == absolute) {
+            mdi_->setActiveSubWindow(f);
+            return f;
+        }
+    CTAVIFrame* frame = newTranscript(QString());
+    --untitledCount_;
+    QString error;
+    if (!frame->doc().load(absolute, error)) {
+        frame->close();
+        app_.prompter().inform(error.toStdString());
+        return nullptr;
+    }
+    app_.addRecentFile(absolute);
+    frame->view().moveCursor(QTextCursor::Start);
+    frame->view().checkNow();
+    return frame;
+}
+
+CReptFrame* CMainFrame::showReport(ReportContent content, CTAVIDoc* source) {
+    auto* doc = new CReptDoc(std::move(content), source);
+    auto* frame = new CReptFrame(doc);
+    connect(&frame->view(), &CReptView::contextMenuWanted, this,
+            [this](QPoint at) { makeContextMenu(reportContextTable())->popup(at); });
+    addFrame(frame);
+    return frame;
+}
+
+void CMainFrame::closeEvent(QCloseEvent* e) {
+    for (CTAVIFrame* f : transcriptFrames())
+        if (!f->queryClose()) {
+            e->ignore();
+            return;
+        }
+    for (CTAVIFrame* f : transcriptFrames())
+        f->doc().document()->setModified(false);
+    mdi_->closeAllSubWindows();
+    e->accept();
+}
+
+void CMainFrame::closeAll(bool reportsOnly) {
+    if (reportsOnly) {
+        for (CReptFrame* f : reportFrames())
+            f->close();
+        return;
+    }
+    mdi_->closeAllSubWindows();
+}
+
+} // namespace tavi::app

@@ -1,0 +1,123 @@
+// The main frame titled "TAVI": the multiple-document area with transcript
+// and report windows, the main menu built from the command table, the
+// context menus, and the handlers that route each command to its subsystem.
+#pragma once
+
+#include <QMainWindow>
+#include <QMdiArea>
+#include <functional>
+#include <map>
+#include <span>
+
+#include "app/command_table.h"
+#include "app/rept_doc.h"
+
+class QPrinter;
+class QPlainTextEdit;
+class QTextEdit;
+
+namespace tavi::app {
+
+class CTAVIApp;
+class CTAVIDoc;
+class CTAVIFrame;
+class CReptFrame;
+class CErrorListDialog;
+
+class CMainFrame final : public QMainWindow {
+    Q_OBJECT
+public:
+    explicit CMainFrame(CTAVIApp& app);
+    ~CMainFrame() override;
+
+    CTAVIApp& app() { return app_; }
+    QMdiArea& mdiArea() { return *mdi_; }
+    // The action of a command of the main menu by its identifier.
+    QAction* action(const QString& id) const;
+    // The texts of the status-bar prompt for commands not built yet.
+    static QString notAvailablePrompt(const QString& prompt);
+
+    CTAVIFrame* activeTranscriptFrame() const;
+    CReptFrame* activeReportFrame() const;
+    QList<CTAVIFrame*> transcriptFrames() const;
+    QList<CReptFrame*> reportFrames() const;
+
+    CTAVIFrame* newTranscript(const QString& text);
+    CTAVIFrame* openTranscript(const QString& path);
+    CReptFrame* showReport(ReportContent content, CTAVIDoc* source);
+    // Re-evaluates which commands can be chosen now.
+    void updateCommands();
+    QMenu* makeContextMenu(std::span<const MenuEntry> table);
+
+protected:
+    void closeEvent(QCloseEvent* e) override;
+
+private:
+    struct Command {
+        std::function<void()> run;
+        std::function<bool()> enabled; // empty: always
+    };
+
+    void buildMenus();
+    QAction* makeAction(const MenuEntry& entry);
+    void registerCommands();
+    void on(const char* id, std::function<void()> run, std::function<bool()> enabled = {});
+    void refreshRecentFiles();
+    void refreshWindowList();
+    void addFrame(QMdiSubWindow* frame);
+
+    // File
+    void fileNew();
+    void fileOpen();
+    bool saveTranscript(CTAVIFrame& frame, bool askName);
+    void fileSave(bool askName);
+    void fileClose();
+    void filePrint();
+    void filePrintSetup();
+    void pdfPrinterSetup();
+    // Edit
+    void editFindReplace();
+    void editGoToEntry();
+    void editCheck();
+    void editInsertFromList(int kind);
+    QPlainTextEdit* activeEditor() const;
+    QTextEdit* activeReportEditor() const;
+    // Analyze
+    CTAVIDoc* analysisTarget();
+    bool acceptErrors(CTAVIFrame& frame);
+    void analyzeStandardMeasures();
+    void analyzeUtteranceTypes();
+    // Reports
+    void reportSave(bool askFormat);
+    void reportAddToPdfBatch();
+    void reportClosePdfBatch();
+    bool writeReportPdf(const CReptDoc& doc, const QString& path);
+    // Link
+    void linkTranscripts();
+    void unlinkTranscripts();
+    // Setup
+    void setupAnalysisSet();
+    void setupWordBase();
+    void setupTranscriptCut();
+    void setupMovingAverage();
+    void setupBackups();
+    void setupFolder(const QString& which);
+    void setupFont(int which);
+    // Window and Help
+    void closeAll(bool reportsOnly);
+    void showHelpDocument(const QString& relativePath);
+    void showAbout();
+
+    CTAVIApp& app_;
+    QMdiArea* mdi_;
+    std::map<QString, Command> commands_;
+    std::map<QString, QAction*> actions_;
+    QAction* recentAnchor_ = nullptr;
+    QList<QAction*> recentActions_;
+    QMenu* windowMenu_ = nullptr;
+    QList<QAction*> windowActions_;
+    std::unique_ptr<QPrinter> printer_;
+    int untitledCount_ = 0;
+};
+
+} // namespace tavi::app

@@ -1,0 +1,119 @@
+// Which function serves each command of the menus, and when it can be chosen.
+// Commands not listed here stay in their menus, disabled, marked as not
+// available yet.
+#include <QApplication>
+
+#include "app/main_frame.h"
+#include "app/rept_doc.h"
+#include "app/rept_frame.h"
+#include "app/rept_view.h"
+#include "app/tavi_app.h"
+#include "app/tavi_doc.h"
+#include "app/tavi_frame.h"
+#include "app/tavi_view.h"
+
+namespace tavi::app {
+
+void CMainFrame::registerCommands() {
+    auto transcript = [this] { return activeTranscriptFrame() != nullptr; };
+    auto report = [this] { return activeReportFrame() != nullptr; };
+    auto document = [this] { return mdi_->currentSubWindow() != nullptr; };
+    auto analysable = [this] { return activeTranscriptFrame() || activeReportFrame(); };
+    auto editor = [this](auto test) {
+        return [this, test] {
+            QPlainTextEdit* e = activeEditor();
+            return e && test(*e);
+        };
+    };
+
+    // File
+    on("ID_FILE_NEW", [this] { fileNew(); });
+    on("ID_FILE_OPEN", [this] { fileOpen(); });
+    on(
+        "ID_FILE_CLOSE", [this] { fileClose(); }, document);
+    on(
+        "ID_FILE_SAVE", [this] { fileSave(false); }, document);
+    on(
+        "ID_FILE_SAVE_AS", [this] { fileSave(true); }, document);
+    on(
+        "ID_FILE_PRINT", [this] { filePrint(); }, document);
+    on("ID_FILE_PRINT_SETUP", [this] { filePrintSetup(); });
+    on("ID_APP_EXIT", [this] { close(); });
+
+    // Edit
+    on(
+        "ID_EDIT_FIND_REPLACE", [this] { editFindReplace(); }, transcript);
+    on(
+        "ID_EDIT_GOTO_ENTRY", [this] { editGoToEntry(); }, transcript);
+    on(
+        "ID_EDIT_UNDO", [this] { activeEditor()->undo(); },
+        editor([](QPlainTextEdit& e) { return e.document()->isUndoAvailable(); }));
+    on(
+        "ID_EDIT_REDO", [this] { activeEditor()->redo(); },
+        editor([](QPlainTextEdit& e) { return e.document()->isRedoAvailable(); }));
+    on(
+        "ID_EDIT_CUT", [this] { activeEditor()->cut(); }, transcript);
+    on(
+        "ID_EDIT_COPY",
+        [this] {
+            if (QPlainTextEdit* e = activeEditor())
+                e->copy();
+            else if (QTextEdit* r = activeReportEditor())
+                r->copy();
+        },
+        document);
+    on(
+        "ID_EDIT_PASTE", [this] { activeEditor()->paste(); },
+        editor([](QPlainTextEdit& e) { return e.canPaste(); }));
+    on(
+        "ID_EDIT_SELECT_ALL",
+        [this] {
+            if (QPlainTextEdit* e = activeEditor())
+                e->selectAll();
+            else if (QTextEdit* r = activeReportEditor())
+                r->selectAll();
+        },
+        document);
+
+    // Link
+    on(
+        "ID_LINK_LINK", [this] { linkTranscripts(); },
+        [this] { return activeTranscriptFrame() && transcriptFrames().size() >= 2; });
+    on(
+        "ID_LINK_UNLINK", [this] { unlinkTranscripts(); },
+        [this] {
+            CTAVIFrame* f = activeTranscriptFrame();
+            return f && f->doc().linkedWith();
+        });
+
+    // Setup
+    on("ID_EDSET_BACKUP", [this] { setupBackups(); });
+    on("ID_LOC_BACKUP", [this] { setupFolder(QStringLiteral("BACKUPDIR")); });
+
+    // Window
+    on(
+        "ID_WINDOW_CLOSE_ALL", [this] { closeAll(false); }, document);
+    on(
+        "ID_WINDOW_CLOSE_REPORTS", [this] { closeAll(true); },
+        [this] { return !reportFrames().isEmpty(); });
+
+    // Help
+    on("ID_HELP_FINDER", [this] { showHelpDocument(QStringLiteral("docs/measures.md")); });
+    on("ID_CONTEXT_HELP", [this] { showHelpDocument(QStringLiteral("docs/measures.md")); });
+    on("ID_HELP_README", [this] { showHelpDocument(QStringLiteral("README.md")); });
+    on("ID_APP_ABOUT", [this] { showAbout(); });
+    (void)report;
+    (void)analysable;
+}
+
+QPlainTextEdit* CMainFrame::activeEditor() const {
+    CTAVIFrame* f = activeTranscriptFrame();
+    return f ? &f->view() : nullptr;
+}
+
+QTextEdit* CMainFrame::activeReportEditor() const {
+    CReptFrame* f = activeReportFrame();
+    return f ? &f->view() : nullptr;
+}
+
+} // namespace tavi::app

@@ -1,0 +1,50 @@
+// The Link menu: pairing two open transcripts and parting them again.
+#include <QInputDialog>
+
+#include "app/main_frame.h"
+#include "app/tavi_app.h"
+#include "app/tavi_doc.h"
+#include "app/tavi_frame.h"
+#include "base/format.h"
+
+namespace tavi::app {
+
+void CMainFrame::linkTranscripts() {
+    CTAVIFrame* active = activeTranscriptFrame();
+    QStringList names;
+    QList<CTAVIDoc*> others;
+    for (CTAVIFrame* f : transcriptFrames())
+        if (f != active) {
+            names << f->doc().title();
+            others << &f->doc();
+        }
+    bool ok = false;
+    const QString chosen = QInputDialog::getItem(this, QStringLiteral("Link Transcripts"),
+                                                 QStringLiteral("Link ") + active->doc().title() +
+                                                     QStringLiteral(" with:"),
+                                                 names, 0, false, &ok);
+    if (!ok)
+        return;
+    CTAVIDoc* other = others[names.indexOf(chosen)];
+    for (CTAVIDoc* d : {&active->doc(), other})
+        if (CTAVIDoc* old = d->linkedWith())
+            old->setLinkedWith(nullptr);
+    active->doc().setLinkedWith(other);
+    other->setLinkedWith(&active->doc());
+    updateCommands();
+}
+
+void CMainFrame::unlinkTranscripts() {
+    CTAVIDoc& doc = activeTranscriptFrame()->doc();
+    CTAVIDoc* other = doc.linkedWith();
+    const std::string a = doc.title().toStdString();
+    const std::string b = other->title().toStdString();
+    if (app_.prompter().ask(tavi::format("Unlink %s and %s?", a.c_str(), b.c_str())) != Answer::Yes)
+        return;
+    doc.setLinkedWith(nullptr);
+    other->setLinkedWith(nullptr);
+    app_.prompter().inform(tavi::format("%s and %s are no longer linked.", a.c_str(), b.c_str()));
+    updateCommands();
+}
+
+} // namespace tavi::app

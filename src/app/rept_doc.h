@@ -1,0 +1,42 @@
+// The report document: one finished report (its title, its rich text for the
+// window and its saved forms) and the transcript it was made from.
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QString>
+#include <string>
+
+namespace tavi::app {
+
+class CTAVIDoc;
+
+// A report in every form the desktop program shows or saves.
+struct ReportContent {
+    QString title;    // the report's name, e.g. "Standard Measures Report"
+    QString html;     // shown in the report window, printed, written to PDF
+    std::string text; // plain text ("TXT - Text File")
+    std::string rtf;  // "RTF - Rich Text Format (Word)"
+};
+
+class CReptDoc final : public QObject {
+    Q_OBJECT
+public:
+    CReptDoc(ReportContent content, CTAVIDoc* source, QObject* parent = nullptr);
+
+    const ReportContent& content() const { return content_; }
+    QString title() const;
+    // The transcript the report was made from; null once it was closed.
+    CTAVIDoc* source() const;
+    bool sourceClosed() const { return hadSource_ && source_.isNull(); }
+    QString savedPath() const { return savedPath_; }
+    void setSavedPath(const QString& path) { savedPath_ = path; }
+
+private:
+    ReportContent content_;
+    QPointer<CTAVIDoc> source_;
+    bool hadSource_;
+    QString savedPath_;
+};
+
+} // namespace tavi::app

@@ -1,0 +1,20 @@
+// Showing a report.
+#include "app/rept_view.h"
+
+#include <QContextMenuEvent>
+
+#include "app/rept_doc.h"
+
+namespace tavi::app {
+
+CReptView::CReptView(CReptDoc& doc, QWidget* parent) : QTextEdit(parent), doc_(doc) {
+    setReadOnly(true);
+    setHtml(doc.content().html);
+    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+}
+
+void CReptView::contextMenuEvent(QContextMenuEvent* e) {
+    emit contextMenuWanted(e->globalPos());
+}
+
+} // namespace tavi::app
