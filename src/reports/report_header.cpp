@@ -51,10 +51,11 @@ std::vector<LabelledLine> reportHeader(const TranscriptReportContext& context,
             ? position
             : format("%s (%s)", context.speakerLabel.c_str(), position.c_str());
     lines.push_back({"", labels("RL_SPEAKER"), ":  ", speaker});
-    lines.push_back({"", labels("RL_LLSET"), ":  ", context.analysisSetName});
+    lines.push_back({"", labels("RL_BASEDON"), ":  ", context.analysisSetName});
     lines.push_back({"", labels("RL_WORDBASE"), ":  ", context.wordBase});
     lines.push_back({"", labels("RL_TRANCUT"), ":  ", context.cutDescription});
-    lines.push_back({"", labels("RL_HEADTTL"), ":  ", formatElapsedCell(context.elapsedSeconds)});
+    TimeWords words{labels("RL_MINUTES"), labels("RL_SECONDS"), labels("RL_RPMISSING")};
+    lines.push_back(elapsedTimeLine("", labels("RL_TIMEMIN"), context.elapsedSeconds, words));
     return lines;
 }
 

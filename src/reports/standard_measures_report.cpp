@@ -3,6 +3,7 @@
 
 #include <cmath>
 
+#include "base/text.h"
 #include "reports/line_format.h"
 
 namespace tavi {
@@ -24,7 +25,7 @@ constexpr std::array<SmrLineDef, kSmrLineCount> kLines{{
     {"NSS", "RL_NSSSCORE", "", false, false, K::Count},
     {"ESS", "RL_ESSSCORE", "", false, false, K::Count},
     {"PSS", "RL_PSSSCORE", "", false, false, K::Count},
-    {"ONQ", "RL_ONQSCORE", "", false, false, K::Count},
+    {"ONQ", "RL_HCONQ", "", false, false, K::Count},
     {"ONC", "RL_ONC", "", false, false, K::Count},
     // SYNTAX/MORPHOLOGY
     {"MLUw", "RL_MLUW", "", false, true, K::Mean},
@@ -40,19 +41,19 @@ constexpr std::array<SmrLineDef, kSmrLineCount> kLines{{
     {"MA_NDW", "RL_MOVEAVE", "RL_NDWINITIALS", false, true, K::Mean},
     {"MA_TTR", "RL_MOVEAVE", "RL_TTRINITIALS", false, true, K::Mean},
     // DISCOURSE
-    {"MeanTurnUt", "RL_DCTLU", "", false, false, K::Mean},
-    {"MeanTurnWd", "RL_DCTLW", "", false, false, K::Mean},
-    {"%RespQues", "RL_ULRQ", "", true, false, K::Percent},
+    {"MeanTurnUt", "RL_MEAN", "RL_DCTLU", false, false, K::Mean},
+    {"MeanTurnWd", "RL_MEAN", "RL_DCTLW", false, false, K::Mean},
+    {"%RespQues", "RL_PCRQU", "", false, false, K::Percent},
     {"%RespPrmpt", "RL_ULRIP", "", true, false, K::Percent},
     {"%UtWOverlap", "RL_PCULOV", "", false, false, K::Percent},
     {"%IntrOthSpk", "RL_PCINTROS", "", false, false, K::Percent},
     // VERBAL FACILITY
-    {"WPM", "RL_WDPERMIN", "", false, false, K::Mean},
+    {"WPM", "RL_RPWDPERMIN", "", false, false, K::Mean},
     {"%PauseTime", "RL_PCPZTIME", "", false, false, K::Percent},
     {"%MzWds", "RL_MZWDSPCTOT", "", false, false, K::Percent},
-    {"%AbanUt", "RL_ABANUTT", "", true, false, K::Percent},
-    {"%UtWFluencyCd", "RL_NUTTWFCODE", "", true, false, K::Percent},
-    {"%UtWCSwitchCd", "RL_NUTTWCSCODE", "", true, false, K::Percent},
+    {"%AbanUt", "RL_PCABANUTT", "", false, false, K::Percent},
+    {"%UtWFluencyCd", "RL_ULFLCODE", "", true, false, K::Percent},
+    {"%UtWCSwitchCd", "RL_ULCSCODE", "", true, false, K::Percent},
     // ERRORS
     {"%UtWErrors", "RL_PCERRORS", "", false, false, K::Percent},
     {"%WordErrors", "RL_PCWDERRORS", "", false, false, K::Percent},
@@ -66,7 +67,7 @@ constexpr std::array<SmrSectionDef, 8> kSections{{
     {"RL_HEADSEM", 17, 5},
     {"RL_HEADDC", 22, 6},
     {"RL_VERBFAC", 28, 6},
-    {"RL_ERRORS", 34, 2},
+    {"RL_ERRORS", 34, 2}, // "Errors" elsewhere: upper-cased as a section title
 }};
 
 std::string lineLabel(const SmrLineDef& line, const LabelSource& labels) {
@@ -106,8 +107,7 @@ LabelledLine makeLine(const SmrLineDef& def, const MeasureSource& measures,
     std::optional<double> mean =
         databaseMeans ? databaseMeans(def.measureId) : std::optional<double>();
     if (def.kind == K::ElapsedTime && !mean) {
-        TimeWords words{labels("RL_MINUTES"), labels("RL_SECONDS"),
-                        "Timing information was not provided."};
+        TimeWords words{labels("RL_MINUTES"), labels("RL_SECONDS"), labels("RL_RPMISSING")};
         return elapsedTimeLine(prefix, lineLabel(def, labels), elapsedSeconds(measures), words);
     }
     std::string value = def.kind == K::ElapsedTime ? formatElapsedCell(elapsedSeconds(measures))
@@ -147,7 +147,7 @@ Report buildStandardMeasuresReport(const TranscriptReportContext& context,
     report.header = reportHeader(context, labels);
     bool anyAnalysisSetLine = false;
     for (const auto& sectionDef : kSections) {
-        ReportSection section{labels(sectionDef.titleKey), {}};
+        ReportSection section{toUpperAscii(labels(sectionDef.titleKey)), {}};
         for (size_t i = sectionDef.firstLine; i < sectionDef.firstLine + sectionDef.lineCount;
              ++i) {
             if (!variables.chosen[i])
@@ -159,7 +159,7 @@ Report buildStandardMeasuresReport(const TranscriptReportContext& context,
             report.sections.push_back(std::move(section));
     }
     if (anyAnalysisSetLine)
-        report.footnotes.push_back(labels("RL_ITALICSNOTE"));
+        report.footnotes.push_back(labels("RL_ITALICSNOTE2"));
     return report;
 }
 

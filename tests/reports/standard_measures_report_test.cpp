@@ -25,16 +25,35 @@ TranscriptReportContext sampleContext() {
 }
 
 testing::MeasureMap sampleMeasures() {
-    return {{"TotNumUt", 52},      {"TotASetUt", 48},    {"AllWords", 231},
-            {"TimeSec", 185},      {"%IntelUt", 100.0f}, {"%IntelWd", 99.96f},
-            {"MLUw", 4.4375f},     {"MLUm", 5.0625f},    {"%UtWVerb", 87.5f},
-            {"MeanVerbsPerUtt", 1.25f}, {"%UtWNMForms", 4.1666665f}, {"NTW", 213},
-            {"NDW", 98},           {"MA_NTW", 100},      {"MA_NDW", 61.5f},
-            {"MA_TTR", 0.615f},    {"MeanTurnUt", 1.6f}, {"MeanTurnWd", 7.1f},
-            {"%RespQues", 90.0f},  {"%RespPrmpt", 50.0f}, {"%UtWOverlap", 0.0f},
-            {"%IntrOthSpk", 1.9230769f}, {"WPM", 74.918915f}, {"%MzWds", 7.8f},
-            {"%AbanUt", 1.9230769f}, {"%UtWFluencyCd", 0.0f}, {"%UtWCSwitchCd", 0.0f},
-            {"%UtWErrors", 5.7692308f}, {"%WordErrors", 1.3f}};
+    return {{"TotNumUt", 52},
+            {"TotASetUt", 48},
+            {"AllWords", 231},
+            {"TimeSec", 185},
+            {"%IntelUt", 100.0f},
+            {"%IntelWd", 99.96f},
+            {"MLUw", 4.4375f},
+            {"MLUm", 5.0625f},
+            {"%UtWVerb", 87.5f},
+            {"MeanVerbsPerUtt", 1.25f},
+            {"%UtWNMForms", 4.1666665f},
+            {"NTW", 213},
+            {"NDW", 98},
+            {"MA_NTW", 100},
+            {"MA_NDW", 61.5f},
+            {"MA_TTR", 0.615f},
+            {"MeanTurnUt", 1.6f},
+            {"MeanTurnWd", 7.1f},
+            {"%RespQues", 90.0f},
+            {"%RespPrmpt", 50.0f},
+            {"%UtWOverlap", 0.0f},
+            {"%IntrOthSpk", 1.9230769f},
+            {"WPM", 74.918915f},
+            {"%MzWds", 7.8f},
+            {"%AbanUt", 1.9230769f},
+            {"%UtWFluencyCd", 0.0f},
+            {"%UtWCSwitchCd", 0.0f},
+            {"%UtWErrors", 5.7692308f},
+            {"%WordErrors", 1.3f}};
 }
 
 TEST(StandardMeasuresReport, DefaultChoicePrintsSevenSectionsInOrderAsPlainText) {
@@ -45,10 +64,10 @@ TEST(StandardMeasuresReport, DefaultChoicePrintsSevenSectionsInOrderAsPlainText)
 
 Story1.tvi
 Speaker:  Child (1st Speaker)
-Analysis Set:  C&I Verbal Utts
+Based on:  C&I Verbal Utts
 Word Base:  Main Body
 Transcript Cut:  Entire Transcript
-Elapsed Time:  3:05
+Elapsed Time (minutes):  3 Minutes  5 Seconds
 
 TRANSCRIPT LENGTH
   Total Utterances:  52
@@ -153,7 +172,8 @@ TEST(StandardMeasuresReport, SecondSpeakerMissingTimingAndDatabaseMeans) {
         buildStandardMeasuresReport(context, measureSource(values), variables,
                                     labelSource(primaryLabels()), measureSource({{"MLUw", 5.1}}));
     EXPECT_EQ(report.header[1].text(), "Speaker:  Examiner (2nd Speaker)");
-    EXPECT_EQ(report.header[5].text(), "Elapsed Time:     ---");
+    EXPECT_EQ(report.header[5].text(),
+              "Elapsed Time (minutes):  Timing information was not provided.");
     EXPECT_EQ(std::get<LabelledLine>(report.sections[0].items[0]).text(),
               "  Elapsed Time (minutes):  Timing information was not provided.");
     EXPECT_EQ(std::get<LabelledLine>(report.sections[1].items[0]).text(),
