@@ -1,18 +1,20 @@
-// The transcript checker (work in progress).
+// The transcript checker: classifies each line by its first character and
+// runs that kind's checks, gathering the speaker table, timing list and pause
+// tallies on the way; the header checks run at the end.
 #include "transcript/checker.h"
 
 #include "base/format.h"
 #include "base/text.h"
+#include "transcript/char_class.h"
 #include "transcript/err_list.h"
+#include "transcript/header_checks.h"
+#include "transcript/header_line.h"
+#include "transcript/line_kind.h"
 #include "transcript/segmenter.h"
 #include "transcript/speaker_line.h"
+#include "transcript/time_value.h"
 
 namespace tavi {
-
-std::string DateFormat::text() const {
-    return order == DateOrder::MonthDayYear ? format("MM%cDD%cYY", separator, separator)
-                                            : format("DD%cMM%cYY", separator, separator);
-}
 
 int CheckResult::errorCount() const {
     int n = 0;
@@ -25,10 +27,360 @@ int CheckResult::warningCount() const {
     return static_cast<int>(problems.size()) - errorCount();
 }
 
-struct Checker::State {
+namespace {
+
+// Characters shown in messages: control characters in caret notation.
+std::string shown(char32_t c) {
+    if (c < 0x20)
+        return std::string("^") + static_cast<char>(c + 64);
+    if (c == 0x7F)
+        return "^?";
+    return toUtf8(c);
+}
+
+char32_t firstChar(std::string_view text) {
+    size_t pos = 0;
+    return text.empty() ? 0 : nextCodePoint(text, pos);
+}
+
+} // namespace
+
+struct Checker::State final : ProblemSink {
     CheckOptions options;
     ErrList list;
+    CheckResult result;
+    UtteranceSegmenter segmenter;
+    Utterance utterance;
+    int line = 0;
+    bool tallyLine = false; // within-utterance pauses of this line are tallied
+    int mainSpeaker = -1;   // 0 or 1 for an utterance of a main speaker
+    bool speakerLineSeen = false;
+    bool codeOnSpeakerLine = false;
+    bool sectionOpen = false;
+    bool unmatchedEndUsed = false;
+    bool seenUtteranceOrPause = false;
+    int firstUtteranceLine = 0;
+    std::array<int, 128> asciiGroup{}; // identifier -> group + 1, for ASCII letters
+
+    void report(int code, std::string message) {
+        list.report(code, line, options.transcriptIndex, std::move(message));
+    }
+    void problem(int code, std::string message) override { report(code, std::move(message)); }
+    void pause(const Pause& p) override;
+
+    void check(std::string_view text);
+    void codesAndComments(std::string& text, std::vector<std::string>* codes);
+    void speakerLine(std::string& text);
+    void utteranceLine(std::string_view text);
+    int lookUpSpeaker(char32_t id);
+    void timingLine(std::string_view text, const std::vector<std::string>& codes);
+    void pauseLine(std::string_view text, int kind, const std::vector<std::string>& codes);
+    void sectionLine(std::string_view text);
+    void noteTimedPause(int seconds, PauseTally& tally);
+    void noteUntimedPause(PauseTally& tally);
+    void finish();
+    Entry& addEntry(EntryKind kind);
 };
+
+Entry& Checker::State::addEntry(EntryKind kind) {
+    Entry e;
+    e.kind = kind;
+    e.line = line;
+    result.segmented.entries.push_back(std::move(e));
+    return result.segmented.entries.back();
+}
+
+void Checker::State::check(std::string_view text) {
+    LineKind kind = classifyLine(text);
+    if (kind == LineKind::Blank || kind == LineKind::Comment)
+        return;
+    if (kind == LineKind::Header) {
+        if (auto header = parseHeaderLine(text, line))
+            result.segmented.headers.push_back(std::move(*header));
+        return;
+    }
+    if (kind == LineKind::Invalid) {
+        report(109, "Invalid identifier (" + shown(firstChar(text)) + ")");
+        return;
+    }
+    if (kind == LineKind::Utterance) {
+        utteranceLine(text);
+        return;
+    }
+    std::string work(text);
+    std::vector<std::string> codes;
+    codesAndComments(work, kind == LineKind::SpeakerLabels ? nullptr : &codes);
+    std::string_view rest = std::string_view(work).substr(1);
+    switch (kind) {
+    case LineKind::SpeakerLabels:
+        speakerLine(work);
+        break;
+    case LineKind::Timing:
+        timingLine(rest, codes);
+        break;
+    case LineKind::Pause:
+        pauseLine(rest, work[0] == ':' ? 0 : 1, codes);
+        break;
+    case LineKind::Section:
+        sectionLine(rest);
+        break;
+    default:
+        break;
+    }
+}
+
+// The comment and code check of identifier lines: comments and codes are
+// blanked; codes are collected (or, on the "$" line, reported).
+void Checker::State::codesAndComments(std::string& text, std::vector<std::string>* codes) {
+    bool inComment = false, inCode = false;
+    size_t start = 0;
+    auto blank = [&](size_t from, size_t to) {
+        for (size_t k = from; k <= to && k < text.size(); ++k)
+            text[k] = ' ';
+    };
+    for (size_t i = 1; i < text.size(); ++i) {
+        char c = text[i];
+        if (inComment) {
+            if (c == '{') {
+                report(137, "nested {comment}.");
+            } else if (c == '}') {
+                blank(start, i);
+                inComment = false;
+            }
+        } else if (inCode) {
+            if (c == '[') {
+                report(128, "nested [code].");
+                text[i] = ' ';
+            } else if (c == ']') {
+                if (codes) {
+                    codes->push_back(text.substr(start + 1, i - start - 1));
+                } else {
+                    report(130, "[] not allowed on speaker label line ($).");
+                    codeOnSpeakerLine = true;
+                }
+                blank(start, i);
+                inCode = false;
+            } else if (isBlank(c)) {
+                report(127, "[code] contains blank space.");
+            } else if (c == '@' || c == '=') {
+                report(-5, format("%c is not a legal [code] character.", c));
+            }
+        } else if (c == '{' || c == '[') {
+            (c == '{' ? inComment : inCode) = true;
+            start = i;
+        } else if (c == '}') {
+            report(138, "unmatched {comment}.");
+            text[i] = ' ';
+        } else if (c == ']') {
+            report(126, "unmatched [code].");
+            text[i] = ' ';
+        }
+    }
+    if (inComment) {
+        report(138, "unmatched {comment}.");
+        blank(start, text.size());
+    }
+    if (inCode) {
+        report(126, "unmatched [code].");
+        blank(start, text.size());
+    }
+}
+
+void Checker::State::speakerLine(std::string& text) {
+    if (speakerLineSeen) {
+        report(102, "more than one $ label line.");
+        return;
+    }
+    speakerLineSeen = true;
+    bool faulty = codeOnSpeakerLine;
+    ParsedSpeakerLine parsed = parseSpeakerLine(std::string_view(text).substr(1));
+    for (SpeakerLineProblem& p : parsed.problems)
+        report(p.code, std::move(p.message));
+    faulty = faulty || !parsed.problems.empty();
+    result.speakers = parsed.table;
+    result.segmented.speakers = parsed.table;
+    result.speakerState = faulty ? SpeakerTableState::Bad : SpeakerTableState::Good;
+    asciiGroup.fill(0);
+    for (int g = 2; g >= 0; --g)
+        for (const std::string& label : parsed.table.groups[g].labels) {
+            auto c = static_cast<unsigned char>(label[0]);
+            if (c < 128)
+                asciiGroup[cls::foldCase(c)] = g + 1;
+        }
+}
+
+int Checker::State::lookUpSpeaker(char32_t id) {
+    if (id < 128) {
+        int g = asciiGroup[cls::foldCase(id)];
+        return g - 1;
+    }
+    return speakerGroupOf(result.speakers, id);
+}
+
+void Checker::State::utteranceLine(std::string_view text) {
+    if (firstUtteranceLine == 0)
+        firstUtteranceLine = line;
+    char32_t id = firstChar(text);
+    int group = -1;
+    if (result.speakerState == SpeakerTableState::NotYetSeen) {
+        report(101, "$ label line not found before 1st utterance.");
+        result.speakerState = SpeakerTableState::Bad;
+    } else {
+        group = lookUpSpeaker(id);
+        if (group < 0 && result.speakerState == SpeakerTableState::Good)
+            report(109, "invalid identifier (" + shown(id) + ").");
+    }
+    if (group < 0)
+        group = 2;
+    mainSpeaker = group < 2 ? group : -1;
+    tallyLine = mainSpeaker >= 0 && (!options.analysedLine || options.analysedLine(line));
+    segmenter.segment(text, line, group, utterance, this);
+    utterance.index = result.utteranceCount++;
+    seenUtteranceOrPause = true;
+    if (options.keepSegmentation) {
+        Entry& e = addEntry(EntryKind::Utterance);
+        e.utterance = static_cast<int>(result.segmented.utterances.size());
+        result.segmented.utterances.push_back(std::move(utterance));
+    }
+}
+
+void Checker::State::pause(const Pause& p) {
+    if (!tallyLine)
+        return;
+    PauseTally& tally = result.pauses.withinUtterance[mainSpeaker];
+    if (!p.timed) {
+        noteUntimedPause(tally);
+        return;
+    }
+    noteTimedPause(p.seconds, tally);
+    if (p.seconds >= 61)
+        report(-8, "within-utterance pause time is 1 minute or longer.");
+}
+
+void Checker::State::noteTimedPause(int seconds, PauseTally& tally) {
+    ++tally.timed;
+    tally.timedSeconds += seconds;
+    if (result.pauses.firstTimedLine == 0)
+        result.pauses.firstTimedLine = line;
+}
+
+void Checker::State::noteUntimedPause(PauseTally& tally) {
+    ++tally.untimed;
+    if (result.pauses.firstUntimedLine == 0)
+        result.pauses.firstUntimedLine = line;
+}
+
+void Checker::State::timingLine(std::string_view text, const std::vector<std::string>& codes) {
+    TimeValue t = readTimeValue(text);
+    Entry* entry = options.keepSegmentation ? &addEntry(EntryKind::Timing) : nullptr;
+    if (entry)
+        entry->codes = codes;
+    if (!t.valid) {
+        report(132, "illegal timing.");
+        return;
+    }
+    if (!t.given) {
+        report(133, "missing timing.");
+        return;
+    }
+    std::vector<TimingEntry>& timings = result.timings;
+    if (timings.empty() && seenUtteranceOrPause) {
+        report(-4, "initial starting time not set (0:00 assumed).");
+        timings.push_back({0, 0, 0});
+    }
+    int seconds = t.elapsed();
+    if (!timings.empty()) {
+        const TimingEntry& last = timings.back();
+        if (seconds < last.seconds)
+            report(131, "time is decreasing.");
+        else if (seconds == last.seconds && result.utteranceCount > last.utterancesSeen)
+            report(131, "time is not increasing.");
+    }
+    timings.push_back({seconds, result.utteranceCount, line});
+    if (entry)
+        entry->seconds = seconds;
+}
+
+void Checker::State::pauseLine(std::string_view text, int kind,
+                               const std::vector<std::string>& codes) {
+    seenUtteranceOrPause = true;
+    TimeValue t = readTimeValue(text);
+    Entry* entry = options.keepSegmentation ? &addEntry(EntryKind::Pause) : nullptr;
+    if (entry) {
+        entry->pauseKind = kind;
+        entry->codes = codes;
+        entry->seconds = 0;
+    }
+    if (!t.valid) {
+        report(135, "illegal pause time.");
+        return;
+    }
+    PauseTally& tally = result.pauses.pauseLines[kind];
+    if (!t.given) {
+        noteUntimedPause(tally);
+    } else if (t.elapsed() > 0) {
+        noteTimedPause(t.elapsed(), tally);
+        if (entry)
+            entry->seconds = t.elapsed();
+    }
+}
+
+void Checker::State::sectionLine(std::string_view text) {
+    std::string_view word = trim(text);
+    std::vector<atbeginend>& sections = result.segmented.sections;
+    if (equalsIgnoreCase(word, "begin")) {
+        if (sectionOpen) {
+            report(110, "more than one @begin line without an @end line.");
+            return;
+        }
+        sectionOpen = true;
+        sections.push_back({line, 0});
+        if (options.keepSegmentation)
+            addEntry(EntryKind::Begin);
+    } else if (equalsIgnoreCase(word, "end")) {
+        if (sectionOpen) {
+            sectionOpen = false;
+            sections.back().end = line;
+        } else if (!unmatchedEndUsed) {
+            unmatchedEndUsed = true;
+            sections.push_back({firstUtteranceLine != 0 ? firstUtteranceLine : line, line});
+        } else {
+            report(110, "more than one @end line without an @begin line.");
+            return;
+        }
+        if (options.keepSegmentation)
+            addEntry(EntryKind::End);
+    } else {
+        report(110, "illegal @begin or @end entry.");
+    }
+}
+
+void Checker::State::finish() {
+    line = 1;
+    HeaderCheckOptions headerOptions{options.dateFormat, options.dobKeyword, options.doeKeyword,
+                                     options.caKeyword, options.requiredHeader};
+    result.ageMonths = checkHeaders(
+        result.segmented.headers, headerOptions, [this](int code, int at, std::string message) {
+            list.report(code, at, options.transcriptIndex, std::move(message));
+        });
+    const PauseTallies& p = result.pauses;
+    if (p.firstTimedLine != 0 && p.firstUntimedLine != 0)
+        report(-7, format("some pauses are timed (see line %d) and some are not timed (see "
+                          "line %d)",
+                          p.firstTimedLine, p.firstUntimedLine));
+    if (!result.timings.empty())
+        result.elapsedSeconds = result.timings.back().seconds - result.timings.front().seconds;
+    long long pauseSeconds = 0;
+    for (const PauseTally& t : p.pauseLines)
+        pauseSeconds += t.timedSeconds;
+    for (const PauseTally& t : p.withinUtterance)
+        pauseSeconds += t.timedSeconds;
+    if (result.elapsedSeconds > 0 && pauseSeconds >= result.elapsedSeconds)
+        report(136, "pause time exceeds elapsed time");
+    result.hasErrors = list.hasErrors();
+    result.hasWarnings = list.hasWarnings();
+    result.problems = list.records();
+}
 
 Checker::Checker(CheckOptions options) : state_(std::make_unique<State>()) {
     state_->options = std::move(options);
@@ -36,11 +388,17 @@ Checker::Checker(CheckOptions options) : state_(std::make_unique<State>()) {
 
 Checker::~Checker() = default;
 
-void Checker::checkLine(std::string_view, int) {}
+void Checker::checkLine(std::string_view text, int line) {
+    state_->line = line;
+    state_->check(text);
+}
 
 CheckResult Checker::finish() {
-    CheckResult result;
-    result.problems = state_->list.records();
+    state_->finish();
+    CheckResult result = std::move(state_->result);
+    CheckOptions options = std::move(state_->options);
+    state_ = std::make_unique<State>();
+    state_->options = std::move(options);
     return result;
 }
 
@@ -52,14 +410,8 @@ CheckResult checkTranscript(const TranLines& lines, const CheckOptions& options)
 }
 
 Utterance segmentUtterance(std::string_view line, int lineNumber, const SpeakerTable& speakers) {
-    size_t pos = 0;
-    int group = 2;
-    if (!line.empty()) {
-        int g = speakerGroupOf(speakers, nextCodePoint(line, pos));
-        if (g >= 0)
-            group = g;
-    }
-    return segmentUtterance(line, lineNumber, group);
+    int group = line.empty() ? -1 : speakerGroupOf(speakers, firstChar(line));
+    return segmentUtterance(line, lineNumber, group < 0 ? 2 : group);
 }
 
 SegmentedTranscript segmentTranscript(const TranLines& lines) {

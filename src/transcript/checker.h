@@ -10,20 +10,12 @@
 #include <string>
 #include <vector>
 
+#include "transcript/date_format.h"
 #include "transcript/err.h"
 #include "transcript/segmented_transcript.h"
 #include "transcript/tran_line.h"
 
 namespace tavi {
-
-enum class DateOrder { MonthDayYear, DayMonthYear };
-
-struct DateFormat {
-    DateOrder order = DateOrder::MonthDayYear;
-    char separator = '-'; // "-", "." or "/"
-    // "MM-DD-YY" or "DD-MM-YY" with the separator.
-    std::string text() const;
-};
 
 struct CheckOptions {
     int transcriptIndex = 0; // stored in every record

@@ -1,13 +1,552 @@
-// Utterance segmentation (work in progress).
+// Utterance segmentation. The line is decoded once into code points and then
+// worked on in place, in the notation's order: comments and codes, terminator,
+// parenthetical remarks and separators, mazes and overlaps, pauses and stray
+// characters, word links, words. Every faulty part is blanked after it is
+// reported, so later steps never report it again.
 #include "transcript/segmenter.h"
+
+#include <algorithm>
+
+#include "base/format.h"
+#include "base/text.h"
+#include "transcript/char_class.h"
+#include "transcript/word_split.h"
 
 namespace tavi {
 
-void UtteranceSegmenter::segment(std::string_view, int lineNumber, int speakerGroup, Utterance& out,
-                                 ProblemSink*) {
-    out = Utterance{};
-    out.line = lineNumber;
+namespace {
+
+using Span = std::pair<size_t, size_t>; // [first, last] positions, both inclusive
+
+constexpr char32_t kBlank = U' ';
+constexpr size_t kMaxPauseRun = 20;
+
+std::string utf8(std::u32string_view s) {
+    std::string out;
+    out.reserve(s.size());
+    for (char32_t c : s)
+        appendUtf8(out, c);
+    return out;
+}
+
+bool inSpans(const std::vector<Span>& spans, size_t pos) {
+    for (const Span& s : spans)
+        if (pos >= s.first && pos <= s.second)
+            return true;
+    return false;
+}
+
+// One line being cut; lives for one call of UtteranceSegmenter::segment.
+class LineCutter {
+public:
+    LineCutter(std::u32string& buf, std::u32string& scratch, Utterance& out, ProblemSink* sink)
+        : buf_(buf), scratch_(scratch), out_(out), sink_(sink) {}
+
+    void run();
+
+private:
+    void report(int code, const char* message) {
+        if (sink_)
+            sink_->problem(code, message);
+    }
+    void blank(size_t first, size_t last) {
+        for (size_t i = first; i <= last && i < end_; ++i)
+            buf_[i] = kBlank;
+    }
+    bool findEnd();
+    void commentsAndCodes();
+    void parentheticals();
+    void closeParenthetical(size_t open, size_t close);
+    void mazesAndOverlaps();
+    void pausesAndCharacters();
+    size_t readPause(size_t colon);
+    void words();
+    void addWord(std::u32string_view text, size_t position, bool linked, bool malformed);
+    void attachCodes();
+    void classify();
+
+    std::u32string& buf_;
+    std::u32string& scratch_;
+    Utterance& out_;
+    ProblemSink* sink_;
+    size_t end_ = 0; // position of the terminator (or of the end of the text)
+    bool missingTerminator_ = false;
+    bool textAfterEnd_ = false;
+    std::vector<size_t> codePositions_;
+    std::vector<Span> mazes_;
+    std::vector<Span> overlaps_;
+};
+
+void LineCutter::run() {
+    if (buf_.size() < 2 || !(cls::isSpace(buf_[1]) || cls::isTerminator(buf_[1]))) {
+        report(120, "speaker id is not followed by blank space.");
+        out_.hasTerminator = false;
+        return;
+    }
+    findEnd();
+    commentsAndCodes();
+    if (missingTerminator_)
+        report(108, "missing end of utterance punctuation.");
+    else if (textAfterEnd_)
+        report(112, "characters found after end of utterance.");
+    parentheticals();
+    mazesAndOverlaps();
+    pausesAndCharacters();
+    words();
+    attachCodes();
+    classify();
+}
+
+// The terminator is the last non-blank character; otherwise the first
+// terminator outside a code or comment ends the utterance.
+bool LineCutter::findEnd() {
+    size_t n = buf_.size();
+    while (n > 1 && cls::isSpace(buf_[n - 1]))
+        --n;
+    if (n > 1 && cls::isTerminator(buf_[n - 1])) {
+        end_ = n - 1;
+    } else {
+        bool inCode = false, inComment = false;
+        end_ = n;
+        for (size_t i = 1; i < n; ++i) {
+            char32_t c = buf_[i];
+            if (inComment) {
+                inComment = c != U'}';
+            } else if (inCode) {
+                inCode = c != U']';
+            } else if (c == U'{') {
+                inComment = true;
+            } else if (c == U'[') {
+                inCode = true;
+            } else if (cls::isTerminator(c)) {
+                end_ = i;
+                break;
+            }
+        }
+        if (end_ == n) {
+            missingTerminator_ = true;
+            out_.hasTerminator = false;
+            return false;
+        }
+        textAfterEnd_ = true;
+    }
+    out_.terminatorChar = buf_[end_];
+    out_.terminator = static_cast<Terminator>(cls::terminatorKind(buf_[end_]));
+    return true;
+}
+
+void LineCutter::commentsAndCodes() {
+    bool inComment = false, inCode = false;
+    size_t start = 0;
+    for (size_t i = 1; i < end_; ++i) {
+        char32_t c = buf_[i];
+        if (inComment) {
+            if (c == U'{') {
+                report(137, "nested {comment}.");
+            } else if (c == U'}') {
+                blank(start, i);
+                inComment = false;
+                out_.hasComment = true;
+            }
+        } else if (inCode) {
+            if (c == U'[') {
+                report(128, "nested [code].");
+                buf_[i] = kBlank;
+            } else if (c == U']') {
+                out_.codes.push_back(
+                    Code{utf8(std::u32string_view(buf_).substr(start + 1, i - start - 1)), -1, -1});
+                codePositions_.push_back(start);
+                blank(start, i);
+                inCode = false;
+            } else if (cls::isSpace(c)) {
+                report(127, "[code] contains blank space.");
+            } else if (c == U'@' || c == U'=') {
+                if (sink_)
+                    sink_->problem(
+                        -5, format("%c is not a legal [code] character.", static_cast<char>(c)));
+            }
+        } else if (c == U'{') {
+            inComment = true;
+            start = i;
+        } else if (c == U'}') {
+            report(138, "unmatched {comment}.");
+            buf_[i] = kBlank;
+        } else if (c == U'[') {
+            inCode = true;
+            start = i;
+        } else if (c == U']') {
+            report(126, "unmatched [code].");
+            buf_[i] = kBlank;
+        }
+    }
+    if (inComment) {
+        report(138, "unmatched {comment}.");
+        blank(start, end_ - 1);
+    }
+    if (inCode) {
+        report(126, "unmatched [code].");
+        blank(start, end_ - 1);
+    }
+}
+
+// "((" ... "))": the inner text is kept as a parenthetical remark and blanked
+// (angle brackets excepted). Separators are blanked in the same scan.
+void LineCutter::parentheticals() {
+    size_t open = 0;
+    bool isOpen = false;
+    int inner = 0;     // single-bracket balance inside the open remark
+    int mazeDepth = 0; // single-bracket depth outside remarks
+    size_t i = 1;
+    while (i < end_) {
+        char32_t c = buf_[i];
+        bool pairNext = i + 1 < end_ && buf_[i + 1] == c;
+        if (c == U'(' && pairNext) {
+            if (isOpen) {
+                report(124, "nested ((parenthetical remarks)).");
+                blank(i, i + 1);
+            } else {
+                isOpen = true;
+                open = i;
+                inner = 0;
+            }
+            i += 2;
+            continue;
+        }
+        if (c == U')' && pairNext && !(isOpen && inner > 0)) {
+            if (isOpen) {
+                closeParenthetical(open, i + 1);
+                isOpen = false;
+                i += 2;
+                continue;
+            }
+            if (mazeDepth == 0) {
+                report(125, "unmatched ((parenthetical)).");
+                blank(i, i + 1);
+                i += 2;
+                continue;
+            }
+        }
+        if (c == U'(') {
+            isOpen ? ++inner : ++mazeDepth;
+        } else if (c == U')') {
+            if (!isOpen) {
+                mazeDepth = std::max(0, mazeDepth - 1);
+            } else if (inner > 0) {
+                --inner;
+            } else {
+                report(124, "incorrect nesting of (mazes) and ((parenthetical remarks)).");
+                buf_[i] = kBlank;
+            }
+        } else if (cls::isSeparator(c)) {
+            if (cls::isQuotationMark(c))
+                out_.hasQuotation = true;
+            if (!isOpen)
+                buf_[i] = kBlank;
+        }
+        ++i;
+    }
+    if (isOpen) {
+        report(125, "unmatched ((parenthetical)).");
+        blank(open, open + 1);
+        for (size_t k = open + 2; k < end_; ++k)
+            if (cls::isSeparator(buf_[k]))
+                buf_[k] = kBlank;
+    }
+}
+
+void LineCutter::closeParenthetical(size_t open, size_t close) {
+    std::u32string_view inner = std::u32string_view(buf_).substr(open + 2, close - open - 3);
+    out_.parentheticals.push_back(std::string(trim(utf8(inner))));
+    std::vector<Word> remark = splitRemarkWords(inner);
+    for (Word& w : remark)
+        out_.parentheticalWords.push_back(std::move(w));
+    for (size_t k = open; k <= close; ++k)
+        if (buf_[k] != U'<' && buf_[k] != U'>')
+            buf_[k] = kBlank;
+}
+
+void LineCutter::mazesAndOverlaps() {
+    size_t maze = 0, overlap = 0;
+    bool mazeOpen = false, overlapOpen = false;
+    for (size_t i = 1; i < end_; ++i) {
+        switch (buf_[i]) {
+        case U'(':
+            if (mazeOpen) {
+                report(124, "nested (maze).");
+                buf_[i] = kBlank;
+            } else {
+                mazeOpen = true;
+                maze = i;
+            }
+            break;
+        case U')':
+            if (!mazeOpen) {
+                report(125, "unmatched (maze).");
+            } else {
+                mazes_.push_back({maze, i});
+                buf_[maze] = kBlank;
+                mazeOpen = false;
+            }
+            buf_[i] = kBlank;
+            break;
+        case U'<':
+            if (overlapOpen) {
+                report(139, "nested <overlap>.");
+                buf_[i] = kBlank;
+            } else {
+                overlapOpen = true;
+                overlap = i;
+            }
+            break;
+        case U'>':
+            if (!overlapOpen) {
+                report(140, "unmatched <overlap>.");
+            } else {
+                overlaps_.push_back({overlap, i});
+                buf_[overlap] = kBlank;
+                overlapOpen = false;
+            }
+            buf_[i] = kBlank;
+            break;
+        default:
+            break;
+        }
+    }
+    if (mazeOpen) {
+        report(125, "unmatched (maze).");
+        buf_[maze] = kBlank;
+    }
+    if (overlapOpen) {
+        report(140, "unmatched <overlap>.");
+        buf_[overlap] = kBlank;
+    }
+    out_.hasOverlap = !overlaps_.empty();
+    out_.mazes.resize(mazes_.size());
+}
+
+// A piece of a linked word has "_" only at its ends, and only its last piece
+// carries bound morphemes or clitics.
+bool wellFormedLinkPiece(std::u32string_view piece, bool first, bool last) {
+    size_t from = first ? 0 : 1;
+    size_t to = last ? piece.size() : piece.size() - 1;
+    for (size_t k = from; k < to; ++k) {
+        char32_t c = piece[k];
+        if (c == U'_' || (!last && (c == U'/' || c == U'+')))
+            return false;
+    }
+    return true;
+}
+
+// Characters shown in messages: control characters in caret notation.
+std::string shown(char32_t c) {
+    if (c < 0x20)
+        return std::string("^") + static_cast<char>(c + 64);
+    if (c == 0x7F)
+        return "^?";
+    return toUtf8(c);
+}
+
+void LineCutter::pausesAndCharacters() {
+    for (size_t i = 1; i < end_; ++i) {
+        char32_t c = buf_[i];
+        if (c == U':') {
+            i = readPause(i);
+        } else if (cls::isTerminator(c)) {
+            report(112, "characters found after end of utterance");
+            buf_[i] = kBlank;
+        } else if ((cls::isLineIdentifier(c) && c != U'+') || cls::isControl(c)) {
+            if (sink_)
+                sink_->problem(118, "utterance contains invalid character (" + shown(c) + ").");
+            buf_[i] = kBlank;
+        }
+    }
+}
+
+// Reads the pause around the ":" at `colon`, blanks it and returns the
+// position of its last character.
+size_t LineCutter::readPause(size_t colon) {
+    size_t first = colon;
+    while (first > 1 && cls::isDigit(buf_[first - 1]))
+        --first;
+    size_t last = colon + 1;
+    while (last < end_ && (cls::isDigit(buf_[last]) || buf_[last] == U':'))
+        ++last;
+    Pause pause;
+    bool legal = true;
+    if (last - first > 1) {
+        long long minutes = 0, seconds = 0;
+        bool afterColon = false;
+        for (size_t k = first; k < last; ++k) {
+            if (k == colon) {
+                afterColon = true;
+            } else if (buf_[k] == U':') {
+                legal = false;
+            } else {
+                long long& field = afterColon ? seconds : minutes;
+                field = std::min<long long>(field * 10 + (buf_[k] - U'0'), 1000000000);
+            }
+        }
+        long long total = minutes * 60 + seconds;
+        legal = legal && last - first < kMaxPauseRun && total >= 1;
+        pause.timed = true;
+        pause.seconds = static_cast<int>(std::min<long long>(total, 1000000000));
+    }
+    if (legal) {
+        out_.pauses.push_back(pause);
+        if (sink_)
+            sink_->pause(pause);
+    } else {
+        report(134, "illegal within-utterance pause time.");
+    }
+    blank(first, last - 1);
+    return last - 1;
+}
+
+// Word links, then each word.
+void LineCutter::words() {
+    std::u32string_view text(buf_);
+    scratch_.clear();
+    size_t linkPosition = 0;
+    bool linkOpen = false;
+    bool linkMalformed = false;
+    std::string linkShown; // the pieces as written, for messages
+    auto closeLink = [&](bool complete) {
+        if (!complete && sink_)
+            sink_->problem(143, "unmatched word link (" + linkShown + ").");
+        if (!complete && !scratch_.empty() && scratch_.back() == U'_')
+            scratch_.pop_back();
+        addWord(scratch_, linkPosition, complete, linkMalformed);
+        scratch_.clear();
+        linkShown.clear();
+        linkOpen = false;
+    };
+    size_t i = 1;
+    while (i < end_) {
+        if (cls::isSpace(text[i])) {
+            ++i;
+            continue;
+        }
+        size_t start = i;
+        while (i < end_ && !cls::isSpace(text[i]))
+            ++i;
+        std::u32string_view piece = text.substr(start, i - start);
+        bool opens = piece.size() > 1 && piece.back() == U'_';
+        bool continues = piece.size() > 1 && piece.front() == U'_';
+        if (piece == U"_") {
+            report(143, "unattached word link character (_)");
+            continue;
+        }
+        bool malformed = !wellFormedLinkPiece(piece, !continues, !opens);
+        if (continues && linkOpen) {
+            linkMalformed = linkMalformed || malformed;
+            scratch_.append(piece.substr(1));
+            linkShown += " " + utf8(piece);
+            if (!opens)
+                closeLink(true);
+            continue;
+        }
+        if (linkOpen)
+            closeLink(false);
+        if (continues) {
+            if (sink_)
+                sink_->problem(143, "unmatched word link (" + utf8(piece) + ").");
+            piece.remove_prefix(1);
+        }
+        if (opens) {
+            linkOpen = true;
+            linkMalformed = malformed;
+            linkPosition = start;
+            scratch_.assign(piece);
+            linkShown = utf8(piece);
+            continue;
+        }
+        addWord(piece, start, false, malformed);
+    }
+    if (linkOpen)
+        closeLink(false);
+}
+
+void LineCutter::addWord(std::u32string_view text, size_t position, bool linked, bool malformed) {
+    if (malformed && sink_)
+        sink_->problem(143, "incorrect format for linked word (" + utf8(text) + ").");
+    Word word;
+    if (!splitWord(text, linked, word, sink_))
+        return;
+    word.position = static_cast<int>(position);
+    word.linked = linked;
+    for (size_t m = 0; m < mazes_.size(); ++m) {
+        if (position >= mazes_[m].first && position <= mazes_[m].second) {
+            word.inMaze = true;
+            word.maze = static_cast<int>(m);
+            out_.mazes[m].words.push_back(static_cast<int>(out_.words.size()));
+        }
+    }
+    word.inOverlap = inSpans(overlaps_, position);
+    out_.words.push_back(std::move(word));
+}
+
+// A code followed by more words belongs to the word before it; a code after
+// the last word belongs to the utterance.
+void LineCutter::attachCodes() {
+    const std::vector<Word>& words = out_.words;
+    size_t w = 0;
+    for (size_t c = 0; c < out_.codes.size(); ++c) {
+        size_t pos = codePositions_[c];
+        while (w < words.size() && static_cast<size_t>(words[w].position) < pos)
+            ++w;
+        int before = static_cast<int>(w) - 1;
+        out_.codes[c].precedingWord = before;
+        bool atEnd = w == words.size();
+        out_.codes[c].word = atEnd ? -1 : before;
+        if (!atEnd && before >= 0)
+            out_.words[before].codes.push_back(static_cast<int>(c));
+    }
+}
+
+// Unintelligible when every main-body word is an unintelligible mark, partly
+// when some are; nonverbal when no word is spoken outside mazes but a comment
+// is there.
+void LineCutter::classify() {
+    int spoken = 0, marks = 0;
+    for (const Word& w : out_.words) {
+        if (w.inMaze || w.omitted)
+            continue;
+        ++spoken;
+        marks += w.unintelligible ? 1 : 0;
+    }
+    if (marks > 0)
+        out_.intelligibility =
+            marks == spoken ? Intelligibility::Unintelligible : Intelligibility::Partly;
+    out_.nonverbal = spoken == 0 && out_.hasComment;
+}
+
+} // namespace
+
+void UtteranceSegmenter::segment(std::string_view line, int lineNumber, int speakerGroup,
+                                 Utterance& out, ProblemSink* sink) {
     out.speakerGroup = speakerGroup;
+    out.line = lineNumber;
+    out.terminatorChar = U'.';
+    out.terminator = Terminator::Statement;
+    out.words.clear();
+    out.codes.clear();
+    out.mazes.clear();
+    out.parentheticals.clear();
+    out.parentheticalWords.clear();
+    out.pauses.clear();
+    out.hasComment = out.hasQuotation = out.hasOverlap = false;
+    out.hasTerminator = true;
+    out.intelligibility = Intelligibility::Intelligible;
+    out.nonverbal = false;
+
+    buf_.clear();
+    size_t pos = 0;
+    while (pos < line.size()) {
+        auto b = static_cast<unsigned char>(line[pos]);
+        buf_.push_back(b < 0x80 ? (++pos, b) : nextCodePoint(line, pos));
+    }
+    out.speakerId = buf_.empty() ? 0 : buf_[0];
+    LineCutter(buf_, scratch_, out, sink).run();
 }
 
 Utterance segmentUtterance(std::string_view line, int lineNumber, int speakerGroup,

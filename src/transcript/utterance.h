@@ -41,14 +41,17 @@ struct Word {
     bool inOverlap = false;            // inside "< >"
     bool linked = false;               // pieces joined with "_"
     bool unintelligible = false;       // "X", "XX" or "XXX" (any case), maybe with endings
+    bool incomplete = false;           // a part word ending in "*", e.g. "ba*"
+    int position = 0;                  // code-point offset of the word in its line
 
     // A word that counts: main body, not omitted, not an unintelligible mark.
     bool isMainBodyWord() const { return !inMaze && !omitted && !unintelligible; }
 };
 
 struct Code {
-    std::string text; // between the brackets, e.g. "EW:went"
-    int word = -1;    // index into Utterance::words of the word it follows; -1: the utterance
+    std::string text;       // between the brackets, e.g. "EW:went"
+    int word = -1;          // index into Utterance::words of the word it follows; -1: the utterance
+    int precedingWord = -1; // the word written before it, also for a code at the end; -1: none
 };
 
 struct Maze {
@@ -76,6 +79,8 @@ struct Utterance {
     bool hasComment = false;
     bool hasQuotation = false;
     bool hasOverlap = false;
+    bool hasTerminator = true;            // false when the line has no end-of-utterance punctuation
+    std::vector<Word> parentheticalWords; // the words of the "(( ))" remarks, inParenthetical
 
     Intelligibility intelligibility = Intelligibility::Intelligible;
     bool nonverbal = false; // no main-body words but a comment, e.g. "C {nods}."

@@ -1,0 +1,152 @@
+// `tavi check`: runs the checker over transcripts and lists every problem the
+// way the desktop program's error list does.
+#include <filesystem>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "base/format.h"
+#include "cli/args.h"
+#include "cli/command.h"
+#include "transcript/check_listing.h"
+#include "transcript/checker.h"
+#include "transcript/transcript_file.h"
+
+namespace {
+
+using namespace tavi;
+
+std::string jsonString(std::string_view s) {
+    std::string out = "\"";
+    for (char ch : s) {
+        auto c = static_cast<unsigned char>(ch);
+        switch (ch) {
+        case '"':
+            out += "\\\"";
+            break;
+        case '\\':
+            out += "\\\\";
+            break;
+        case '\n':
+            out += "\\n";
+            break;
+        case '\r':
+            out += "\\r";
+            break;
+        case '\t':
+            out += "\\t";
+            break;
+        default:
+            if (c < 0x20 || c == 0x7F)
+                out += format("\\u%04x", c);
+            else
+                out.push_back(ch);
+        }
+    }
+    return out + "\"";
+}
+
+// "MM-DD-YY" or "DD.MM.YY" (any of "-", ".", "/").
+bool parseDateFormat(const std::string& text, DateFormat& format) {
+    if (text.size() != 8 || text[2] != text[5] || text.substr(6) != "YY")
+        return false;
+    char sep = text[2];
+    if (sep != '-' && sep != '.' && sep != '/')
+        return false;
+    std::string order = text.substr(0, 2) + text.substr(3, 2);
+    if (order != "MMDD" && order != "DDMM")
+        return false;
+    format.separator = sep;
+    format.order = order == "MMDD" ? DateOrder::MonthDayYear : DateOrder::DayMonthYear;
+    return true;
+}
+
+struct FileResult {
+    std::string path;
+    CheckResult check;
+};
+
+void printText(const std::vector<FileResult>& results, std::ostream& out) {
+    int errors = 0, warnings = 0;
+    for (const FileResult& r : results) {
+        if (results.size() > 1)
+            out << r.path << '\n';
+        for (const err& e : r.check.problems)
+            out << formatProblem(e) << '\n';
+        errors += r.check.errorCount();
+        warnings += r.check.warningCount();
+    }
+    out << checkSummary(errors, warnings) << '\n';
+}
+
+void printJson(const std::vector<FileResult>& results, std::ostream& out) {
+    out << '[';
+    bool first = true;
+    for (const FileResult& r : results) {
+        for (const err& e : r.check.problems) {
+            out << (first ? "\n  " : ",\n  ");
+            first = false;
+            out << "{\"file\": " << jsonString(r.path) << ", \"code\": " << e.code
+                << ", \"line\": " << e.line << ", \"message\": " << jsonString(e.message) << '}';
+        }
+    }
+    out << (first ? "]\n" : "\n]\n");
+}
+
+int run(cli::CommandContext& ctx) {
+    cli::Args args(ctx.args, {"--date-format", "--require-header"}, {"--json"});
+    if (!args.ok() || args.positional().empty()) {
+        ctx.err << "tavi check: " << (args.ok() ? "no transcript given" : args.error()) << '\n';
+        return cli::kExitUsage;
+    }
+    CheckOptions options;
+    if (auto f = args.value("--date-format"); f && !parseDateFormat(*f, options.dateFormat)) {
+        ctx.err << "tavi check: unknown date format " << *f << " (use e.g. MM-DD-YY or DD.MM.YY)\n";
+        return cli::kExitUsage;
+    }
+    if (auto h = args.value("--require-header"))
+        options.requiredHeader = *h;
+
+    std::vector<FileResult> results;
+    bool unreadable = false, errors = false;
+    for (const std::string& path : args.positional()) {
+        std::error_code ec;
+        LoadedTranscript t;
+        if (!std::filesystem::is_directory(path, ec))
+            t = loadTranscript(path);
+        if (!t.ok) {
+            ctx.err << "tavi check: cannot read " << path << '\n';
+            unreadable = true;
+            continue;
+        }
+        CheckResult check = checkTranscript(t.lines, options);
+        errors = errors || check.hasErrors;
+        results.push_back({path, std::move(check)});
+    }
+    if (args.has("--json"))
+        printJson(results, ctx.out);
+    else
+        printText(results, ctx.out);
+    if (unreadable)
+        return cli::kExitUsage;
+    return errors ? cli::kExitFailed : cli::kExitOk;
+}
+
+const cli::CommandRegistrar reg{
+    {"check", "check transcripts against the transcription notation",
+     "Usage: tavi check [--json] [--date-format MM-DD-YY] [--require-header KEYWORD] FILE...\n\n"
+     "Checks each transcript and lists every problem, one per line:\n"
+     "  E<code> on entry <line>: <message>        an error\n"
+     "  Warning #<n> on entry <line>: <message>   a warning\n"
+     "With several files, each file's problems follow a line holding its path.\n"
+     "A summary line ends the list.\n\n"
+     "Options:\n"
+     "  --json                    print one JSON array of {file, code, line, message}\n"
+     "  --date-format FORMAT      date format of the DOB and DOE header lines:\n"
+     "                            MM-DD-YY (default) or DD-MM-YY, with -, . or /\n"
+     "  --require-header KEYWORD  warn when this + header line is missing\n\n"
+     "Exit status: 0 no errors, 1 a transcript has errors, 2 bad usage or a file\n"
+     "that cannot be read.\n",
+     run}};
+
+} // namespace

@@ -1,0 +1,251 @@
+// The word rules: marks, omissions, idiosyncratic forms, bound prefixes,
+// bound morphemes, clitics and root identifications.
+#include "transcript/word_split.h"
+
+#include <algorithm>
+
+#include "base/text.h"
+#include "transcript/char_class.h"
+
+namespace tavi {
+
+namespace {
+
+std::string utf8(std::u32string_view s) {
+    std::string out;
+    out.reserve(s.size());
+    for (char32_t c : s)
+        appendUtf8(out, c);
+    return out;
+}
+
+class WordSplitter {
+public:
+    WordSplitter(std::u32string_view text, bool linked, Word& word, ProblemSink* sink)
+        : w_(text), linked_(linked), word_(word), sink_(sink) {}
+    bool run();
+
+private:
+    void report(int code, const char* message) {
+        if (sink_)
+            sink_->problem(code, message);
+    }
+    void checkRootIdentification();
+    void checkMarks();
+    void splitStem(std::u32string_view stem, char32_t nextMark);
+    void splitEndings(std::u32string_view rest);
+    bool legalEnding(std::u32string_view ending) const;
+    bool legalRoot(std::u32string_view root) const;
+
+    std::u32string_view w_;
+    bool linked_;
+    Word& word_;
+    ProblemSink* sink_;
+};
+
+bool WordSplitter::run() {
+    if (w_.starts_with(U'+')) {
+        report(-6, "+ should not be used to mark unbound clitics (ignored).");
+        w_.remove_prefix(1);
+        if (w_.empty())
+            return false;
+    }
+    word_.text = utf8(w_);
+    checkRootIdentification();
+    checkMarks();
+    size_t mark = w_.find_first_of(U"/+");
+    std::u32string_view stem = w_.substr(0, mark);
+    splitStem(stem, mark == std::u32string_view::npos ? 0 : w_[mark]);
+    if (mark != std::u32string_view::npos)
+        splitEndings(w_.substr(mark));
+    return true;
+}
+
+// "written|root": one "|", neither first nor last, the root of word
+// characters. A word ending in "||" is accepted as it stands.
+void WordSplitter::checkRootIdentification() {
+    size_t bar = w_.find(U'|');
+    if (bar == std::u32string_view::npos || w_.ends_with(U"||"))
+        return;
+    bool bad = bar == 0 || w_.back() == U'|' || w_.find(U'|', bar + 1) != std::u32string_view::npos;
+    if (!bad) {
+        std::u32string_view root = w_.substr(bar + 1);
+        root = root.substr(0, root.find_first_of(U"/+"));
+        bad = root.empty() || !std::all_of(root.begin(), root.end(), [](char32_t c) {
+                  return cls::isWordChar(c) || (c == U'%');
+              });
+        if (!bad && root.starts_with(U'%'))
+            root.remove_prefix(1);
+        word_.rootIdentification = utf8(root);
+    }
+    if (bad)
+        report(119, "bad root identification format (|).");
+}
+
+// "*" and "%" after the first character.
+void WordSplitter::checkMarks() {
+    for (size_t i = 1; i < w_.size(); ++i) {
+        char32_t c = w_[i];
+        char32_t before = w_[i - 1];
+        if (c == U'*' && before != U'/' && before != U'+') {
+            char32_t after = i + 1 < w_.size() ? w_[i + 1] : 0;
+            if (after == U'/')
+                report(117, "bad omitted bound morpheme form (use /*).");
+            else if (after == U'+')
+                report(141, "bad omitted bound clitic form (use +*).");
+            else if (w_[0] == U'*')
+                report(114, "incomplete word cannot begin with *.");
+            else if (after == 0)
+                word_.incomplete = true;
+        } else if (c == U'%' && before != U'|') {
+            report(115, "% may only be used at the beginning of a word.");
+        }
+    }
+}
+
+void WordSplitter::splitStem(std::u32string_view stem, char32_t nextMark) {
+    if (stem.empty()) {
+        report(121, "missing word root");
+        return;
+    }
+    if (stem.starts_with(U'*')) {
+        word_.omitted = true;
+        stem.remove_prefix(1);
+        if (stem.empty()) {
+            if (nextMark == U'+')
+                report(141, "bad omitted clitic form (use +*).");
+            else
+                report(116, "bad omitted word form (missing word).");
+            word_.root = "*@";
+            return;
+        }
+    }
+    if (stem.starts_with(U'%')) {
+        word_.idiosyncratic = true;
+        stem.remove_prefix(1);
+        if (stem.empty()) {
+            report(115, "bad idiosyncratic form (missing word).");
+            return;
+        }
+    }
+    stem = stem.substr(0, stem.find(U'|'));
+    size_t slash = stem.rfind(U'\\');
+    if (slash != std::u32string_view::npos) {
+        std::u32string_view prefixes = stem.substr(0, slash);
+        while (true) {
+            size_t cut = prefixes.find(U'\\');
+            std::u32string_view prefix = prefixes.substr(0, cut);
+            if (prefix.empty())
+                report(123, "missing bound morpheme (prefix).");
+            else if (!legalEnding(prefix))
+                report(123, "illegal bound morpheme (prefix).");
+            else
+                word_.prefixes.push_back(utf8(prefix));
+            if (cut == std::u32string_view::npos)
+                break;
+            prefixes.remove_prefix(cut + 1);
+        }
+        if (slash + 1 == stem.size())
+            report(121, "missing word root");
+    }
+    word_.root = utf8(stem);
+    std::u32string_view root = slash == std::u32string_view::npos ? stem : stem.substr(slash + 1);
+    if (!root.empty() && !legalRoot(root))
+        report(122, "illegal word.");
+    word_.unintelligible = !word_.omitted && isUnintelligibleMark(root);
+}
+
+// Each "/" ending and "+" clitic; "/*" and "+*" mark omitted ones.
+void WordSplitter::splitEndings(std::u32string_view rest) {
+    while (!rest.empty()) {
+        char32_t mark = rest[0];
+        rest.remove_prefix(1);
+        size_t next = rest.find_first_of(U"/+");
+        std::u32string_view ending = rest.substr(0, next);
+        rest = next == std::u32string_view::npos ? std::u32string_view() : rest.substr(next);
+        bool bound = mark == U'/';
+        bool omitted = ending.starts_with(U'*');
+        if (omitted)
+            ending.remove_prefix(1);
+        if (ending.empty()) {
+            report(123, bound ? "missing bound morpheme." : "missing clitic.");
+            continue;
+        }
+        if (!legalEnding(ending)) {
+            report(123, bound ? "illegal bound morpheme." : "illegal bound clitic.");
+            continue;
+        }
+        std::vector<std::string>& list =
+            bound ? (omitted ? word_.omittedBoundMorphemes : word_.boundMorphemes)
+                  : (omitted ? word_.omittedClitics : word_.clitics);
+        list.push_back(utf8(ending));
+        if (omitted)
+            (bound ? word_.omittedBoundMorpheme : word_.omittedClitic) = true;
+    }
+}
+
+// Endings and prefixes: word characters with at least one letter or digit.
+bool WordSplitter::legalEnding(std::u32string_view ending) const {
+    bool alnum = false;
+    for (char32_t c : ending) {
+        if (!cls::isWordChar(c) && !cls::isAmpersandOrHash(c))
+            return false;
+        alnum = alnum || cls::isAlnum(c);
+    }
+    return alnum;
+}
+
+// A root: at least one letter or digit; word characters, "&" and "#", "_" in a
+// linked word, "%" (reported on its own) and a final "*" (a part word).
+bool WordSplitter::legalRoot(std::u32string_view root) const {
+    bool alnum = false;
+    for (size_t i = 0; i < root.size(); ++i) {
+        char32_t c = root[i];
+        alnum = alnum || cls::isAlnum(c);
+        if (cls::isWordChar(c) || cls::isAmpersandOrHash(c) || c == U'%' ||
+            (c == U'_' && linked_) || (c == U'*' && i + 1 == root.size()))
+            continue;
+        if (c == U'*')
+            continue; // reported by the mark checks
+        return false;
+    }
+    return alnum;
+}
+
+} // namespace
+
+bool isUnintelligibleMark(std::u32string_view root) {
+    if (root.empty() || root.size() > 3)
+        return false;
+    return std::all_of(root.begin(), root.end(), [](char32_t c) { return c == U'x' || c == U'X'; });
+}
+
+bool splitWord(std::u32string_view text, bool linked, Word& word, ProblemSink* sink) {
+    return WordSplitter(text, linked, word, sink).run();
+}
+
+std::vector<Word> splitRemarkWords(std::u32string_view inner) {
+    std::vector<Word> words;
+    size_t i = 0;
+    while (i < inner.size()) {
+        auto isBreak = [](char32_t c) {
+            return cls::isSeparator(c) || cls::isBracket(c) || cls::isTerminator(c);
+        };
+        while (i < inner.size() && isBreak(inner[i]))
+            ++i;
+        size_t start = i;
+        while (i < inner.size() && !isBreak(inner[i]))
+            ++i;
+        if (i == start)
+            continue;
+        Word w;
+        if (splitWord(inner.substr(start, i - start), false, w, nullptr)) {
+            w.inParenthetical = true;
+            w.position = -1;
+            words.push_back(std::move(w));
+        }
+    }
+    return words;
+}
+
+} // namespace tavi
