@@ -1,0 +1,35 @@
+// Finding the data folders on Linux: the shared data folder (the "program
+// folder" of the settings), the user data folder, and the documents folder
+// with its "My TAVI Data" subfolder. All folders end in "/".
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "base/prompter.h"
+#include "settings/startup_environment.h"
+
+namespace tavi {
+
+// TAVI_DATA_GROUP when set; else the installed share/tavi beside the program
+// (<bin>/../share/tavi), the source tree's data/ (a build tree), or the
+// configured install folder, the first that exists. Nothing when none is found.
+std::optional<std::string> findSharedDataFolder(const StartupEnvironment& env);
+
+// --settings-dir when given; else TAVI_DATA_USER; else $XDG_CONFIG_HOME/tavi/
+// or ~/.config/tavi/. Relative values are taken from the current folder.
+std::string findUserDataFolder(const StartupEnvironment& env);
+
+// $XDG_DOCUMENTS_DIR, else ~/Documents when it exists, else the home folder,
+// else the current folder.
+std::string findDocumentsFolder(const StartupEnvironment& env);
+
+inline constexpr std::string_view kMyTaviData = "My TAVI Data";
+
+// The start-up step for "My TAVI Data" below the documents folder: an old
+// "TAVI" folder is renamed (and the user told); when neither exists the user
+// is asked whether to create it. Returns true when the user answered No, which
+// means defaults cannot be saved in this run.
+bool prepareMyTaviData(const std::string& documents, Prompter& prompter);
+
+} // namespace tavi
