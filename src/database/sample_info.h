@@ -1,0 +1,47 @@
+// What a stored sample's record says about its speaker, taken from the
+// transcript's header lines: age in months, gender code, grade, context,
+// subgroup, location, ethnicity and "+Select" value; and the names the
+// builder gives a transcript file (full path, base name, record key).
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "transcript/tran_line.h"
+
+namespace tavi::db {
+
+// How the "DOB" and "DOE" header dates are written (the date format setting).
+enum class DateOrder { MonthDayYear, DayMonthYear };
+
+struct SampleInfo {
+    std::int16_t ageMonths = -1; // -1: unknown
+    std::int16_t gender = 0;     // 0 unknown, 1 M, 2 F, 3 N
+    std::string grade;
+    std::string context;
+    std::string subgroup;
+    std::string location;
+    std::string ethnicity;
+    std::string select;
+    bool timed = false;         // a "-" timing line is present
+    bool secondSpeaker = false; // the "$" line names a second main speaker
+    bool sections = false;      // "@begin"/"@end" lines are present
+};
+
+SampleInfo sampleInfo(const TranLines& lines, DateOrder order);
+
+// Age in months from "CA" (years;months); nullopt-like -1 when unreadable.
+int ageFromCa(std::string_view value);
+// Age in months between two header dates; -1 when either is unreadable.
+int ageFromDates(std::string_view dob, std::string_view doe, DateOrder order);
+std::int16_t genderCode(std::string_view value);
+
+// A name without a folder is placed in the transcript folder.
+std::string fullTranscriptPath(std::string_view name, std::string_view folder);
+// The file name without folder, cut before its first ".": "x.y.tvi" gives "x".
+std::string baseName(std::string_view path);
+// "%s;%d" of the base name and the speaker number (from 1), cut to 39 characters.
+std::string recordKey(std::string_view base, int speaker);
+
+} // namespace tavi::db
