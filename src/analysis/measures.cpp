@@ -1,6 +1,9 @@
 // Computes the measure record of each main speaker.
 #include "analysis/measures.h"
 
+#include "analysis/measure_context.h"
+#include "analysis/word_lists.h"
+
 namespace tavi {
 
 const Value* SpeakerMeasures::find(std::string_view name) const {
@@ -12,11 +15,59 @@ std::string SpeakerMeasures::formatted(MeasureId id) const {
     return formatValue((*this)[id], measureFormat(id));
 }
 
+namespace {
+
+CodeMatchers matchersFor(const MeasureOptions& o) {
+    CodeMatchers m;
+    m.errors = CodeMatcher(o.codeLists.errors);
+    m.fluency = CodeMatcher(o.codeLists.fluency);
+    m.nonmainstream = CodeMatcher(o.codeLists.nonmainstream);
+    m.codeSwitch = CodeMatcher(o.codeLists.codeSwitch);
+    m.excludeSet = CodeMatcher(o.analysisSet.excludeCodes);
+    m.wordBase =
+        CodeMatcher(o.wordBase.includeMode ? o.wordBase.includeCodes : o.wordBase.excludeCodes);
+    return m;
+}
+
+YesNoTest yesNoTest(const MeasureOptions& o) {
+    if (!o.wordLists || o.wordLists->empty(o.wordListSet, kYesNoList))
+        return {};
+    const StandardWordLists* lists = o.wordLists;
+    int set = o.wordListSet;
+    return [lists, set](std::string_view w) { return lists->contains(set, kYesNoList, w); };
+}
+
+} // namespace
+
 MeasureResult computeMeasures(const SegmentedTranscript& transcript,
                               const MeasureOptions& options) {
     MeasureResult result;
-    result.selection = selectUtterances(transcript, options.analysisSet, options.cut, {});
-    result.speakers[1].speaker = 1;
+    result.selection =
+        selectUtterances(transcript, options.analysisSet, options.cut, yesNoTest(options));
+    result.wordListsAvailable = static_cast<bool>(yesNoTest(options));
+    result.categoriesAvailable = options.dictionary != nullptr;
+
+    MeasureContext c{transcript, options, result.selection, {}, matchersFor(options)};
+    c.facts.resize(transcript.utterances.size());
+    for (int i : result.selection.utterances)
+        c.facts[i] = gatherFacts(transcript.utterances[i], options.wordBase, c.codes);
+
+    for (int s = 0; s < 2; ++s) {
+        SpeakerMeasures& m = result.speakers[s];
+        m.speaker = s;
+        const SpeakerSelection& sel = result.selection.speakers[s];
+        SpeakerView v{c, s, sel.total, sel.analysisSet};
+        fillUtteranceKinds(v, m);
+        fillLengthAndVocabulary(v, m);
+        fillDiscourse(v, m);
+        fillTimingAndPauses(v, m);
+        fillMazes(v, m);
+        fillCodesAndErrors(v, m);
+        fillDistributions(v, m);
+        fillWordLists(v, m);
+        fillCategoriesAndVerbs(v, m);
+        fillUtteranceLists(v, m);
+    }
     return result;
 }
 

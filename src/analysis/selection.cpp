@@ -1,7 +1,330 @@
-// Response types, the analysis set test and the transcript cut.
+// Response types, the analysis-set test and the transcript cut.
 #include "analysis/selection.h"
 
+#include <algorithm>
+#include <optional>
+
+#include "analysis/code_lists.h"
+#include "analysis/word_forms.h"
+#include "base/format.h"
+#include "base/text.h"
+
 namespace tavi {
+
+namespace {
+
+std::vector<std::string> mainBodyForms(const Utterance& u) {
+    std::vector<std::string> forms;
+    for (const Word& w : u.words)
+        if (w.isMainBodyWord())
+            forms.push_back(surfaceForm(w));
+    return forms;
+}
+
+// Whether `part` is `whole` with some words left out, order kept.
+bool isInOrderSubset(const std::vector<std::string>& part, const std::vector<std::string>& whole) {
+    size_t j = 0;
+    for (const std::string& w : part) {
+        while (j < whole.size() && whole[j] != w)
+            ++j;
+        if (j == whole.size())
+            return false;
+        ++j;
+    }
+    return true;
+}
+
+void classifyImitation(const Utterance& u, const Utterance& prev, ResponseType& r) {
+    std::vector<std::string> mine = mainBodyForms(u), theirs = mainBodyForms(prev);
+    if (mine.empty())
+        return;
+    r.exactImitation = mine == theirs;
+    r.reducedImitation =
+        !r.exactImitation && mine.size() < theirs.size() && isInOrderSubset(mine, theirs);
+    r.imitation = r.exactImitation || r.reducedImitation;
+}
+
+bool firstWordIsYesNo(const Utterance& u, const YesNoTest& yesNo) {
+    for (const Word& w : u.words)
+        if (w.isMainBodyWord())
+            return yesNo(surfaceForm(w)) || yesNo(rootKey(w));
+    return false;
+}
+
+// The analysis set with its code lists parsed once.
+class SetTest {
+public:
+    explicit SetTest(const AnalysisSet& set)
+        : set_(set), exclude_(set.excludeCodes), include_(set.includeCodes) {}
+
+    bool passes(const Utterance& u, const ResponseType& r) const {
+        if (set_.excludeIncomplete &&
+            (u.terminator == Terminator::Abandoned || u.terminator == Terminator::Interrupted))
+            return false;
+        if (set_.excludeUnintelligible && u.intelligibility != Intelligibility::Intelligible)
+            return false;
+        if (set_.excludeNonverbal && u.nonverbal)
+            return false;
+        if ((set_.excludeImitations && r.imitation) || (set_.excludeYesNoResponses && r.yesNo) ||
+            (set_.excludeOneWord && r.oneWord) || (set_.excludeQuestionResponses && r.question) ||
+            (set_.excludePromptResponses && r.prompt))
+            return false;
+        if (carries(u, exclude_))
+            return false;
+        return !set_.includeOnly || carries(u, include_);
+    }
+
+private:
+    static bool carries(const Utterance& u, const CodeMatcher& m) {
+        if (m.empty())
+            return false;
+        for (const Code& c : u.codes)
+            if (m.matches(c.text))
+                return true;
+        return false;
+    }
+    const AnalysisSet& set_;
+    CodeMatcher exclude_, include_;
+};
+
+bool entryCarriesCode(const SegmentedTranscript& t, const Entry& e, const std::string& item) {
+    if (item.empty())
+        return false;
+    if (e.kind == EntryKind::Utterance) {
+        for (const Code& c : t.utterances[e.utterance].codes)
+            if (codeMatchesItem(c.text, item))
+                return true;
+        return false;
+    }
+    for (const std::string& c : e.codes)
+        if (codeMatchesItem(c, item))
+            return true;
+    return false;
+}
+
+std::string cutCodeItem(const std::string& code) {
+    std::vector<std::string> items = parseCodeItems(code);
+    return items.empty() ? std::string() : items.front();
+}
+
+// Walks the entries once for one cut; counts are kept per speaker and base.
+class CutWalker {
+public:
+    CutWalker(const SegmentedTranscript& t, const TranscriptCut& cut,
+              const std::vector<bool>& inSet)
+        : t_(t), cut_(cut), inSet_(inSet), startCode_(cutCodeItem(cut.startCode)),
+          endCode_(cutCodeItem(cut.endCode)) {
+        for (size_t i = 0; i < t.entries.size(); ++i)
+            if (t.entries[i].kind == EntryKind::End) {
+                limit_ = i;
+                sawEnd_ = true;
+                break;
+            }
+        if (!sawEnd_)
+            limit_ = t.entries.size();
+    }
+
+    Selection run(Selection s) {
+        if (cut_.endType == TranscriptCut::ToElapsedTime && !hasTiming()) {
+            s.outcome = CutOutcome::NoTiming;
+            return s;
+        }
+        std::optional<size_t> start = findStart();
+        if (!start) {
+            s.outcome = endMarkerExists() ? CutOutcome::BeginNotFound : CutOutcome::NoMarkers;
+            return s;
+        }
+        s.firstEntry = *start;
+        bool found = false;
+        s.endEntry = findEnd(*start, found);
+        if (!found && cut_.endType != TranscriptCut::ToEnd)
+            s.outcome = sawEnd_ ? CutOutcome::EndBeforeFinal : CutOutcome::FinalNotFound;
+        return s;
+    }
+
+private:
+    bool counts(const Utterance& u, int speaker, int base) const {
+        if (speaker != 2 && u.speakerGroup != speaker)
+            return false;
+        if (speaker == 2 && u.speakerGroup > 1)
+            return false;
+        return base == 1 || inSet_[static_cast<size_t>(&u - t_.utterances.data())];
+    }
+
+    bool hasTiming() const {
+        for (size_t i = 0; i < limit_; ++i)
+            if (t_.entries[i].kind == EntryKind::Timing && t_.entries[i].seconds >= 0)
+                return true;
+        return false;
+    }
+
+    const Utterance* utteranceAt(size_t i) const {
+        const Entry& e = t_.entries[i];
+        return e.kind == EntryKind::Utterance ? &t_.utterances[e.utterance] : nullptr;
+    }
+
+    std::optional<size_t> findStart() const {
+        int number = 0;
+        for (size_t i = 0; i < limit_; ++i) {
+            const Entry& e = t_.entries[i];
+            switch (cut_.startType) {
+            case TranscriptCut::FromBeginning:
+                return 0;
+            case TranscriptCut::FromUtterance:
+                if (const Utterance* u = utteranceAt(i);
+                    u && counts(*u, cut_.startSpeaker, cut_.startBase) &&
+                    ++number == cut_.startUtterance)
+                    return i;
+                break;
+            case TranscriptCut::FromTiming:
+                if (e.kind == EntryKind::Timing && e.seconds == cut_.startTime)
+                    return i + 1;
+                break;
+            case TranscriptCut::FromCode:
+                if (entryCarriesCode(t_, e, startCode_))
+                    return i + 1;
+                break;
+            }
+        }
+        return std::nullopt;
+    }
+
+    // Whether the end point occurs anywhere before the transcript's end.
+    bool endMarkerExists() const {
+        bool found = false;
+        findEndFrom(0, found);
+        return found;
+    }
+
+    size_t findEnd(size_t start, bool& found) const { return findEndFrom(start, found); }
+
+    size_t findEndFrom(size_t start, bool& found) const {
+        found = false;
+        if (cut_.endType == TranscriptCut::ToEnd) {
+            found = true;
+            return limit_;
+        }
+        int number = 0; // absolute utterance number, counted from the transcript's start
+        for (size_t i = 0; i < start; ++i)
+            if (const Utterance* u = utteranceAt(i); u && counts(*u, cut_.endSpeaker, cut_.endBase))
+                ++number;
+        long running = 0;
+        std::optional<int> reference = timingBefore(start);
+        for (size_t i = start; i < limit_; ++i) {
+            const Entry& e = t_.entries[i];
+            const Utterance* u = utteranceAt(i);
+            switch (cut_.endType) {
+            case TranscriptCut::ToUtterance:
+                if (u && counts(*u, cut_.endSpeaker, cut_.endBase) && ++number == cut_.endValue)
+                    return found = true, i + 1;
+                break;
+            case TranscriptCut::ToTiming:
+                if (e.kind == EntryKind::Timing && e.seconds == cut_.endTime)
+                    return found = true, i;
+                break;
+            case TranscriptCut::ToCode:
+                if (entryCarriesCode(t_, e, endCode_))
+                    return found = true, i;
+                break;
+            case TranscriptCut::ToWordCount:
+                if (u && counts(*u, cut_.endSpeaker, cut_.endBase)) {
+                    running += wordsFor(*u);
+                    if (running >= cut_.endValue)
+                        return found = true, i + 1;
+                }
+                break;
+            case TranscriptCut::ToUtteranceCount:
+                if (u && counts(*u, cut_.endSpeaker, cut_.endBase) && ++running >= cut_.endValue)
+                    return found = true, i + 1;
+                break;
+            case TranscriptCut::ToElapsedTime:
+                if (e.kind == EntryKind::Timing && e.seconds >= 0) {
+                    if (!reference)
+                        reference = 0;
+                    if (e.seconds - *reference >= cut_.endTime)
+                        return found = true, i;
+                }
+                break;
+            }
+        }
+        return limit_;
+    }
+
+    // The timing value in force at `start`: the last timing line before the
+    // first utterance from `start` on.
+    std::optional<int> timingBefore(size_t start) const {
+        size_t firstUtt = start;
+        while (firstUtt < limit_ && t_.entries[firstUtt].kind != EntryKind::Utterance)
+            ++firstUtt;
+        for (size_t i = firstUtt; i-- > 0;)
+            if (t_.entries[i].kind == EntryKind::Timing && t_.entries[i].seconds >= 0)
+                return t_.entries[i].seconds;
+        return std::nullopt;
+    }
+
+    int wordsFor(const Utterance& u) const {
+        int n = 0;
+        for (const Word& w : u.words)
+            n += (w.isMainBodyWord() || (cut_.wordArea != 0 && isMazeWord(w))) ? 1 : 0;
+        return n;
+    }
+
+    const SegmentedTranscript& t_;
+    const TranscriptCut& cut_;
+    const std::vector<bool>& inSet_;
+    std::string startCode_, endCode_;
+    size_t limit_ = 0;
+    bool sawEnd_ = false;
+};
+
+// Elapsed time inside the cut: the last timing line up to the cut's end, less
+// the timing line in force before its first utterance (none: 0).
+std::optional<int> elapsedInCut(const SegmentedTranscript& t, size_t first, size_t end) {
+    size_t firstUtt = first;
+    while (firstUtt < end && t.entries[firstUtt].kind != EntryKind::Utterance)
+        ++firstUtt;
+    if (firstUtt >= end)
+        return std::nullopt;
+    auto timingAt = [&](size_t i) {
+        return t.entries[i].kind == EntryKind::Timing && t.entries[i].seconds >= 0;
+    };
+    int reference = 0;
+    for (size_t i = firstUtt; i-- > 0;)
+        if (timingAt(i)) {
+            reference = t.entries[i].seconds;
+            break;
+        }
+    size_t last = std::min(end + 1, t.entries.size());
+    for (size_t i = last; i-- > firstUtt;)
+        if (timingAt(i))
+            return std::max(0, t.entries[i].seconds - reference);
+    return std::nullopt;
+}
+
+} // namespace
+
+std::vector<ResponseType> classifyResponses(const SegmentedTranscript& t, const YesNoTest& yesNo) {
+    std::vector<ResponseType> result(t.utterances.size());
+    for (size_t i = 0; i < t.utterances.size(); ++i) {
+        const Utterance& u = t.utterances[i];
+        if (u.speakerGroup > 1)
+            continue;
+        ResponseType& r = result[i];
+        r.oneWord = mainBodyWordCount(u) == 1;
+        if (i == 0 || t.utterances[i - 1].speakerGroup != 1 - u.speakerGroup)
+            continue;
+        const Utterance& prev = t.utterances[i - 1];
+        r.question = prev.terminator == Terminator::Question;
+        r.prompt = prev.terminator == Terminator::Prompt;
+        r.yesNo = r.question && yesNo && firstWordIsYesNo(u, yesNo);
+        classifyImitation(u, prev, r);
+    }
+    return result;
+}
+
+bool inAnalysisSet(const Utterance& u, const ResponseType& r, const AnalysisSet& set) {
+    return SetTest(set).passes(u, r);
+}
 
 std::string_view cutOutcomeMessage(CutOutcome outcome) {
     switch (outcome) {
@@ -21,11 +344,31 @@ std::string_view cutOutcomeMessage(CutOutcome outcome) {
     return {};
 }
 
-Selection selectUtterances(const SegmentedTranscript& t, const AnalysisSet&, const TranscriptCut&,
-                           const YesNoTest&) {
+Selection selectUtterances(const SegmentedTranscript& t, const AnalysisSet& set,
+                           const TranscriptCut& cut, const YesNoTest& yesNo) {
     Selection s;
-    s.responses.resize(t.utterances.size());
+    s.responses = classifyResponses(t, yesNo);
+    SetTest test(set);
     s.analysisSetFlags.resize(t.utterances.size());
+    for (size_t i = 0; i < t.utterances.size(); ++i)
+        s.analysisSetFlags[i] =
+            t.utterances[i].speakerGroup <= 1 && test.passes(t.utterances[i], s.responses[i]);
+
+    const std::vector<bool> flags = s.analysisSetFlags;
+    s = CutWalker(t, cut, flags).run(std::move(s));
+    for (size_t i = s.firstEntry; i < s.endEntry; ++i) {
+        const Entry& e = t.entries[i];
+        if (e.kind != EntryKind::Utterance)
+            continue;
+        s.utterances.push_back(e.utterance);
+        int group = t.utterances[e.utterance].speakerGroup;
+        if (group > 1)
+            continue;
+        s.speakers[group].total.push_back(e.utterance);
+        if (s.analysisSetFlags[e.utterance])
+            s.speakers[group].analysisSet.push_back(e.utterance);
+    }
+    s.elapsedSeconds = elapsedInCut(t, s.firstEntry, s.endEntry);
     return s;
 }
 

@@ -7,6 +7,7 @@
 #include <array>
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -66,6 +67,8 @@ struct Selection {
     std::size_t firstEntry = 0;          // entries [firstEntry, endEntry) lie inside the cut
     std::size_t endEntry = 0;
     CutOutcome outcome = CutOutcome::Complete;
+    // Elapsed time of the cut from its timing lines; empty when it has none.
+    std::optional<int> elapsedSeconds;
 };
 
 // Applies the cut and the analysis set. Never shows anything: the caller shows

@@ -12,6 +12,7 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace tavi {
@@ -72,9 +73,24 @@ public:
     bool empty(int set, int kind) const { return lists_[set][kind].empty(); }
     // Whether a single word (lower case, marks removed) is on a list.
     bool contains(int set, int kind, std::string_view word) const;
+    // The kinds whose one-word entries match the word, each once, ascending.
+    std::vector<int> kindsOf(int set, std::string_view word) const;
+    // The phrase entries of a set, with their kinds.
+    const std::vector<std::pair<int, WordListEntry>>& phrases(int set) const {
+        return index_[set].phrases;
+    }
 
 private:
+    struct Index {
+        std::vector<std::pair<std::string, int>> exact; // sorted by word
+        std::vector<std::pair<std::string, int>> prefixes;
+        std::vector<std::pair<int, WordListEntry>> phrases;
+    };
+    void add(int set, int kind, WordListEntry entry);
+    void sortIndex();
+
     std::array<std::array<std::vector<WordListEntry>, 20>, 4> lists_;
+    std::array<Index, 4> index_;
 };
 
 // Whether `word` matches `pattern` (lower case; a trailing "*" matches any ending).

@@ -1,0 +1,142 @@
+// The grammatical-category dictionary: an open-addressing table of lines.
+#include "analysis/gc_dictionary.h"
+
+#include <algorithm>
+
+#include "analysis/grammatical_categories.h"
+#include "base/file_io.h"
+#include "base/prompter.h"
+#include "base/text.h"
+
+namespace tavi {
+
+namespace {
+
+size_t keyLength(std::string_view line) {
+    size_t blank = line.find(' ');
+    return blank == std::string_view::npos ? 0 : blank;
+}
+
+} // namespace
+
+std::int32_t dictionaryHash(std::u16string_view key, std::int32_t capacity) {
+    std::int32_t h = 0;
+    for (char16_t c : key)
+        h = (h * 64 + static_cast<std::int32_t>(c)) % capacity;
+    return h;
+}
+
+GcDictionary::GcDictionary(std::int32_t capacity)
+    : capacity_(capacity), slots_(static_cast<size_t>(capacity)) {}
+
+bool GcDictionary::insert(std::string_view line) {
+    size_t keyLen = keyLength(line);
+    const std::int32_t start = dictionaryHash(toUtf16(line.substr(0, keyLen)), capacity_);
+    std::int32_t i = start;
+    while (slots_[i].used) {
+        i = (i + 1) % capacity_;
+        if (i == start)
+            return false;
+    }
+    slots_[i] = {std::string(line), static_cast<std::uint32_t>(keyLen), true};
+    ++size_;
+    return true;
+}
+
+void GcDictionary::load(std::string_view text, Prompter& prompter) {
+    for (std::string_view line : splitLines(text))
+        if (!insert(line)) {
+            prompter.inform("Increase MAX_DICTIONARY_WORDS");
+            return;
+        }
+}
+
+bool GcDictionary::loadFile(const std::string& path, Prompter& prompter) {
+    std::string bytes;
+    if (!readFile(path, bytes)) {
+        prompter.inform("Unable to open Grammatical Category dictionary file (" + path + ")");
+        return false;
+    }
+    load(decodeText(bytes).utf8, prompter);
+    return true;
+}
+
+std::optional<std::string_view> GcDictionary::lookup(std::string_view word) const {
+    std::int32_t i = dictionaryHash(toUtf16(word), capacity_);
+    for (std::int32_t probes = 0; slots_[i].used && probes < capacity_; ++probes) {
+        const Slot& s = slots_[i];
+        if (std::string_view(s.line).substr(0, s.keyLength) == word)
+            return trim(std::string_view(s.line).substr(s.keyLength));
+        i = (i + 1) % capacity_;
+    }
+    return std::nullopt;
+}
+
+bool isSkippedCategoryToken(std::string_view token) {
+    if (token.empty())
+        return true;
+    size_t pos = 0;
+    char32_t c = nextCodePoint(token, pos);
+    static constexpr std::u32string_view kMarks =
+        U"=+:;-$@\\/*%|[].!~?>^,\"\u061F\u001C\u001D\uFF93\uFF94"
+        U"\u201C\u201D\u00BF\u00A1";
+    return kMarks.find(c) != std::u32string_view::npos ||
+           (c < 0x80 && isBlank(static_cast<char>(c))) || c == U'\u00A0' || c == U'\u3000';
+}
+
+namespace {
+
+std::vector<int> categoriesOfValue(std::string_view value) {
+    std::vector<int> cats;
+    size_t i = 0;
+    while (i < value.size()) {
+        while (i < value.size() && isBlank(value[i]))
+            ++i;
+        size_t start = i;
+        while (i < value.size() && !isBlank(value[i]))
+            ++i;
+        if (auto c = categoryOfCode(value.substr(start, i - start));
+            c && std::find(cats.begin(), cats.end(), *c) == cats.end())
+            cats.push_back(*c);
+    }
+    return cats;
+}
+
+bool hasEnding(std::string_view s, std::string_view end) {
+    return s.size() > end.size() + 1 && s.substr(s.size() - end.size()) == end;
+}
+
+std::vector<int> guessFromForm(const Word& w) {
+    for (const std::string& m : w.boundMorphemes) {
+        std::string e = toLowerAscii(m);
+        if (e == "ed" || e == "ing" || e == "3s" || e == "en")
+            return {GcVerb};
+    }
+    std::string r = toLowerAscii(w.root);
+    if (hasEnding(r, "ly"))
+        return {GcAverb};
+    if (hasEnding(r, "ing") || hasEnding(r, "ed"))
+        return {GcVerb};
+    return {GcNoun};
+}
+
+} // namespace
+
+std::vector<int> wordCategories(const Word& w, const GcDictionary* dictionary) {
+    if (dictionary) {
+        auto value = dictionary->lookup(w.root);
+        if (!value) {
+            std::string lower = toLowerAscii(w.root);
+            if (lower != w.root)
+                value = dictionary->lookup(lower);
+        }
+        if (value) {
+            std::vector<int> cats = categoriesOfValue(*value);
+            if (!cats.empty())
+                return cats;
+        }
+    }
+    return guessFromForm(w);
+}
+
+} // namespace tavi

@@ -1,0 +1,39 @@
+// The kind of a maze, judged from its words and the words that follow it:
+// filled pause, repetition or revision, of a part word, a word or a phrase.
+#pragma once
+
+#include <functional>
+#include <string_view>
+
+#include "transcript/utterance.h"
+
+namespace tavi {
+
+enum class MazeKind {
+    RevisionPartWord,
+    RevisionWord,
+    RevisionPhrase,
+    RepetitionPartWord,
+    RepetitionWord,
+    RepetitionPhrase,
+    FilledPauseSingle,
+    FilledPauseMulti
+};
+inline constexpr int kMazeKinds = 8;
+
+using FilledPauseTest = std::function<bool(std::string_view)>;
+using WordTest = std::function<bool(std::string_view)>; // empty: every word is a real word
+
+// "um", "uh", "er", "erm", "ah", "eh", "hm", "hmm", "mm", "uhm", "em".
+bool isDefaultFilledPause(std::string_view word);
+
+// Rules, in order, with M the maze's words and N the main-body words after it:
+// every word of M a filled pause: single or multi-word filled pause; one word
+// that begins N's first word but is shorter: part-word repetition; M equal to
+// the first words of N: word or phrase repetition; one word that is not a
+// known word (when a dictionary is at hand): part-word revision; otherwise a
+// word or phrase revision.
+MazeKind classifyMaze(const Utterance& u, int maze, const FilledPauseTest& isFilled,
+                      const WordTest& isKnown);
+
+} // namespace tavi

@@ -1,0 +1,51 @@
+// Shared state of one measure computation: the transcript, the options, the
+// selection and the facts of every utterance inside the cut. Internal to the
+// analysis engine; the families of measures are filled by separate functions.
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "analysis/measures.h"
+#include "analysis/utterance_facts.h"
+
+namespace tavi {
+
+struct MeasureContext {
+    const SegmentedTranscript& t;
+    const MeasureOptions& options;
+    const Selection& selection;
+    std::vector<UtteranceFacts> facts; // per utterance; filled for utterances inside the cut
+    CodeMatchers codes;
+};
+
+// Everything one speaker's measures read.
+struct SpeakerView {
+    const MeasureContext& c;
+    int speaker;
+    const std::vector<int>& total;       // utterance indices
+    const std::vector<int>& analysisSet; // utterance indices
+
+    const Utterance& utt(int i) const { return c.t.utterances[i]; }
+    const UtteranceFacts& facts(int i) const { return c.facts[i]; }
+    const ResponseType& response(int i) const { return c.selection.responses[i]; }
+    int countIf(const std::vector<int>& utts, const std::function<bool(int)>& pred) const {
+        int n = 0;
+        for (int i : utts)
+            n += pred(i) ? 1 : 0;
+        return n;
+    }
+};
+
+void fillUtteranceKinds(const SpeakerView& v, SpeakerMeasures& m);
+void fillLengthAndVocabulary(const SpeakerView& v, SpeakerMeasures& m);
+void fillDiscourse(const SpeakerView& v, SpeakerMeasures& m);
+void fillTimingAndPauses(const SpeakerView& v, SpeakerMeasures& m);
+void fillMazes(const SpeakerView& v, SpeakerMeasures& m);
+void fillCodesAndErrors(const SpeakerView& v, SpeakerMeasures& m);
+void fillDistributions(const SpeakerView& v, SpeakerMeasures& m);
+void fillWordLists(const SpeakerView& v, SpeakerMeasures& m);
+void fillCategoriesAndVerbs(const SpeakerView& v, SpeakerMeasures& m);
+void fillUtteranceLists(const SpeakerView& v, SpeakerMeasures& m);
+
+} // namespace tavi

@@ -1,0 +1,75 @@
+// Elapsed time, rates and pauses within and between utterances.
+#include "analysis/measure_context.h"
+
+namespace tavi {
+
+namespace {
+
+using Id = MeasureId;
+
+struct PauseSums {
+    int count = 0, timed = 0, seconds = 0;
+    void add(bool isTimed, int secs) {
+        ++count;
+        if (isTimed) {
+            ++timed;
+            seconds += secs;
+        }
+    }
+};
+
+// Pause lines inside the cut that stand right before an utterance of this speaker.
+PauseSums betweenPauses(const SpeakerView& v) {
+    PauseSums sums;
+    const auto& entries = v.c.t.entries;
+    const Selection& s = v.c.selection;
+    for (size_t i = s.firstEntry; i < s.endEntry; ++i) {
+        if (entries[i].kind != EntryKind::Pause)
+            continue;
+        size_t next = i + 1;
+        while (next < s.endEntry && entries[next].kind != EntryKind::Utterance)
+            ++next;
+        if (next < s.endEntry && v.utt(entries[next].utterance).speakerGroup == v.speaker)
+            sums.add(entries[i].seconds > 0, entries[i].seconds);
+    }
+    return sums;
+}
+
+} // namespace
+
+void fillTimingAndPauses(const SpeakerView& v, SpeakerMeasures& m) {
+    const std::optional<int> elapsed = v.c.selection.elapsedSeconds;
+    int words = 0;
+    for (int i : v.total)
+        words += v.facts(i).wordCount;
+    if (elapsed) {
+        const double minutes = *elapsed / 60.0;
+        m[Id::TimeSec] = Value::count(*elapsed);
+        m[Id::TimeMin] = Value::real(minutes);
+        m[Id::TimeMinSec] = Value::text(formatMinutesSeconds(*elapsed));
+        m[Id::WPM] = Value::ratio(words, minutes);
+        m[Id::UtPerMin] = Value::ratio(static_cast<double>(v.total.size()), minutes);
+    }
+    m.timingMissing = !elapsed;
+
+    PauseSums within;
+    for (int i : v.total)
+        for (const Pause& p : v.utt(i).pauses)
+            within.add(p.timed, p.seconds);
+    PauseSums between = betweenPauses(v);
+    m[Id::NumPauseWiUt] = Value::count(within.count);
+    m[Id::NumPauseBtUt] = Value::count(between.count);
+    m[Id::UntimedPauseWiUt] = Value::count(within.count - within.timed);
+    m[Id::UntimedPauseBtUt] = Value::count(between.count - between.timed);
+    m[Id::PauseTimeWiUt] = Value::count(within.seconds);
+    m[Id::PauseTimeBtUt] = Value::count(between.seconds);
+    m[Id::AvgPauseWiUt] = Value::ratio(within.seconds, within.timed);
+    m[Id::AvgPauseBtUt] = Value::ratio(between.seconds, between.timed);
+    const int pauses = within.count + between.count, timed = within.timed + between.timed;
+    m.pausesUntimed = pauses > 0 && timed == 0;
+    m.somePausesUntimed = timed > 0 && timed < pauses;
+    if (elapsed && timed > 0)
+        m[Id::PctPauseTime] = Value::ratio(within.seconds + between.seconds, *elapsed, 100);
+}
+
+} // namespace tavi

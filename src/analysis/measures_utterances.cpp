@@ -1,0 +1,164 @@
+// Utterance counts by kind, terminator and code, errors and omissions, and
+// the standard utterance lists.
+#include "analysis/measure_context.h"
+
+namespace tavi {
+
+namespace {
+
+using Id = MeasureId;
+
+void percentOf(SpeakerMeasures& m, Id id, int part, int whole) {
+    m[id] = Value::ratio(part, whole, 100);
+}
+
+bool isIncompleteOrCode(const Utterance& u, Terminator t) {
+    return u.terminator == t;
+}
+
+} // namespace
+
+void fillUtteranceKinds(const SpeakerView& v, SpeakerMeasures& m) {
+    const auto& T = v.total;
+    const int total = static_cast<int>(T.size());
+    auto byTerm = [&](Terminator t) {
+        return v.countIf(T, [&](int i) { return isIncompleteOrCode(v.utt(i), t); });
+    };
+    m[Id::TotNumUt] = Value::count(total);
+    m[Id::TotASetUt] = Value::count(static_cast<int>(v.analysisSet.size()));
+    m[Id::Statements] = Value::count(byTerm(Terminator::Statement));
+    m[Id::Exclamations] = Value::count(byTerm(Terminator::Exclamation));
+    m[Id::Questions] = Value::count(byTerm(Terminator::Question));
+    m[Id::IntPrmpts] = Value::count(byTerm(Terminator::Prompt));
+    const int aban = byTerm(Terminator::Abandoned);
+    m[Id::AbanUt] = m[Id::AbanUtt] = Value::count(aban);
+    percentOf(m, Id::PctAbanUt, aban, total);
+    m[Id::PctAbanUtt] = m[Id::PctAbanUt];
+    m[Id::InterruptUt] = Value::count(byTerm(Terminator::Interrupted));
+
+    const int nonverbal = v.countIf(T, [&](int i) { return v.utt(i).nonverbal; });
+    const int unintel = v.countIf(
+        T, [&](int i) { return v.utt(i).intelligibility == Intelligibility::Unintelligible; });
+    const int partly =
+        v.countIf(T, [&](int i) { return v.utt(i).intelligibility == Intelligibility::Partly; });
+    m[Id::NonVerbalUt] = Value::count(nonverbal);
+    m[Id::TotVerbalUt] = Value::count(total - nonverbal);
+    m[Id::UnintelUt] = Value::count(unintel);
+    m[Id::PartIntelUt] = Value::count(partly);
+    m[Id::PartOrAllUnintUt] = Value::count(unintel + partly);
+    percentOf(m, Id::PctIntelUt, total - nonverbal - unintel - partly, total - nonverbal);
+    int intelWords = 0, marks = 0;
+    for (int i : T) {
+        intelWords += v.facts(i).wordCount;
+        marks += v.facts(i).unintelligibleMarks;
+    }
+    percentOf(m, Id::PctIntelWd, intelWords, intelWords + marks);
+
+    auto has = [&](auto pred) { return Value::count(v.countIf(T, pred)); };
+    m[Id::UtWPause] = has([&](int i) { return !v.utt(i).pauses.empty(); });
+    m[Id::UtWOmission] = has([&](int i) { return v.facts(i).hasOmission(); });
+    m[Id::UtWParenthetical] = has([&](int i) { return !v.utt(i).parentheticals.empty(); });
+    m[Id::UtWDialogue] = has([&](int i) { return v.utt(i).hasQuotation; });
+    m[Id::UtWComment] = has([&](int i) { return v.utt(i).hasComment; });
+}
+
+void fillCodesAndErrors(const SpeakerView& v, SpeakerMeasures& m) {
+    const auto& T = v.total;
+    const int total = static_cast<int>(T.size());
+    auto has = [&](auto pred) { return v.countIf(T, pred); };
+    m[Id::UttwWdCode] = Value::count(has([&](int i) { return v.facts(i).wordCode; }));
+    m[Id::UttwUtCode] = Value::count(has([&](int i) { return v.facts(i).utteranceCode; }));
+    m[Id::UttwExclCode] = Value::count(has([&](int i) { return v.facts(i).excludeCode; }));
+    m[Id::UtWCode] = Value::count(has([&](int i) { return !v.utt(i).codes.empty(); }));
+
+    CodeTally err, fl, nm, cs;
+    int omitWd = 0, omitBm = 0, omitCl = 0, errorWords = 0, words = 0;
+    for (int i : T) {
+        const UtteranceFacts& f = v.facts(i);
+        for (auto [sum, part] : {std::pair{&err, &f.errors},
+                                 {&fl, &f.fluency},
+                                 {&nm, &f.nonmainstream},
+                                 {&cs, &f.codeSwitch}}) {
+            sum->onWords += part->onWords;
+            sum->onUtterance += part->onUtterance;
+        }
+        omitWd += f.omittedWords;
+        omitBm += f.omittedMorphemes;
+        omitCl += f.omittedClitics;
+        errorWords += f.errorWords;
+        words += f.wordCount;
+    }
+    const int utErr = has([&](int i) { return v.facts(i).errors.total() > 0; });
+    const int utFl = has([&](int i) { return v.facts(i).fluency.total() > 0; });
+    const int utNm = has([&](int i) { return v.facts(i).nonmainstream.total() > 0; });
+    const int utCs = has([&](int i) { return v.facts(i).codeSwitch.total() > 0; });
+    const int utErrOrOmit =
+        has([&](int i) { return v.facts(i).errors.total() > 0 || v.facts(i).hasOmission(); });
+
+    m[Id::UtWErrCode] = Value::count(utErr);
+    m[Id::UtWFLuencyCode] = m[Id::UttwFC] = Value::count(utFl);
+    m[Id::UtWNMFormCode] = Value::count(utNm);
+    m[Id::UtWCSwitchCode] = m[Id::UttwCS] = Value::count(utCs);
+    percentOf(m, Id::PctUtWFluencyCd, utFl, total);
+    m[Id::PctUttwFC] = m[Id::PctUtWFluencyCd];
+    percentOf(m, Id::PctUtWCSwitchCd, utCs, total);
+    m[Id::PctUttwCS] = m[Id::PctUtWCSwitch] = m[Id::PctUtWCSwitchCd];
+
+    m[Id::OmitWd] = Value::count(omitWd);
+    m[Id::OmitBm] = Value::count(omitBm);
+    m[Id::OmitCl] = Value::count(omitCl);
+    m[Id::Omissions] = Value::count(omitWd + omitBm + omitCl);
+    percentOf(m, Id::PctUtWErrors, utErrOrOmit, total);
+    percentOf(m, Id::PctWordErrors, errorWords + omitWd, words + omitWd);
+    auto tallies = [&](const CodeTally& t, Id all, Id wd, Id ut) {
+        m[all] = Value::count(t.total());
+        m[wd] = Value::count(t.onWords);
+        m[ut] = Value::count(t.onUtterance);
+    };
+    tallies(err, Id::ErrCodes, Id::ErrCodesWd, Id::ErrCodesUt);
+    m[Id::FlCodesWd] = Value::count(fl.onWords);
+    m[Id::FlCodesUt] = Value::count(fl.onUtterance);
+    tallies(nm, Id::NMFormCodes, Id::NMFormCodesWd, Id::NMFormCodesUt);
+    tallies(cs, Id::CSwitchCodes, Id::CSwitchCodesWd, Id::CSwitchCodesUt);
+
+    // Nonmainstream forms are a syntax measure: over analysis-set utterances.
+    const int aset = static_cast<int>(v.analysisSet.size());
+    const int asetNm =
+        v.countIf(v.analysisSet, [&](int i) { return v.facts(i).nonmainstream.total() > 0; });
+    m[Id::UttWithNMForms] = Value::count(asetNm);
+    percentOf(m, Id::PctUtWNMForms, asetNm, aset);
+    m[Id::PCUttWithNMForms] = m[Id::PctUtWNMForms];
+}
+
+void fillUtteranceLists(const SpeakerView& v, SpeakerMeasures& m) {
+    auto list = [&](int key, auto pred) {
+        for (int i : v.total)
+            if (pred(v.utt(i), v.response(i), v.facts(i)))
+                m.utteranceLists[key].push_back(i);
+    };
+    using U = const Utterance&;
+    using R = const ResponseType&;
+    using F = const UtteranceFacts&;
+    list(0, [](U, R r, F) { return r.question || r.prompt; });
+    list(1, [](U, R r, F) { return r.imitation; });
+    list(2, [](U, R r, F) { return !r.question && !r.prompt && !r.imitation; });
+    list(3, [](U, R r, F) { return r.oneWord; });
+    list(4, [](U u, R, F) { return u.intelligibility != Intelligibility::Intelligible; });
+    list(5, [](U u, R, F) { return !u.pauses.empty(); });
+    list(6, [](U, R, F f) { return f.hasOmission(); });
+    list(7, [](U u, R, F) { return !u.parentheticals.empty(); });
+    list(8, [](U u, R, F) { return u.hasComment; });
+    list(9, [](U u, R, F) { return u.hasQuotation; });
+    list(10, [](U u, R, F) { return !u.codes.empty(); });
+    list(11, [](U, R, F f) { return f.errors.total() > 0; });
+    list(12, [](U, R, F f) { return f.fluency.total() > 0; });
+    list(13, [](U, R, F f) { return f.nonmainstream.total() > 0; });
+    list(14, [](U, R, F f) { return f.codeSwitch.total() > 0; });
+    const Terminator terms[] = {Terminator::Statement, Terminator::Exclamation,
+                                Terminator::Question,  Terminator::Prompt,
+                                Terminator::Abandoned, Terminator::Interrupted};
+    for (int k = 0; k < 6; ++k)
+        list(15 + k, [t = terms[k]](U u, R, F) { return u.terminator == t; });
+}
+
+} // namespace tavi

@@ -1,0 +1,98 @@
+// One pass over an utterance's words and codes.
+#include "analysis/utterance_facts.h"
+
+#include "analysis/gc_dictionary.h"
+#include "analysis/word_forms.h"
+#include "base/text.h"
+
+namespace tavi {
+
+namespace {
+
+bool wordCarries(const Utterance& u, const Word& w, const CodeMatcher& m) {
+    for (int c : w.codes)
+        if (c >= 0 && c < static_cast<int>(u.codes.size()) && m.matches(u.codes[c].text))
+            return true;
+    return false;
+}
+
+bool passesWordBase(const Utterance& u, const Word& w, const WordBase& base, const CodeMatcher& m) {
+    if (m.empty())
+        return !base.includeMode;
+    return base.includeMode ? wordCarries(u, w, m) : !wordCarries(u, w, m);
+}
+
+// Words of a parenthetical remark: blank-separated tokens that are not marks or codes.
+void addParentheticalWords(const Utterance& u, UtteranceFacts& f) {
+    for (const std::string& remark : u.parentheticals) {
+        size_t i = 0;
+        while (i < remark.size()) {
+            while (i < remark.size() && isBlank(remark[i]))
+                ++i;
+            size_t start = i;
+            while (i < remark.size() && !isBlank(remark[i]))
+                ++i;
+            std::string_view token = std::string_view(remark).substr(start, i - start);
+            if (!token.empty() && !isSkippedCategoryToken(token) && token.front() != '(' &&
+                token.front() != '{' && token.front() != '<')
+                f.extraWords.push_back(toLowerAscii(token.substr(0, token.find_first_of("/+"))));
+        }
+    }
+}
+
+void tallyCodes(const Utterance& u, const CodeMatchers& m, UtteranceFacts& f) {
+    for (const Code& c : u.codes) {
+        bool onWord = c.word >= 0;
+        (onWord ? f.wordCode : f.utteranceCode) = true;
+        f.excludeCode = f.excludeCode || m.excludeSet.matches(c.text);
+        auto tally = [&](const CodeMatcher& list, CodeTally& t) {
+            if (list.matches(c.text))
+                ++(onWord ? t.onWords : t.onUtterance);
+        };
+        tally(m.errors, f.errors);
+        tally(m.fluency, f.fluency);
+        tally(m.nonmainstream, f.nonmainstream);
+        tally(m.codeSwitch, f.codeSwitch);
+    }
+}
+
+} // namespace
+
+UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeMatchers& m) {
+    UtteranceFacts f;
+    f.overlap = u.hasOverlap;
+    for (const Word& w : u.words) {
+        f.overlap = f.overlap || w.inOverlap;
+        if (isMazeWord(w)) {
+            ++f.mazeWords;
+            continue;
+        }
+        if (w.inMaze)
+            continue;
+        if (w.omitted) {
+            ++f.omittedWords;
+            continue;
+        }
+        f.omittedMorphemes += static_cast<int>(w.omittedBoundMorphemes.size());
+        f.omittedClitics += static_cast<int>(w.omittedClitics.size());
+        if (w.unintelligible) {
+            ++f.unintelligibleMarks;
+            continue;
+        }
+        if (!passesWordBase(u, w, base, m.wordBase))
+            continue;
+        f.words.push_back(&w);
+        f.morphemes += morphemeCount(w);
+        f.boundMorphemes += static_cast<int>(w.boundMorphemes.size());
+        f.clitics += static_cast<int>(w.clitics.size());
+        f.errorWords += wordCarries(u, w, m.errors) ? 1 : 0;
+    }
+    if (!base.excludeParenthetical)
+        addParentheticalWords(u, f);
+    f.morphemes += static_cast<int>(f.extraWords.size());
+    f.wordCount = static_cast<int>(f.words.size() + f.extraWords.size());
+    tallyCodes(u, m, f);
+    return f;
+}
+
+} // namespace tavi

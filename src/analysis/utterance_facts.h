@@ -1,0 +1,46 @@
+// What the measures need to know about one utterance, gathered in one pass
+// over its words and codes under the word base and the code lists.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "analysis/code_lists.h"
+#include "analysis/word_base.h"
+#include "transcript/utterance.h"
+
+namespace tavi {
+
+// The code lists of one analysis, parsed once.
+struct CodeMatchers {
+    CodeMatcher errors, fluency, nonmainstream, codeSwitch, excludeSet;
+    CodeMatcher wordBase; // the word base's exclude or include list
+};
+
+// Counts of one kind of code in an utterance.
+struct CodeTally {
+    int onWords = 0;
+    int onUtterance = 0;
+    int total() const { return onWords + onUtterance; }
+};
+
+struct UtteranceFacts {
+    std::vector<const Word*> words;      // counted main-body words, in order
+    std::vector<std::string> extraWords; // words of parenthetical remarks, when counted
+    int wordCount = 0;                   // words.size() + extraWords.size()
+    int morphemes = 0;
+    int mazeWords = 0;
+    int unintelligibleMarks = 0; // main-body "X", "XX", "XXX"
+    int omittedWords = 0, omittedMorphemes = 0, omittedClitics = 0;
+    int boundMorphemes = 0, clitics = 0;
+    bool overlap = false;
+    bool wordCode = false, utteranceCode = false, excludeCode = false;
+    CodeTally errors, fluency, nonmainstream, codeSwitch;
+    int errorWords = 0; // counted words carrying an error code
+
+    bool hasOmission() const { return omittedWords + omittedMorphemes + omittedClitics > 0; }
+};
+
+UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeMatchers& codes);
+
+} // namespace tavi

@@ -1,0 +1,28 @@
+// The forms under which the analysis compares words: lower-case roots (NDW,
+// words mentioned first), lower-case surface forms without marks (word lists,
+// imitations, yes/no words), and morpheme counts.
+#pragma once
+
+#include <string>
+
+#include "transcript/utterance.h"
+
+namespace tavi {
+
+// The root in lower case: "Dog/s" -> "dog".
+std::string rootKey(const Word& w);
+// The word as said, in lower case, marks and omitted parts dropped:
+// "do/n't" -> "don't", "dog/s" -> "dogs", "he+'s" -> "he's".
+std::string surfaceForm(const Word& w);
+// One for the word plus one for each bound morpheme present; clitics add nothing.
+inline int morphemeCount(const Word& w) {
+    return 1 + static_cast<int>(w.boundMorphemes.size());
+}
+// A word of a maze that counts as a maze word: not omitted, not an unintelligible mark.
+inline bool isMazeWord(const Word& w) {
+    return w.inMaze && !w.omitted && !w.unintelligible;
+}
+// The number of main-body words of an utterance.
+int mainBodyWordCount(const Utterance& u);
+
+} // namespace tavi

@@ -1,0 +1,95 @@
+// The grammatical-category dictionary: hash, probing, duplicates, a full
+// table, categories of a value and the fallback from a word's form.
+#include <gtest/gtest.h>
+
+#include "analysis/gc_dictionary.h"
+#include "analysis/grammatical_categories.h"
+#include "base/text.h"
+#include "support/recording_prompter.h"
+#include "transcript_builder.h"
+
+namespace tavi {
+namespace {
+
+std::int32_t hashOf(std::string_view s, std::int32_t cap = MAX_DICTIONARY_WORDS) {
+    return dictionaryHash(toUtf16(s), cap);
+}
+
+TEST(GcDictionaryHash, FollowsTheDefinitionOverUtf16CodeUnits) {
+    EXPECT_EQ(hashOf(""), 0);
+    EXPECT_EQ(hashOf("ab"), 97 * 64 + 98);
+    EXPECT_EQ(hashOf("zzzz"), 17785);             // wraps modulo 185551 twice
+    EXPECT_EQ(hashOf("\xC3\xA9"), 233);           // U+00E9 is one code unit
+    EXPECT_EQ(hashOf("\xF0\x9F\x98\x80"), 74211); // U+1F600 is two (a surrogate pair)
+    EXPECT_EQ(hashOf("a", 7), 6);
+    EXPECT_EQ(hashOf("b", 7), 0);
+}
+
+TEST(GcDictionaryStore, ProbesUpwardWrapsAndKeepsTheFirstDuplicate) {
+    GcDictionary d(7);
+    EXPECT_TRUE(d.insert("a [GC:NOUN]"));    // slot 6
+    EXPECT_TRUE(d.insert("a [GC:VERB]"));    // duplicate: wraps to slot 0
+    EXPECT_TRUE(d.insert("b   [GC:ADJ]  ")); // home 0 taken: slot 1
+    EXPECT_EQ(d.lookup("a"), "[GC:NOUN]");
+    EXPECT_EQ(d.lookup("b"), "[GC:ADJ]"); // value trimmed
+    EXPECT_FALSE(d.lookup("c"));          // home 1 holds "b", slot 2 empty
+    EXPECT_FALSE(d.lookup("A"));          // case-sensitive
+    EXPECT_EQ(d.size(), 3);
+}
+
+TEST(GcDictionaryStore, LineWithoutBlankHasEmptyKeyAndIsNeverFound) {
+    GcDictionary d(7);
+    EXPECT_TRUE(d.insert("lonely"));
+    EXPECT_FALSE(d.lookup("lonely"));
+    EXPECT_TRUE(d.insert("b [GC:ADJ]")); // its home slot 0 is taken by the empty key
+    EXPECT_EQ(d.lookup("b"), "[GC:ADJ]");
+}
+
+TEST(GcDictionaryStore, FullTableReportsOnceAndKeepsWhatWasLoaded) {
+    GcDictionary d(3);
+    test::RecordingPrompter p;
+    d.load("a [GC:NOUN]\nb [GC:VERB]\nc [GC:ADJ]\nd [GC:DET]\ne [GC:PREP]\n", p);
+    EXPECT_EQ(p.messages, std::vector<std::string>{"Increase MAX_DICTIONARY_WORDS"});
+    EXPECT_EQ(d.size(), 3);
+    EXPECT_EQ(d.lookup("c"), "[GC:ADJ]");
+    EXPECT_FALSE(d.lookup("d"));
+}
+
+TEST(GcDictionaryStore, MissingFileIsReported) {
+    GcDictionary d(11);
+    test::RecordingPrompter p;
+    EXPECT_FALSE(d.loadFile("/nonexistent/GCDictionaryFile.txt", p));
+    EXPECT_EQ(p.messages, std::vector<std::string>{"Unable to open Grammatical Category dictionary "
+                                                   "file (/nonexistent/GCDictionaryFile.txt)"});
+}
+
+TEST(GrammaticalCategories, WordCategoriesFromDictionaryThenFromForm) {
+    GcDictionary d(101);
+    d.insert("run [GC:VERB] [GC:NOUN]");
+    d.insert("I [GC:PPRON]");
+    auto cats = [&](std::string_view token, const GcDictionary* dict) {
+        return wordCategories(test::makeWord(token), dict);
+    };
+    EXPECT_EQ(cats("run", &d), (std::vector<int>{GcVerb, GcNoun}));
+    EXPECT_EQ(cats("Run", &d), (std::vector<int>{GcVerb, GcNoun})); // lower-case retry
+    EXPECT_EQ(cats("I", &d), std::vector<int>{GcPPron});
+    EXPECT_EQ(cats("quickly", &d), std::vector<int>{GcAverb});
+    EXPECT_EQ(cats("jumping", &d), std::vector<int>{GcVerb});
+    EXPECT_EQ(cats("walk/ed", &d), std::vector<int>{GcVerb});
+    EXPECT_EQ(cats("table", &d), std::vector<int>{GcNoun});
+    EXPECT_EQ(cats("ly", nullptr), std::vector<int>{GcNoun}); // an ending alone is no adverb
+    EXPECT_EQ(categoryOfCode("[gc:noun]"), GcNoun);
+    EXPECT_EQ(categoryOfCode("INTJ"), GcIntj);
+    EXPECT_FALSE(categoryOfCode("[GC:FOO]"));
+}
+
+TEST(GrammaticalCategories, SkippedTokens) {
+    for (std::string_view t : {"=x", "+x", ":", "*the", "%goed", "[EW]", ".", "\"hi",
+                               "\xE2\x80\x9Cquote", "\xC2\xBFque", "\xEF\xBE\x93x", " x", ""})
+        EXPECT_TRUE(isSkippedCategoryToken(t)) << t;
+    for (std::string_view t : {"dog", "X", "don't", "\xC3\xA9t\xC3\xA9"})
+        EXPECT_FALSE(isSkippedCategoryToken(t)) << t;
+}
+
+} // namespace
+} // namespace tavi
