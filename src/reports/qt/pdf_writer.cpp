@@ -1,0 +1,321 @@
+// Page layout of reports: blocks measured once, placed on pages, then drawn.
+#include "reports/qt/pdf_writer.h"
+
+#include <QBuffer>
+#include <QFont>
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QPdfWriter>
+#include <functional>
+
+#include "base/file_io.h"
+#include "base/format.h"
+#include "reports/qt/gui_application.h"
+
+namespace tavi::qt {
+namespace {
+
+constexpr int kDpi = 300;
+const QColor kInk(0x20, 0x20, 0x20);
+const QColor kAccent(0x1F, 0x3A, 0x5F);
+const QColor kShade(0xEE, 0xF2, 0xF7);
+const QColor kRule(0x9A, 0xA5, 0xB1);
+
+qreal mm(double millimetres) {
+    return millimetres / 25.4 * kDpi;
+}
+QString qs(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+QFont font(qreal points, bool bold = false, bool italic = false) {
+    QFont f(QStringLiteral("DejaVu Sans"));
+    f.setPointSizeF(points);
+    f.setBold(bold);
+    f.setItalic(italic);
+    return f;
+}
+
+// A piece of a page: its height, and how to draw it at a given top edge.
+struct Block {
+    qreal height = 0;
+    qreal spaceBefore = 0;
+    bool keepWithNext = false;
+    std::function<void(QPainter&, qreal top)> draw;
+};
+
+struct Page {
+    std::vector<std::pair<const Block*, qreal>> placed;
+};
+
+class ReportLayout {
+public:
+    ReportLayout(QPdfWriter& writer, const PdfPageSetup& setup)
+        : writer_(writer), left_(mm(setup.marginMm)),
+          width_(writer.width() - 2 * mm(setup.marginMm)) {}
+
+    std::vector<Block> blocks(const Report& report) const;
+
+private:
+    qreal lineHeight(const QFont& f) const { return QFontMetricsF(f, &writer_).height() * 1.12; }
+    qreal textWidth(const QString& text, const QFont& f) const {
+        return QFontMetricsF(f, &writer_).horizontalAdvance(text);
+    }
+    QString fit(const QString& text, const QFont& f, qreal width) const {
+        return QFontMetricsF(f, &writer_).elidedText(text, Qt::ElideRight, width);
+    }
+    void addHeader(const Report& report, std::vector<Block>& out) const;
+    void addLine(const LabelledLine& line, bool shaded, std::vector<Block>& out) const;
+    void addTable(const ReportTable& table, std::vector<Block>& out) const;
+    void addText(const std::string& text, const QFont& f, QColor color, qreal before,
+                 std::vector<Block>& out) const;
+
+    QPdfWriter& writer_;
+    qreal left_;
+    qreal width_;
+};
+
+void ReportLayout::addText(const std::string& text, const QFont& f, QColor color, qreal before,
+                           std::vector<Block>& out) const {
+    const qreal h = lineHeight(f);
+    QString shown = fit(qs(text), f, width_);
+    out.push_back({h, before, false, [=, this](QPainter& p, qreal top) {
+                       p.setFont(f);
+                       p.setPen(color);
+                       p.drawText(QRectF(left_, top, width_, h), Qt::AlignLeft | Qt::AlignVCenter,
+                                  shown);
+                   }});
+}
+
+void ReportLayout::addHeader(const Report& report, std::vector<Block>& out) const {
+    const QFont titleFont = font(17, true);
+    const qreal titleHeight = lineHeight(titleFont) * 1.2;
+    const QString title = fit(qs(report.title), titleFont, width_);
+    out.push_back({titleHeight, 0, false, [=, this](QPainter& p, qreal top) {
+                       p.setFont(titleFont);
+                       p.setPen(kAccent);
+                       p.drawText(QRectF(left_, top, width_, titleHeight), Qt::AlignCenter, title);
+                       p.setPen(QPen(kAccent, mm(0.5)));
+                       p.drawLine(QPointF(left_, top + titleHeight),
+                                  QPointF(left_ + width_, top + titleHeight));
+                   }});
+    const QFont labelFont = font(9.5, true);
+    const QFont valueFont = font(9.5);
+    const qreal labelWidth = width_ * 0.3;
+    for (size_t i = 0; i < report.header.size(); ++i) {
+        const LabelledLine& line = report.header[i];
+        const qreal before = i == 0 ? mm(3) : 0;
+        if (line.label.empty()) {
+            addText(line.value, font(11, true), kInk, before, out);
+            continue;
+        }
+        const qreal h = lineHeight(valueFont);
+        const QString label = fit(qs(line.prefix + line.label), labelFont, labelWidth);
+        const QString value = fit(qs(line.value), valueFont, width_ - labelWidth);
+        out.push_back({h, before, false, [=, this](QPainter& p, qreal top) {
+                           p.setPen(kInk);
+                           p.setFont(labelFont);
+                           p.drawText(QRectF(left_, top, labelWidth, h),
+                                      Qt::AlignLeft | Qt::AlignVCenter, label);
+                           p.setFont(valueFont);
+                           p.drawText(QRectF(left_ + labelWidth, top, width_ - labelWidth, h),
+                                      Qt::AlignLeft | Qt::AlignVCenter, value);
+                       }});
+    }
+}
+
+void ReportLayout::addLine(const LabelledLine& line, bool shaded, std::vector<Block>& out) const {
+    if (line.label.empty()) {
+        addText(line.text(), font(10), kInk, 0, out);
+        return;
+    }
+    const QFont f = font(9.5);
+    const qreal h = lineHeight(f);
+    const qreal pad = mm(2);
+    const qreal gutter = mm(6); // the "# " mark stands in its own column
+    const qreal valueWidth =
+        std::min(width_ * 0.6, std::max(width_ * 0.3, textWidth(qs(line.value), f) + 2 * pad));
+    const QString mark = qs(line.prefix).trimmed();
+    const QString label = fit(qs(line.label), f, width_ - valueWidth - gutter - pad);
+    const QString value = fit(qs(line.value), f, valueWidth - pad);
+    out.push_back({h, 0, false, [=, this](QPainter& p, qreal top) {
+                       if (shaded)
+                           p.fillRect(QRectF(left_, top, width_, h), kShade);
+                       p.setFont(f);
+                       p.setPen(kInk);
+                       p.drawText(QRectF(left_ + pad, top, gutter, h),
+                                  Qt::AlignLeft | Qt::AlignVCenter, mark);
+                       p.drawText(QRectF(left_ + gutter, top, width_ - valueWidth - gutter, h),
+                                  Qt::AlignLeft | Qt::AlignVCenter, label);
+                       p.drawText(QRectF(left_ + width_ - valueWidth, top, valueWidth - pad, h),
+                                  Qt::AlignRight | Qt::AlignVCenter, value);
+                   }});
+}
+
+void ReportLayout::addTable(const ReportTable& table, std::vector<Block>& out) const {
+    const size_t columns = table.headings.size();
+    const qreal columnWidth = std::min(width_ * 0.18, columns ? width_ * 0.5 / columns : 0.0);
+    const qreal labelWidth = width_ - columnWidth * static_cast<qreal>(columns);
+    const qreal pad = mm(2);
+    auto row = [&](const std::string& label, const std::vector<std::string>& cells, bool heading,
+                   bool shaded) {
+        const QFont f = font(9.5, heading);
+        const qreal h = lineHeight(f);
+        const QString labelText = fit(qs(label), f, labelWidth - 2 * pad);
+        std::vector<QString> cellTexts;
+        for (size_t c = 0; c < columns; ++c)
+            cellTexts.push_back(fit(qs(c < cells.size() ? cells[c] : ""), f, columnWidth - pad));
+        out.push_back({h, heading ? mm(1) : 0, heading, [=, this](QPainter& p, qreal top) {
+                           if (shaded)
+                               p.fillRect(QRectF(left_, top, width_, h), kShade);
+                           p.setFont(f);
+                           p.setPen(kInk);
+                           p.drawText(QRectF(left_ + pad, top, labelWidth - pad, h),
+                                      Qt::AlignLeft | Qt::AlignVCenter, labelText);
+                           for (size_t c = 0; c < cellTexts.size(); ++c)
+                               p.drawText(QRectF(left_ + labelWidth + columnWidth * c, top,
+                                                 columnWidth - pad, h),
+                                          Qt::AlignRight | Qt::AlignVCenter, cellTexts[c]);
+                           if (heading) {
+                               p.setPen(QPen(kRule, mm(0.3)));
+                               p.drawLine(QPointF(left_, top + h),
+                                          QPointF(left_ + width_, top + h));
+                           }
+                       }});
+    };
+    row(table.labelHeading, table.headings, true, false);
+    for (size_t r = 0; r < table.rows.size(); ++r)
+        row(table.rows[r].label, table.rows[r].cells, false, r % 2 == 1);
+}
+
+std::vector<Block> ReportLayout::blocks(const Report& report) const {
+    std::vector<Block> out;
+    addHeader(report, out);
+    const QFont sectionFont = font(11, true);
+    for (const auto& section : report.sections) {
+        if (!section.title.empty()) {
+            const qreal h = lineHeight(sectionFont);
+            const QString title = fit(qs(section.title), sectionFont, width_);
+            out.push_back({h * 1.1, mm(2.5), true, [=, this](QPainter& p, qreal top) {
+                               p.setFont(sectionFont);
+                               p.setPen(kAccent);
+                               p.drawText(QRectF(left_, top, width_, h),
+                                          Qt::AlignLeft | Qt::AlignVCenter, title);
+                               p.setPen(QPen(kRule, mm(0.3)));
+                               p.drawLine(QPointF(left_, top + h),
+                                          QPointF(left_ + width_, top + h));
+                           }});
+        } else {
+            out.push_back({0, mm(4), false, [](QPainter&, qreal) {}});
+        }
+        bool shaded = false;
+        for (const auto& item : section.items) {
+            if (const auto* line = std::get_if<LabelledLine>(&item)) {
+                addLine(*line, shaded, out);
+                shaded = !shaded;
+            } else if (const auto* table = std::get_if<ReportTable>(&item)) {
+                addTable(*table, out);
+            } else {
+                addText(std::get<TextLine>(item).text, font(10), kInk, 0, out);
+            }
+        }
+    }
+    for (size_t i = 0; i < report.footnotes.size(); ++i)
+        addText(report.footnotes[i], font(9, false, true), kInk, i == 0 ? mm(6) : 0, out);
+    return out;
+}
+
+// Places blocks on pages: a block that does not fit starts a new page, and a
+// heading moves along with the block after it.
+std::vector<Page> paginate(const std::vector<Block>& blocks, qreal top, qreal bottom) {
+    std::vector<Page> pages(1);
+    qreal y = top;
+    for (size_t i = 0; i < blocks.size(); ++i) {
+        const Block& block = blocks[i];
+        qreal needed = block.spaceBefore + block.height;
+        if (block.keepWithNext && i + 1 < blocks.size())
+            needed += blocks[i + 1].spaceBefore + blocks[i + 1].height;
+        if (y + needed > bottom && !pages.back().placed.empty()) {
+            pages.emplace_back();
+            y = top;
+        }
+        if (!pages.back().placed.empty())
+            y += block.spaceBefore;
+        pages.back().placed.emplace_back(&block, y);
+        y += block.height;
+    }
+    return pages;
+}
+
+void drawFooter(QPainter& p, const std::string& title, int page, int pages, qreal left, qreal width,
+                qreal top) {
+    const QFont f = font(8);
+    const qreal h = QFontMetricsF(f, p.device()).height() * 1.4;
+    p.setPen(QPen(kRule, mm(0.3)));
+    p.drawLine(QPointF(left, top), QPointF(left + width, top));
+    p.setFont(f);
+    p.setPen(kInk);
+    p.drawText(QRectF(left, top, width * 0.7, h), Qt::AlignLeft | Qt::AlignVCenter, qs(title));
+    p.drawText(QRectF(left, top, width, h), Qt::AlignRight | Qt::AlignVCenter,
+               qs(format("Page %d of %d", page, pages)));
+}
+
+// The report's title and, when it has one, the transcript's name.
+std::string footerTitle(const Report& report) {
+    if (!report.header.empty() && report.header.front().label.empty())
+        return report.title + " - " + report.header.front().value;
+    return report.title;
+}
+
+} // namespace
+
+std::string reportsToPdf(const std::vector<const Report*>& reports, const PdfPageSetup& setup) {
+    ensureGuiApplication();
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter writer(&buffer);
+        writer.setResolution(kDpi);
+        writer.setCreator(QStringLiteral("TAVI"));
+        writer.setPageSize(QPageSize(QSizeF(setup.widthMm, setup.heightMm), QPageSize::Millimeter));
+        writer.setPageMargins(QMarginsF(0, 0, 0, 0), QPageLayout::Millimeter);
+        if (!reports.empty())
+            writer.setTitle(qs(reports.front()->title));
+        QPainter painter(&writer);
+        const qreal margin = mm(setup.marginMm);
+        const qreal footerTop = writer.height() - margin;
+        ReportLayout layout(writer, setup);
+        bool firstPage = true;
+        for (const Report* report : reports) {
+            const std::vector<Block> blocks = layout.blocks(*report);
+            const std::vector<Page> pages = paginate(blocks, margin, footerTop - mm(4));
+            for (size_t n = 0; n < pages.size(); ++n) {
+                if (!firstPage)
+                    writer.newPage();
+                firstPage = false;
+                for (const auto& [block, y] : pages[n].placed)
+                    block->draw(painter, y);
+                drawFooter(painter, footerTitle(*report), static_cast<int>(n + 1),
+                           static_cast<int>(pages.size()), margin, writer.width() - 2 * margin,
+                           footerTop);
+            }
+        }
+        painter.end();
+    }
+    return buffer.data().toStdString();
+}
+
+std::string saveReportPdf(const Report& report, const std::filesystem::path& path,
+                          const PdfPageSetup& setup) {
+    switch (writeFileAtomic(path, reportsToPdf({&report}, setup))) {
+    case WriteStatus::Ok:
+        return {};
+    case WriteStatus::CannotOpen:
+        return "cannot open file";
+    case WriteStatus::WriteFailed:
+        break;
+    }
+    return "cannot write to file";
+}
+
+} // namespace tavi::qt

@@ -1,0 +1,30 @@
+// Reports as PDF pages, drawn with Qt's QPdfWriter (no printer needed, works
+// without a display): a bold title, the header lines, shaded sections with
+// values in a right-hand column, ruled tables, and "Page %d of %d" in the
+// footer of every page.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "reports/report.h"
+
+namespace tavi::qt {
+
+struct PdfPageSetup {
+    double widthMm = 215.9; // US Letter
+    double heightMm = 279.4;
+    double marginMm = 15.0;
+};
+
+// The PDF bytes of the reports, each starting on a new page and numbering its
+// own pages. Creates the GUI application object when there is none.
+std::string reportsToPdf(const std::vector<const Report*>& reports, const PdfPageSetup& setup = {});
+
+// Writes one report as a PDF file through a temporary file and a rename.
+// Returns an empty string, or "cannot open file" / "cannot write to file".
+std::string saveReportPdf(const Report& report, const std::filesystem::path& path,
+                          const PdfPageSetup& setup = {});
+
+} // namespace tavi::qt
