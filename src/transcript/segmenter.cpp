@@ -470,6 +470,7 @@ void LineCutter::addWord(std::u32string_view text, size_t position, bool linked,
     if (malformed && sink_)
         sink_->problem(143, "incorrect format for linked word (" + utf8(text) + ").");
     Word word;
+    linked = linked || malformed;
     if (!splitWord(text, linked, word, sink_))
         return;
     word.position = static_cast<int>(position);
