@@ -1,0 +1,161 @@
+// Segmentation: what each utterance hands to the analysis.
+#include <gtest/gtest.h>
+
+#include "transcript/bound_morphemes.h"
+#include "transcript/segmenter.h"
+#include "transcript/transcript_file.h"
+
+namespace tavi {
+namespace {
+
+Utterance cut(std::string_view line) {
+    return segmentUtterance(line, 7, 0);
+}
+
+std::vector<std::string> roots(const Utterance& u) {
+    std::vector<std::string> out;
+    for (const Word& w : u.words)
+        out.push_back(w.root);
+    return out;
+}
+
+using Strings = std::vector<std::string>;
+
+TEST(Segmentation, WordsMorphemesAndClitics) {
+    Utterance u = cut("C the dog/s ran/*ed and he+'s *the %goed un\\tie she+*s.");
+    EXPECT_EQ(roots(u),
+              (Strings{"the", "dog", "ran", "and", "he", "the", "goed", "un\\tie", "she"}));
+    EXPECT_EQ(u.words[1].boundMorphemes, Strings{"s"});
+    EXPECT_EQ(u.words[2].omittedBoundMorphemes, Strings{"ed"});
+    EXPECT_TRUE(u.words[2].omittedBoundMorpheme);
+    EXPECT_EQ(u.words[4].clitics, Strings{"'s"});
+    EXPECT_TRUE(u.words[5].omitted);
+    EXPECT_FALSE(u.words[5].isMainBodyWord());
+    EXPECT_TRUE(u.words[6].idiosyncratic);
+    EXPECT_EQ(u.words[7].prefixes, Strings{"un"});
+    EXPECT_EQ(u.words[8].omittedClitics, Strings{"s"});
+    EXPECT_TRUE(u.words[8].omittedClitic);
+    EXPECT_EQ(u.words[1].text, "dog/s");
+    EXPECT_EQ(u.line, 7);
+    EXPECT_EQ(u.speakerId, U'C');
+}
+
+TEST(Segmentation, MazesCodesOverlapsRemarksAndPauses) {
+    Utterance u = cut("C (I um) I went|go [EW:goed] to <the> park {laughs} ((hmm, ok)) :05 "
+                      "today [EU].");
+    EXPECT_EQ(roots(u), (Strings{"I", "um", "I", "went", "to", "the", "park", "today"}));
+    ASSERT_EQ(u.mazes.size(), 1u);
+    EXPECT_EQ(u.mazes[0].words, (std::vector<int>{0, 1}));
+    EXPECT_TRUE(u.words[1].inMaze);
+    EXPECT_EQ(u.words[1].maze, 0);
+    EXPECT_FALSE(u.words[2].inMaze);
+    EXPECT_EQ(u.words[3].rootIdentification, "go");
+    ASSERT_EQ(u.codes.size(), 2u);
+    EXPECT_EQ(u.codes[0].text, "EW:goed");
+    EXPECT_EQ(u.codes[0].word, 3);
+    EXPECT_EQ(u.words[3].codes, std::vector<int>{0});
+    EXPECT_EQ(u.codes[1].text, "EU");
+    EXPECT_EQ(u.codes[1].word, -1); // after the last word: the utterance's
+    EXPECT_EQ(u.codes[1].precedingWord, 7);
+    EXPECT_TRUE(u.words[5].inOverlap);
+    EXPECT_FALSE(u.words[6].inOverlap);
+    EXPECT_TRUE(u.hasOverlap);
+    EXPECT_EQ(u.parentheticals, Strings{"hmm, ok"});
+    ASSERT_EQ(u.parentheticalWords.size(), 2u);
+    EXPECT_EQ(u.parentheticalWords[1].root, "ok");
+    EXPECT_TRUE(u.parentheticalWords[1].inParenthetical);
+    ASSERT_EQ(u.pauses.size(), 1u);
+    EXPECT_TRUE(u.pauses[0].timed);
+    EXPECT_EQ(u.pauses[0].seconds, 5);
+    EXPECT_TRUE(u.hasComment);
+    EXPECT_FALSE(u.hasQuotation);
+}
+
+TEST(Segmentation, Terminators) {
+    struct Case {
+        std::string_view line;
+        Terminator kind;
+        char32_t ch;
+    };
+    for (const Case& c :
+         {Case{"C go.", Terminator::Statement, U'.'}, Case{"C go!", Terminator::Exclamation, U'!'},
+          Case{"C go?", Terminator::Question, U'?'},
+          Case{"C go\xD8\x9F", Terminator::Question, 0x061F},
+          Case{"C go~", Terminator::Prompt, U'~'}, Case{"C go>", Terminator::Abandoned, U'>'},
+          Case{"C <go> now^", Terminator::Interrupted, U'^'}}) {
+        Utterance u = cut(c.line);
+        EXPECT_EQ(u.terminator, c.kind) << c.line;
+        EXPECT_EQ(u.terminatorChar, c.ch) << c.line;
+        EXPECT_TRUE(u.hasTerminator);
+    }
+    EXPECT_FALSE(cut("C go").hasTerminator);
+}
+
+TEST(Segmentation, IntelligibilityAndNonverbal) {
+    EXPECT_EQ(cut("C XXX.").intelligibility, Intelligibility::Unintelligible);
+    EXPECT_EQ(cut("C x xx/s.").intelligibility, Intelligibility::Unintelligible);
+    EXPECT_EQ(cut("C I want Xx.").intelligibility, Intelligibility::Partly);
+    EXPECT_EQ(cut("C (XX) I want it.").intelligibility, Intelligibility::Intelligible);
+    EXPECT_EQ(cut("C Xavier.").intelligibility, Intelligibility::Intelligible);
+    Utterance nods = cut("C {nods}.");
+    EXPECT_TRUE(nods.nonverbal);
+    EXPECT_TRUE(nods.words.empty());
+    EXPECT_FALSE(cut("C I {nods} go.").nonverbal);
+    EXPECT_FALSE(cut("C XXX {coughs}.").nonverbal);
+}
+
+TEST(Segmentation, QuotationsAndLinks) {
+    EXPECT_TRUE(cut("C he said \"go\".").hasQuotation);
+    EXPECT_FALSE(cut("C he said \xE2\x80\x9Cgo\xE2\x80\x9D.").hasQuotation);
+    EXPECT_EQ(roots(cut("C he said \xE2\x80\x9Cgo\xE2\x80\x9D.")), (Strings{"he", "said", "go"}));
+    Utterance u = cut("C ice_ _cream and peanut_ _butter_ _jelly/s.");
+    EXPECT_EQ(roots(u), (Strings{"ice_cream", "and", "peanut_butter_jelly"}));
+    EXPECT_TRUE(u.words[0].linked);
+    EXPECT_EQ(u.words[2].boundMorphemes, Strings{"s"});
+}
+
+TEST(Segmentation, WholeTranscript) {
+    LoadedTranscript t = decodeTranscript("$ Child, Examiner, Mom Dad\n+ Name: Sam\n- 0:00\n"
+                                          "C hi.\ne hello.\nD hey.\nZ who?\n: 0:05\n@end\n");
+    SegmentedTranscript s = segmentTranscript(t.lines);
+    EXPECT_EQ(s.speakers.groups[2].labels, (Strings{"Mom", "Dad"}));
+    ASSERT_EQ(s.headers.size(), 1u);
+    EXPECT_EQ(s.headers[0].keyword, "Name");
+    EXPECT_EQ(s.headers[0].value, "Sam");
+    ASSERT_EQ(s.utterances.size(), 4u);
+    EXPECT_EQ(s.utterances[1].speakerGroup, 1);
+    EXPECT_EQ(s.utterances[2].speakerGroup, 2);
+    EXPECT_EQ(s.utterances[3].speakerGroup, 2); // unknown identifier
+    EXPECT_EQ(s.utterances[3].index, 3);
+    ASSERT_EQ(s.entries.size(), 7u);
+    EXPECT_EQ(s.entries[0].kind, EntryKind::Timing);
+    EXPECT_EQ(s.entries[0].seconds, 0);
+    EXPECT_EQ(s.entries[1].utterance, 0);
+    EXPECT_EQ(s.entries[5].kind, EntryKind::Pause);
+    EXPECT_EQ(s.entries[5].seconds, 5);
+    EXPECT_EQ(s.entries[6].kind, EntryKind::End);
+}
+
+TEST(BoundMorphemes, GroupsAndContractions) {
+    EXPECT_EQ(boundMorphemeGroup("s"), 0);
+    EXPECT_EQ(boundMorphemeGroup("/Z"), 1);
+    EXPECT_EQ(boundMorphemeGroup("ing"), 5);
+    EXPECT_EQ(boundMorphemeGroup("n't"), 6);
+    EXPECT_EQ(boundMorphemeGroup("'T"), 6);
+    EXPECT_EQ(boundMorphemeGroup("d'd"), 7);
+    EXPECT_EQ(boundMorphemeGroup("'us"), 8);
+    EXPECT_EQ(boundMorphemeGroup("er"), 9);
+    EXPECT_EQ(kBoundMorphemeGroups[9].description, "other bound morpheme");
+    EXPECT_EQ(expandNegativeContraction("Can't"), "can@n't");
+    EXPECT_EQ(expandNegativeContraction("musn't"), "must@n't");
+    EXPECT_EQ(expandNegativeContraction("ain't"), "is@n't");
+    EXPECT_FALSE(expandNegativeContraction("cant"));
+    EXPECT_EQ(contractionToBoundForm("do@n't"), "do/n't");
+    EXPECT_EQ(contractionToBoundForm("he@has"), "he/h's");
+    EXPECT_EQ(contractionToBoundForm("let@'s"), "let/'us");
+    EXPECT_EQ(contractionToBoundForm("let@us"), "let/'us");
+    EXPECT_FALSE(contractionToBoundForm("dog"));
+}
+
+} // namespace
+} // namespace tavi
