@@ -3,11 +3,11 @@
 
 #include <set>
 
-#include "base/file_io.h"
 #include "base/format.h"
 #include "base/text.h"
 #include "database/db_fields.h"
 #include "database/db_messages.h"
+#include "transcript/transcript_file.h"
 
 namespace tavi::db {
 
@@ -19,18 +19,6 @@ constexpr const char* kNonMatchingMessages[kEnforcedFields] = {
 constexpr const char* kNonMatchingCounts[kEnforcedFields] = {
     "%d non-matching context", "%d non-matching subgroup", "%d non-matching ethnicity",
     "%d non-matching location", "%d non-matching +Select value"};
-
-TranLines toLines(std::string_view text) {
-    TranLines lines;
-    int number = 0;
-    for (std::string_view line : splitLines(text))
-        lines.push_back({std::string(line), ++number});
-    return lines;
-}
-
-bool matches(std::string_view value, std::string_view databaseValue) {
-    return equalsIgnoreCase(trim(value), trim(databaseValue));
-}
 
 std::string listLine(const sd2& r) {
     std::string line = format("%s - %s", r.key.c_str(), r.context.c_str());
@@ -56,11 +44,10 @@ public:
     bool addFile(const std::string& name) {
         std::string path = fullTranscriptPath(name, options_.transcriptFolder);
         std::string base = baseName(path);
-        std::string bytes;
-        if (!readFile(path, bytes))
+        LoadedTranscript transcript = loadTranscript(path);
+        if (!transcript.ok)
             return tell(format(msg::kNotOpened, path.c_str()));
-        std::string text = decodeText(bytes).utf8;
-        TranLines lines = toLines(text);
+        const TranLines& lines = transcript.lines;
         if (checker_ && checker_(lines)) {
             ++result.counters.withErrors;
             return tell(format(msg::kHasErrors, path.c_str()));
@@ -72,7 +59,7 @@ public:
             return tell(format(msg::kDuplicate, record.key.c_str()));
         }
         bool goOn = fillRecord(record, lines);
-        if (!db_.append(record, text, prompter_)) {
+        if (!db_.append(record, transcript.text, prompter_)) {
             result.stopped = true;
             return false;
         }
@@ -111,7 +98,7 @@ private:
         for (int f = 0; f < kEnforcedFields; ++f) {
             const std::string& wanted =
                 f == EnforceContext ? db_.info().context : options_.values[f];
-            if (!options_.enforce[f] || wanted.empty() || matches(*fields[f], wanted))
+            if (!options_.enforce[f] || wanted.empty() || valuesMatch(*fields[f], wanted))
                 continue;
             ++result.counters.nonMatching[f];
             goOn = tell(format(kNonMatchingMessages[f], r.key.c_str(), wanted.c_str())) && goOn;
@@ -133,6 +120,10 @@ private:
 };
 
 } // namespace
+
+TranscriptChecker standardChecker(CheckOptions options) {
+    return [options](const TranLines& lines) { return checkTranscript(lines, options).hasErrors; };
+}
 
 BuildOptions buildOptionsFromHeader(const DescriptiveHeader& info) {
     BuildOptions options;

@@ -13,6 +13,7 @@
 #include "base/prompter.h"
 #include "database/database_file.h"
 #include "database/sample_info.h"
+#include "transcript/checker.h"
 #include "transcript/tran_line.h"
 
 namespace tavi::db {
@@ -53,6 +54,8 @@ std::string buildSummary(const BuildCounters& counters);
 
 // True when the checker reports errors in the transcript.
 using TranscriptChecker = std::function<bool(const TranLines&)>;
+// The transcript checker with the given options (date format, keywords).
+TranscriptChecker standardChecker(CheckOptions options = {});
 // Fills the record's analysis values (set counts and entries) when the
 // analysis engine is at hand; may be empty.
 using SampleValuesFiller = std::function<void(const TranLines&, int speaker, sd2&)>;

@@ -134,11 +134,33 @@ SampleInfo sampleInfo(const TranLines& lines, DateOrder order) {
         else if (is("Select"))
             info.select = h.value;
     }
-    int age = ageFromCa(ca);
+    int age = ageFromDates(dob, doe, order);
     if (age < 0)
-        age = ageFromDates(dob, doe, order);
+        age = ageFromCa(ca);
     info.ageMonths = static_cast<std::int16_t>(age);
     return info;
+}
+
+bool valuesMatch(std::string_view value, std::string_view databaseValue) {
+    static constexpr std::string_view kContexts[][3] = {{"Con", "Conversation", "Conversational"},
+                                                        {"Nar", "Narration", "Narrative"},
+                                                        {"Expo", "Exposition", "Expository"},
+                                                        {"Pers", "Persuasion", "Persuasive"},
+                                                        {"Play", "Play", "Play"},
+                                                        {"Fable", "Fable", "Fable"}};
+    value = trim(value);
+    databaseValue = trim(databaseValue);
+    if (equalsIgnoreCase(value, databaseValue))
+        return true;
+    auto group = [](std::string_view text) {
+        for (std::size_t i = 0; i < std::size(kContexts); ++i)
+            for (std::string_view name : kContexts[i])
+                if (equalsIgnoreCase(text, name))
+                    return static_cast<int>(i);
+        return -1;
+    };
+    int g = group(value);
+    return g >= 0 && g == group(databaseValue);
 }
 
 std::string fullTranscriptPath(std::string_view name, std::string_view folder) {

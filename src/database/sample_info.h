@@ -8,12 +8,10 @@
 #include <string>
 #include <string_view>
 
+#include "transcript/date_format.h"
 #include "transcript/tran_line.h"
 
 namespace tavi::db {
-
-// How the "DOB" and "DOE" header dates are written (the date format setting).
-enum class DateOrder { MonthDayYear, DayMonthYear };
 
 struct SampleInfo {
     std::int16_t ageMonths = -1; // -1: unknown
@@ -29,9 +27,15 @@ struct SampleInfo {
     bool sections = false;      // "@begin"/"@end" lines are present
 };
 
+// The age comes from "DOB" and "DOE" when both are readable, else from "CA".
 SampleInfo sampleInfo(const TranLines& lines, DateOrder order);
 
-// Age in months from "CA" (years;months); nullopt-like -1 when unreadable.
+// Whether a transcript's value matches the database's: equal without regard
+// to case, a context abbreviation ("Con") also matching its name
+// ("Conversation").
+bool valuesMatch(std::string_view value, std::string_view databaseValue);
+
+// Age in months from "CA" (years;months); -1 when unreadable.
 int ageFromCa(std::string_view value);
 // Age in months between two header dates; -1 when either is unreadable.
 int ageFromDates(std::string_view dob, std::string_view doe, DateOrder order);

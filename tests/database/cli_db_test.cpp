@@ -1,0 +1,80 @@
+// `tavi db` end to end: the builder's messages on stderr, the list lines and
+// the summary on stdout, and the exit statuses.
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+
+#include "db_test_util.h"
+
+namespace {
+
+struct Outcome {
+    int status;
+    std::string out;
+    std::string err;
+};
+
+Outcome tavi(const tavi::test::ScratchDir& dir, const std::string& args) {
+    std::string out = (dir.path() / "out.txt").string(), err = (dir.path() / "err.txt").string();
+    std::string command = "cd '" + dir.path().string() + "' && '" TAVI_BINARY "' db " + args +
+                          " >'" + out + "' 2>'" + err + "'";
+    int status = std::system(command.c_str());
+    auto slurp = [](const std::string& path) {
+        std::ifstream in(path);
+        std::stringstream s;
+        s << in.rdbuf();
+        return s.str();
+    };
+    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, slurp(out), slurp(err)};
+}
+
+const char* kSample = "$ Child, Examiner\n+ CA: 4;7\n+ Context: Nar\n+ Subgroup: Demo\n"
+                      "C once there was a cat.\nC the end.\n";
+
+TEST(TaviDb, CreateAddListRemoveClear) {
+    tavi::test::ScratchDir dir;
+    dir.write("cat.tvi", kSample);
+    dir.write("bad.tvi", "$ Child, Examiner\nC no end\n");
+    EXPECT_EQ(tavi(dir, "create n.tvidb --context Narration").status, 0);
+    EXPECT_EQ(tavi(dir, "create n.tvidb --context Narration").status, 1); // never overwritten
+
+    Outcome added = tavi(dir, "add n.tvidb --enforce-context cat.tvi bad.tvi");
+    EXPECT_EQ(added.status, 1);
+    EXPECT_EQ(added.err, "bad.tvi contains errors - not stored [OK]\n");
+    EXPECT_EQ(added.out, "cat;1 - Nar (Demo)\n1 records added (1 with errors)\n");
+
+    Outcome again = tavi(dir, "add n.tvidb cat.tvi");
+    EXPECT_EQ(again.err, "Duplicate record for cat;1 - not stored [OK]\n");
+    EXPECT_EQ(again.out, "No records added (1 duplicate records)\n");
+
+    Outcome listed = tavi(dir, "list n.tvidb");
+    EXPECT_EQ(listed.status, 0);
+    EXPECT_EQ(listed.out, "Database Contents\nDatabase: n.tvidb\nContext:  Narration\n"
+                          "     Context: Nar     Subgroup: Demo     Ages: 4;7     # Samples: 1\n");
+
+    Outcome removed = tavi(dir, "remove n.tvidb 'cat;1'");
+    EXPECT_EQ(removed.status, 0);
+    EXPECT_EQ(removed.err, "Remove record cat;1? [OK]\n");
+    EXPECT_NE(tavi(dir, "list n.tvidb").out.find("Empty database file"), std::string::npos);
+
+    tavi(dir, "add n.tvidb cat.tvi");
+    EXPECT_EQ(tavi(dir, "clear n.tvidb").status, 0);
+    EXPECT_NE(tavi(dir, "list n.tvidb").out.find("Empty database file"), std::string::npos);
+}
+
+TEST(TaviDb, RestrictedAndUsage) {
+    tavi::test::ScratchDir dir;
+    EXPECT_EQ(tavi(dir, "create r.tvidb --context Play --password abc").status, 0);
+    Outcome refused = tavi(dir, "list r.tvidb");
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_EQ(refused.err, "This database has restricted access. You must know the password in "
+                           "order to access the data.\n");
+    EXPECT_EQ(tavi(dir, "list r.tvidb --password abc").status, 0);
+    EXPECT_EQ(tavi(dir, "create x.tvidb").status, 2);
+    EXPECT_EQ(tavi(dir, "frobnicate x.tvidb").status, 2);
+    EXPECT_EQ(tavi(dir, "add r.tvidb --password abc --speaker 3 a.tvi").status, 2);
+}
+
+} // namespace
