@@ -102,12 +102,17 @@ void runInOrder(std::size_t count, unsigned threads, std::size_t window,
                 isReady.wait(lock, [&] { return slots[i % window].ready; });
                 taken = std::move(slots[i % window]);
                 slots[i % window] = Slot{};
+            }
+            if (taken.error)
+                std::rethrow_exception(taken.error);
+            bool more = commit(i, *taken.value);
+            taken = Slot{}; // the result is released before the window moves on
+            {
+                std::lock_guard lock(mutex);
                 ++handedOver;
             }
             canStart.notify_all();
-            if (taken.error)
-                std::rethrow_exception(taken.error);
-            if (!commit(i, *taken.value))
+            if (!more)
                 break;
         }
     } catch (...) {
