@@ -17,6 +17,12 @@ inline constexpr const char* kSelectionSaveFilter =
     "Rectangular Data File Selections (*.SBT)|*.SBT|All Files (*.*)|*.*|";
 inline constexpr const char* kSelectionLoadFilter =
     "Rectangular Data File Selections (*.SBT)|*.SBT|Text File (*.TXT)|*.TXT|";
+// Asked before other selections are loaded over the current ones.
+inline constexpr const char* kSaveCurrentSelectionsQuestion =
+    "Would you like to save the current selections?";
+// Asked before the selections are saved as the program default ("BATCH" section).
+inline constexpr const char* kSaveBatchDefaultQuestion =
+    "Would you like to save these settings as the program default?";
 
 // The record held by a selection file's lines (loading starts from
 // BatchSelections::empty(), so a file reads back to the record that wrote it).
