@@ -1,0 +1,279 @@
+// `tavi batch`: the rectangular data file of many transcripts and its key file.
+#include <filesystem>
+#include <ostream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "analysis/gc_dictionary.h"
+#include "analysis/word_lists.h"
+#include "base/prompter.h"
+#include "base/text.h"
+#include "batch/batch_check.h"
+#include "batch/batch_defaults.h"
+#include "batch/batch_run.h"
+#include "batch/selection_file.h"
+#include "batch/variable_catalogue.h"
+#include "cli/args.h"
+#include "cli/cli_settings.h"
+#include "cli/command.h"
+#include "cli/terminal_progress.h"
+#include "reports/grid_writer.h"
+
+namespace {
+
+using namespace tavi;
+namespace fs = std::filesystem;
+
+// Answers the run's questions from the flags: a transcript with errors or
+// without its cut markers is included only when the matching flag was given.
+class BatchPrompter final : public Prompter {
+public:
+    BatchPrompter(std::ostream& err, bool includeErrors, bool includeMissingCut, bool clearLine)
+        : err_(err), includeErrors_(includeErrors), includeMissingCut_(includeMissingCut),
+          clearLine_(clearLine) {}
+
+    void inform(std::string_view text) override { print(text, ""); }
+    Answer ask(std::string_view text) override {
+        bool yes = text.find(" cut marker not found.") != std::string_view::npos
+                       ? includeMissingCut_
+                       : includeErrors_;
+        print(text, yes ? " [Yes]" : " [No]");
+        return yes ? Answer::Yes : Answer::No;
+    }
+    bool confirm(std::string_view text) override {
+        print(text, " [OK]");
+        return true;
+    }
+
+private:
+    void print(std::string_view text, const char* answer) {
+        if (clearLine_)
+            err_ << "\r\033[K";
+        err_ << text << answer << '\n';
+    }
+    std::ostream& err_;
+    bool includeErrors_;
+    bool includeMissingCut_;
+    bool clearLine_;
+};
+
+// "out.csv" -> "out_RDFKey.csv".
+fs::path keyFilePath(const fs::path& out) {
+    fs::path key = out;
+    key.replace_filename(out.stem().string() + "_RDFKey" + out.extension().string());
+    return key;
+}
+
+bool parseFormat(const std::optional<std::string>& flag, const fs::path& out, GridFormat& format) {
+    std::string word = flag ? toLowerAscii(*flag) : toLowerAscii(out.extension().string());
+    if (!word.empty() && word.front() == '.')
+        word.erase(0, 1);
+    if (word == "csv")
+        format = GridFormat::Csv;
+    else if (word == "tsv")
+        format = GridFormat::Tsv;
+    else if (word == "txt" || !flag)
+        format = GridFormat::Txt;
+    else
+        return false;
+    return true;
+}
+
+// "MLUw" chooses the first variable of that name; "SYNSMRY:MLUw" the one in
+// the group with that selection keyword.
+bool chooseByName(BatchSelections& s, const std::string& spec) {
+    const VariableCatalogue& c = VariableCatalogue::standard();
+    std::string group;
+    std::string name = spec;
+    if (size_t colon = spec.find(':'); colon != std::string::npos) {
+        group = spec.substr(0, colon);
+        name = spec.substr(colon + 1);
+    }
+    for (int index : c.find(name)) {
+        if (!group.empty() && !equalsIgnoreCase(c.groupOf(index).keyword, group))
+            continue;
+        chooseVariable(s, c, index);
+        return true;
+    }
+    return false;
+}
+
+std::vector<std::string> splitCommas(const std::string& list) {
+    std::vector<std::string> parts;
+    std::stringstream in(list);
+    std::string part;
+    while (std::getline(in, part, ','))
+        if (!trim(part).empty())
+            parts.emplace_back(trim(part));
+    return parts;
+}
+
+bool saveOne(const Grid& grid, GridFormat format, const fs::path& path, std::ostream& err) {
+    std::string problem = saveGrid(grid, format, path);
+    if (problem.empty())
+        return true;
+    err << problem << ": " << path.string() << '\n';
+    return false;
+}
+
+// The lists the measures read, loaded once for the whole run.
+struct AnalysisLists {
+    StandardWordLists wordLists;
+    GcDictionary dictionary;
+    bool haveWordLists = false;
+    bool haveDictionary = false;
+};
+
+void loadLists(const Settings& settings, AnalysisLists& lists, Prompter& prompter) {
+    std::string text;
+    for (const std::string& line : settings.standardWordListLines)
+        text += line + '\n';
+    lists.wordLists = StandardWordLists::parse(text);
+    lists.haveWordLists = settings.standardWordListFound;
+    lists.haveDictionary = lists.dictionary.loadFile(
+        settings.folders.sharedData + "GC/GCDictionaryFile.txt", prompter);
+}
+
+// The analysis settings in force: analysis set, word base, cut, window, lists.
+BatchRunOptions runOptions(const Settings& settings, const AnalysisLists& lists) {
+    BatchRunOptions options;
+    options.selections = defaultBatchSelections(settings);
+    options.measures.analysisSet = settings.analysisSet;
+    options.measures.wordBase = settings.wordBase;
+    options.measures.cut = settings.transcriptCut;
+    options.measures.window = settings.movingAverageWindow;
+    options.measures.wordLists = lists.haveWordLists ? &lists.wordLists : nullptr;
+    options.measures.dictionary = lists.haveDictionary ? &lists.dictionary : nullptr;
+    options.check.dateFormat.order =
+        settings.language.monthFirst ? DateOrder::MonthDayYear : DateOrder::DayMonthYear;
+    options.check.dateFormat.separator = settings.language.dateSeparator;
+    return options;
+}
+
+// `tavi batch --check FILE...`: the batch error check.
+int runCheck(cli::CommandContext& ctx, const std::vector<fs::path>& files,
+             const BatchRunOptions& options) {
+    if (files.empty()) {
+        ctx.err << "No transcripts selected\n";
+        return cli::kExitUsage;
+    }
+    BatchCheckResult r = checkTranscripts(files, options.check, options.threads);
+    for (const std::string& line : r.lines)
+        ctx.out << line << '\n';
+    return r.errors > 0 || r.unreadable > 0 ? cli::kExitFailed : cli::kExitOk;
+}
+
+int run(cli::CommandContext& ctx) {
+    cli::Args args(ctx.args,
+                   {"--selections", "--speaker", "--format", "--variables", "--threads", "-o"},
+                   {"--all", "--include-errors", "--include-missing-cut", "--check"});
+    if (!args.ok()) {
+        ctx.err << "tavi batch: " << args.error() << '\n';
+        return cli::kExitUsage;
+    }
+    std::optional<std::string> out = args.value("-o");
+    if (!out && !args.has("--check")) {
+        ctx.err << "tavi batch: no output file given (-o OUT)\n";
+        return cli::kExitUsage;
+    }
+    GridFormat format = GridFormat::Csv;
+    if (out && !parseFormat(args.value("--format"), *out, format)) {
+        ctx.err << "tavi batch: unknown format " << *args.value("--format")
+                << " (use csv, tsv or txt)\n";
+        return cli::kExitUsage;
+    }
+    const bool terminal = cli::TerminalProgress::stderrIsTerminal();
+    BatchPrompter prompter(ctx.err, args.has("--include-errors"), args.has("--include-missing-cut"),
+                           terminal);
+
+    LoadedSettings loaded = cli::loadCommandSettings(ctx, prompter);
+    if (!loaded.ok)
+        return cli::kExitUsage;
+    AnalysisLists lists;
+    loadLists(loaded.settings, lists, prompter);
+    BatchRunOptions options = runOptions(loaded.settings, lists);
+    if (std::optional<std::string> sbt = args.value("--selections")) {
+        if (!loadSelectionFile(*sbt, options.selections, prompter))
+            return cli::kExitUsage;
+        options.selectionFile = fs::path(*sbt);
+    }
+    if (std::optional<std::string> speaker = args.value("--speaker")) {
+        if (*speaker != "1" && *speaker != "2") {
+            ctx.err << "tavi batch: --speaker takes 1 or 2\n";
+            return cli::kExitUsage;
+        }
+        options.selections.speaker =
+            *speaker == "1" ? BatchSelections::kTargetSpeaker : BatchSelections::kOtherSpeaker;
+    }
+    if (args.has("--all"))
+        chooseAllVariables(options.selections, VariableCatalogue::standard());
+    for (const std::string& list : args.values("--variables")) {
+        for (const std::string& name : splitCommas(list)) {
+            if (!chooseByName(options.selections, name)) {
+                ctx.err << "tavi batch: unknown variable " << name << '\n';
+                return cli::kExitUsage;
+            }
+        }
+    }
+    if (std::optional<std::string> threads = args.value("--threads")) {
+        try {
+            options.threads = static_cast<unsigned>(std::stoul(*threads));
+        } catch (const std::exception&) {
+            ctx.err << "tavi batch: --threads takes a number\n";
+            return cli::kExitUsage;
+        }
+    }
+
+    std::vector<fs::path> files(args.positional().begin(), args.positional().end());
+    if (args.has("--check"))
+        return runCheck(ctx, files, options);
+    cli::TerminalProgress bar(ctx.err);
+    NoProgress none;
+    Progress& progress = terminal ? static_cast<Progress&>(bar) : none;
+    std::optional<BatchResult> result = runBatch(files, options, prompter, progress);
+    if (!result)
+        return cli::kExitFailed;
+    bool saved = saveOne(result->data, format, *out, ctx.err) &&
+                 saveOne(result->key, format, keyFilePath(*out), ctx.err);
+    return saved ? cli::kExitOk : cli::kExitFailed;
+}
+
+const cli::CommandRegistrar reg{{
+    "batch",
+    "write the rectangular data file of many transcripts",
+    "Usage: tavi batch [--selections FILE.SBT] [--speaker 1|2] [--format csv|tsv|txt]\n"
+    "                  [--variables NAME,...] [--all] [--threads N]\n"
+    "                  [--include-errors] [--include-missing-cut] -o OUT FILE...\n"
+    "       tavi batch --check [--threads N] FILE...\n"
+    "\n"
+    "Analyses every transcript in order and writes one row per transcript (and\n"
+    "speaker) of the chosen variables to OUT, and the description of every column\n"
+    "to OUT's key file (\"_RDFKey\" before the extension). Files are UTF-8 with a\n"
+    "byte order mark; a cell holding the separator is written between double quotes.\n"
+    "\n"
+    "  --selections FILE.SBT  the speaker, variables and missing values of a\n"
+    "                         selection file\n"
+    "  --speaker 1|2          the 1st (target) or 2nd speaker; a selection file\n"
+    "                         without a speaker writes a row for each\n"
+    "  --format csv|tsv|txt   comma- or tab-separated; default: OUT's extension\n"
+    "  --variables NAME,...   add variables by column name (\"MLUw,NDW,%IntelUt\");\n"
+    "                         GROUP:NAME picks a name standing in several groups\n"
+    "                         (\"SYNSMRY:MLUw\")\n"
+    "  --all                  every variable of the catalogue\n"
+    "  --threads N            analyse on N threads (default: every core)\n"
+    "  --include-errors       keep transcripts that have errors (default: left out)\n"
+    "  --include-missing-cut  keep transcripts whose cut markers are missing\n"
+    "  --check                the batch error check: the number of transcripts, each\n"
+    "                         transcript's problems and the count of errors and\n"
+    "                         warnings (exit 1 when there are errors)\n"
+    "\n"
+    "Without a selection file the selections saved as the program default (the\n"
+    "\"BATCH\" settings) are used: by default the general columns (Filename,\n"
+    "Speaker#, Speaker, AnalysisSet, WordBase, TranCut), with absent values written\n"
+    "as NA (texts) and -999 (numbers). The analysis set, word base, transcript cut\n"
+    "and moving-average window come from the settings files.\n",
+    run,
+}};
+
+} // namespace
