@@ -7,6 +7,7 @@
 #include "base/file_io.h"
 #include "base/prompter.h"
 #include "base/text.h"
+#include "transcript/bound_morphemes.h"
 
 namespace tavi {
 
@@ -108,8 +109,8 @@ bool hasEnding(std::string_view s, std::string_view end) {
 
 std::vector<int> guessFromForm(const Word& w) {
     for (const std::string& m : w.boundMorphemes) {
-        std::string e = toLowerAscii(m);
-        if (e == "ed" || e == "ing" || e == "3s" || e == "en")
+        int group = boundMorphemeGroup(m); // "/ED", "/EN", "/3S", "/ING"
+        if (group == 2 || group == 3 || group == 4 || group == 5)
             return {GcVerb};
     }
     std::string r = toLowerAscii(w.root);
@@ -124,10 +125,11 @@ std::vector<int> guessFromForm(const Word& w) {
 
 std::vector<int> wordCategories(const Word& w, const GcDictionary* dictionary) {
     if (dictionary) {
-        auto value = dictionary->lookup(w.root);
+        const std::string_view root = std::string_view(w.root).substr(w.root.rfind('\\') + 1);
+        auto value = dictionary->lookup(root);
         if (!value) {
-            std::string lower = toLowerAscii(w.root);
-            if (lower != w.root)
+            std::string lower = toLowerAscii(root);
+            if (lower != root)
                 value = dictionary->lookup(lower);
         }
         if (value) {

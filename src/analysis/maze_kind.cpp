@@ -36,13 +36,15 @@ MazeKind classifyMaze(const Utterance& u, int maze, const FilledPauseTest& isFil
         allFilled = allFilled && isFilled(w);
     if (allFilled)
         return single ? MazeKind::FilledPauseSingle : MazeKind::FilledPauseMulti;
+    const bool partWord =
+        mazeWords.size() == 1 && indices.size() == 1 && u.words[indices[0]].incomplete;
     if (mazeWords.size() == 1 && !after.empty() && after[0].size() > mazeWords[0].size() &&
         after[0].compare(0, mazeWords[0].size(), mazeWords[0]) == 0)
         return MazeKind::RepetitionPartWord;
     if (!mazeWords.empty() && mazeWords.size() <= after.size() &&
         std::equal(mazeWords.begin(), mazeWords.end(), after.begin()))
         return single ? MazeKind::RepetitionWord : MazeKind::RepetitionPhrase;
-    if (mazeWords.size() == 1 && isKnown && !isKnown(mazeWords[0]))
+    if (partWord || (mazeWords.size() == 1 && isKnown && !isKnown(mazeWords[0])))
         return MazeKind::RevisionPartWord;
     return single ? MazeKind::RevisionWord : MazeKind::RevisionPhrase;
 }

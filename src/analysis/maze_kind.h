@@ -30,9 +30,9 @@ bool isDefaultFilledPause(std::string_view word);
 // Rules, in order, with M the maze's words and N the main-body words after it:
 // every word of M a filled pause: single or multi-word filled pause; one word
 // that begins N's first word but is shorter: part-word repetition; M equal to
-// the first words of N: word or phrase repetition; one word that is not a
-// known word (when a dictionary is at hand): part-word revision; otherwise a
-// word or phrase revision.
+// the first words of N: word or phrase repetition; one part word ("ba*") or
+// one word that is not a known word (when a dictionary is at hand): part-word
+// revision; otherwise a word or phrase revision.
 MazeKind classifyMaze(const Utterance& u, int maze, const FilledPauseTest& isFilled,
                       const WordTest& isKnown);
 

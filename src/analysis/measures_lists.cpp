@@ -8,12 +8,15 @@
 #include "analysis/measure_context.h"
 #include "analysis/word_forms.h"
 #include "analysis/word_lists.h"
+#include "transcript/bound_morphemes.h"
 
 namespace tavi {
 
 namespace {
 
 using Id = MeasureId;
+
+constexpr int kContractedVerbGroup = 7; // "/'LL,/'M,/'D,/'RE,/'S,..."
 
 // Counts of several lists or categories, with the words each has seen.
 template <size_t N> struct Tally {
@@ -71,6 +74,15 @@ bool isVerbCategory(int c) {
     return c == GcVerb || c == GcCop || c == GcAxMod || c == GcAxOp;
 }
 
+// Verbs in one word: its own (by its most likely category) plus each
+// contracted verb form it carries ("he/'s", "I/'ll").
+int verbsIn(const Word& w, const std::vector<int>& cats) {
+    int n = !cats.empty() && isVerbCategory(cats.front()) ? 1 : 0;
+    for (const std::string& e : w.boundMorphemes)
+        n += boundMorphemeGroup(e) == kContractedVerbGroup ? 1 : 0;
+    return n;
+}
+
 } // namespace
 
 void fillWordLists(const SpeakerView& v, SpeakerMeasures& m) {
@@ -113,7 +125,7 @@ void fillCategoriesAndVerbs(const SpeakerView& v, SpeakerMeasures& m) {
             std::vector<int> cats = wordCategories(*w, dictionary);
             for (int c : cats)
                 tally.add(c, rootKey(*w));
-            here += !cats.empty() && isVerbCategory(cats.front()) ? 1 : 0;
+            here += verbsIn(*w, cats);
         }
         verbs += here;
         uttsWithVerb += here > 0 ? 1 : 0;

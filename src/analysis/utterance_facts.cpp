@@ -1,9 +1,7 @@
 // One pass over an utterance's words and codes.
 #include "analysis/utterance_facts.h"
 
-#include "analysis/gc_dictionary.h"
 #include "analysis/word_forms.h"
-#include "base/text.h"
 
 namespace tavi {
 
@@ -22,22 +20,11 @@ bool passesWordBase(const Utterance& u, const Word& w, const WordBase& base, con
     return base.includeMode ? wordCarries(u, w, m) : !wordCarries(u, w, m);
 }
 
-// Words of a parenthetical remark: blank-separated tokens that are not marks or codes.
+// Words of parenthetical remarks, counted when the word base takes them.
 void addParentheticalWords(const Utterance& u, UtteranceFacts& f) {
-    for (const std::string& remark : u.parentheticals) {
-        size_t i = 0;
-        while (i < remark.size()) {
-            while (i < remark.size() && isBlank(remark[i]))
-                ++i;
-            size_t start = i;
-            while (i < remark.size() && !isBlank(remark[i]))
-                ++i;
-            std::string_view token = std::string_view(remark).substr(start, i - start);
-            if (!token.empty() && !isSkippedCategoryToken(token) && token.front() != '(' &&
-                token.front() != '{' && token.front() != '<')
-                f.extraWords.push_back(toLowerAscii(token.substr(0, token.find_first_of("/+"))));
-        }
-    }
+    for (const Word& w : u.parentheticalWords)
+        if (!w.omitted && !w.unintelligible && !w.inMaze)
+            f.extraWords.push_back(rootKey(w));
 }
 
 void tallyCodes(const Utterance& u, const CodeMatchers& m, UtteranceFacts& f) {

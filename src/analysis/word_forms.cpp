@@ -5,12 +5,25 @@
 
 namespace tavi {
 
+namespace {
+
+// The root without the marks of a part word ("ba*") and of bound prefixes ("re\do").
+std::string plainRoot(const Word& w) {
+    std::string r = w.root;
+    if (w.incomplete && !r.empty() && r.back() == '*')
+        r.pop_back();
+    std::erase(r, '\\');
+    return r;
+}
+
+} // namespace
+
 std::string rootKey(const Word& w) {
-    return toLowerAscii(w.root);
+    return toLowerAscii(plainRoot(w));
 }
 
 std::string surfaceForm(const Word& w) {
-    std::string s = w.root;
+    std::string s = plainRoot(w);
     for (const std::string& m : w.boundMorphemes) {
         // Endings written by their grammar rather than their spelling.
         if (equalsIgnoreCase(m, "3s"))

@@ -9,14 +9,16 @@
 
 namespace tavi {
 
-// The root in lower case: "Dog/s" -> "dog".
+// The root in lower case, without the "*" of a part word and the "\\" of a
+// bound prefix: "Dog/s" -> "dog", "re\do" -> "redo".
 std::string rootKey(const Word& w);
 // The word as said, in lower case, marks and omitted parts dropped:
 // "do/n't" -> "don't", "dog/s" -> "dogs", "he+'s" -> "he's".
 std::string surfaceForm(const Word& w);
-// One for the word plus one for each bound morpheme present; clitics add nothing.
+// One for the word plus one for each bound morpheme present (endings and
+// bound prefixes); clitics add nothing.
 inline int morphemeCount(const Word& w) {
-    return 1 + static_cast<int>(w.boundMorphemes.size());
+    return 1 + static_cast<int>(w.boundMorphemes.size() + w.prefixes.size());
 }
 // A word of a maze that counts as a maze word: not omitted, not an unintelligible mark.
 inline bool isMazeWord(const Word& w) {

@@ -81,6 +81,7 @@ Word makeWord(std::string_view token) {
     size_t end = token.find_first_of("/+");
     w.root = std::string(token.substr(0, end));
     w.unintelligible = isUnintelligibleMark(w.root);
+    w.incomplete = w.root.size() > 1 && w.root.back() == '*';
     w.linked = w.root.find('_') != std::string::npos;
     if (end != std::string_view::npos)
         addEndings(w, token.substr(end));
@@ -105,6 +106,12 @@ TranscriptBuilder& TranscriptBuilder::utt(int group, std::string_view text) {
         std::string tok = tokens[k];
         if (tok.rfind("((", 0) == 0) {
             u.parentheticals.push_back(tok.substr(2, tok.size() - 4));
+            for (const std::string& inner : split(u.parentheticals.back() + " .")) {
+                if (inner == ".")
+                    continue;
+                u.parentheticalWords.push_back(makeWord(inner));
+                u.parentheticalWords.back().inParenthetical = true;
+            }
             continue;
         }
         if (tok[0] == '[') {

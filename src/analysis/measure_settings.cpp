@@ -1,0 +1,93 @@
+// Building measure options and resources from the settings.
+#include "analysis/measure_settings.h"
+
+#include "base/prompter.h"
+#include "base/text.h"
+
+namespace tavi {
+
+namespace {
+
+// The bracketed items of a code-list section; empty when the section has none.
+std::string codeListOf(const Settings& s, std::string_view keyword, std::string fallback) {
+    std::string list;
+    for (const KeywordLine& line : s.sectionLines(keyword))
+        if (!line.value.empty() && line.value.front() == '[')
+            list += line.value;
+    return list.empty() ? fallback : list;
+}
+
+void applyDistribution(const Settings& s, MeasureOptions& o) {
+    for (const KeywordLine& line : s.sectionLines("DIST")) {
+        if (equalsIgnoreCase(line.subKey, "WORD"))
+            o.distributionInMorphemes = false;
+        else if (equalsIgnoreCase(line.subKey, "MORPH"))
+            o.distributionInMorphemes = true;
+        else if (equalsIgnoreCase(line.subKey, "TOTAL"))
+            o.distributionOnAnalysisSet = false;
+        else if (equalsIgnoreCase(line.subKey, "ASET"))
+            o.distributionOnAnalysisSet = true;
+    }
+}
+
+void applyWordListSettings(const Settings& s, MeasureOptions& o) {
+    for (const KeywordLine& line : s.sectionLines("SWL")) {
+        if (equalsIgnoreCase(line.subKey, "TOTAL"))
+            o.wordListsOnAnalysisSet = false;
+        else if (equalsIgnoreCase(line.subKey, "ASET"))
+            o.wordListsOnAnalysisSet = true;
+        else if (equalsIgnoreCase(line.subKey, "MBODY"))
+            o.wordListArea = WordArea::MainBody;
+        else if (equalsIgnoreCase(line.subKey, "MAZE"))
+            o.wordListArea = WordArea::Mazes;
+        else if (equalsIgnoreCase(line.subKey, "MBMAZE"))
+            o.wordListArea = WordArea::MainBodyAndMazes;
+    }
+}
+
+} // namespace
+
+MeasureOptions measureOptionsFrom(const Settings& s) {
+    MeasureOptions o;
+    o.analysisSet = s.analysisSet;
+    o.wordBase = s.wordBase;
+    o.cut = s.transcriptCut;
+    o.window = s.movingAverageWindow;
+    const CodeLists defaults;
+    o.codeLists.errors = codeListOf(s, "OMITERR", defaults.errors);
+    o.codeLists.fluency = codeListOf(s, "FLUENCY", defaults.fluency);
+    o.codeLists.nonmainstream = codeListOf(s, "NONMAINSTREAM", defaults.nonmainstream);
+    o.codeLists.codeSwitch = codeListOf(s, "CODESWITCH", defaults.codeSwitch);
+    applyDistribution(s, o);
+    applyWordListSettings(s, o);
+    return o;
+}
+
+void MeasureResources::attach(MeasureOptions& options) const {
+    options.wordLists = wordListsFound ? &wordLists : nullptr;
+    options.dictionary = dictionary.get();
+}
+
+std::string dictionaryPath(const Settings& s) {
+    return s.folders.sharedData + "GC/GCDictionaryFile.txt";
+}
+
+MeasureResources loadMeasureResources(const Settings& s, Prompter& prompter) {
+    MeasureResources r;
+    r.wordListsFound = s.standardWordListFound;
+    if (r.wordListsFound) {
+        std::string text;
+        for (const std::string& line : s.standardWordListLines)
+            text += line + "\n";
+        r.wordLists = StandardWordLists::parse(text);
+    } else {
+        prompter.inform("Unable to open standard word list file (" + s.folders.sharedData +
+                        "TaviSWL.txt)");
+    }
+    auto dictionary = std::make_unique<GcDictionary>();
+    if (dictionary->loadFile(dictionaryPath(s), prompter))
+        r.dictionary = std::move(dictionary);
+    return r;
+}
+
+} // namespace tavi

@@ -1,0 +1,42 @@
+// Measure options from the settings record, and the run-time resources the
+// measures read (standard word lists, grammatical-category dictionary). The
+// desktop program, `tavi measures` and the batch all build their options here,
+// so one transcript gives the same measures everywhere.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "analysis/gc_dictionary.h"
+#include "analysis/measures.h"
+#include "analysis/word_lists.h"
+#include "settings/settings.h"
+
+namespace tavi {
+
+class Prompter;
+
+// The analysis set, word base, cut and window in force, the code lists
+// ("OMITERR", "FLUENCY", "NONMAINSTREAM", "CODESWITCH" lines holding
+// bracketed items, e.g. "OMITERR [EW][EO*]"), the distribution settings
+// ("DIST WORD"/"MORPH", "DIST TOTAL"/"ASET") and the word-list settings
+// ("SWL TOTAL"/"ASET", "SWL MBODY"/"MAZE"/"MBMAZE"). Resources are not set.
+MeasureOptions measureOptionsFrom(const Settings& settings);
+
+// The word lists and the dictionary, loaded once and kept for a run.
+struct MeasureResources {
+    StandardWordLists wordLists;
+    bool wordListsFound = false;
+    std::unique_ptr<GcDictionary> dictionary; // null when the file is missing
+
+    // Points the options at whatever was found.
+    void attach(MeasureOptions& options) const;
+};
+
+std::string dictionaryPath(const Settings& settings);
+
+// Loads both; a missing file is reported through the prompter with the
+// system's message and leaves that resource off.
+MeasureResources loadMeasureResources(const Settings& settings, Prompter& prompter);
+
+} // namespace tavi

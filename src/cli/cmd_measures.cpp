@@ -1,0 +1,279 @@
+// `tavi measures`: every measure of one speaker of one transcript, as
+// identifier/value lines or as one JSON object.
+#include <algorithm>
+#include <charconv>
+#include <optional>
+#include <ostream>
+#include <string>
+
+#include "analysis/measure_settings.h"
+#include "base/format.h"
+#include "cli/args.h"
+#include "cli/cli_settings.h"
+#include "cli/command.h"
+#include "cli/stream_prompter.h"
+#include "transcript/checker.h"
+#include "transcript/time_value.h"
+#include "transcript/transcript_file.h"
+
+namespace {
+
+using namespace tavi;
+
+std::string jsonNumber(double x) {
+    char buf[64];
+    auto res = std::to_chars(buf, buf + sizeof buf, x);
+    return std::string(buf, res.ptr);
+}
+
+std::string jsonString(std::string_view s) {
+    std::string out = "\"";
+    for (char ch : s) {
+        if (ch == '"' || ch == '\\')
+            out += '\\';
+        if (static_cast<unsigned char>(ch) < 0x20)
+            out += format("\\u%04x", ch);
+        else
+            out += ch;
+    }
+    return out + "\"";
+}
+
+std::string jsonValue(const Value& v) {
+    if (v.isMissing())
+        return "null";
+    if (v.isText())
+        return jsonString(v.asText());
+    if (v.isCount())
+        return format("%d", v.asCount());
+    return jsonNumber(v.asReal());
+}
+
+void printText(const SpeakerMeasures& m, std::ostream& out) {
+    for (size_t i = 0; i < kMeasureCount; ++i)
+        out << kMeasureInfo[i].name << '\t' << m.formatted(static_cast<MeasureId>(i)) << '\n';
+}
+
+void printJson(const SpeakerMeasures& m, std::ostream& out) {
+    out << '{';
+    for (size_t i = 0; i < kMeasureCount; ++i)
+        out << (i ? ",\n  " : "\n  ") << jsonString(kMeasureInfo[i].name) << ": "
+            << jsonValue(m[static_cast<MeasureId>(i)]);
+    out << "\n}\n";
+}
+
+std::optional<int> wholeNumber(const std::string& s) {
+    int n = 0;
+    auto [p, ec] = std::from_chars(s.data(), s.data() + s.size(), n);
+    if (ec != std::errc() || p != s.data() + s.size())
+        return std::nullopt;
+    return n;
+}
+
+std::optional<int> seconds(const std::string& s) {
+    TimeValue t = readTimeValue(s);
+    if (!t.valid || !t.given)
+        return std::nullopt;
+    return t.elapsed();
+}
+
+// The flags that override the analysis set for this run.
+void applyAnalysisSetFlags(const cli::Args& a, AnalysisSet& set) {
+    auto flag = [&](const char* name, std::int32_t& field, std::int32_t value) {
+        if (a.has(name))
+            field = value;
+    };
+    flag("--include-incomplete", set.excludeIncomplete, 0);
+    flag("--include-unintelligible", set.excludeUnintelligible, 0);
+    flag("--include-nonverbal", set.excludeNonverbal, 0);
+    flag("--exclude-questions", set.excludeQuestionResponses, 1);
+    flag("--exclude-yes-no", set.excludeYesNoResponses, 1);
+    flag("--exclude-prompts", set.excludePromptResponses, 1);
+    flag("--exclude-imitations", set.excludeImitations, 1);
+    flag("--exclude-one-word", set.excludeOneWord, 1);
+    if (auto v = a.value("--exclude-codes"))
+        set.excludeCodes = *v;
+    if (auto v = a.value("--include-only")) {
+        set.includeOnly = 1;
+        set.includeCodes = *v;
+    }
+}
+
+// The flags that override the cut; returns an error text, or empty.
+std::string applyCutFlags(const cli::Args& a, TranscriptCut& cut) {
+    if (a.has("--entire"))
+        cut = TranscriptCut{};
+    auto number = [&](const char* name, std::int32_t& field) -> bool {
+        auto v = a.value(name);
+        if (!v)
+            return false;
+        auto n = wholeNumber(*v);
+        if (!n)
+            throw std::string(name) + " needs a whole number";
+        field = *n;
+        return true;
+    };
+    auto time = [&](const char* name, std::int32_t& field) -> bool {
+        auto v = a.value(name);
+        if (!v)
+            return false;
+        auto s = seconds(*v);
+        if (!s)
+            throw std::string(name) + " needs a time such as 4:15";
+        field = *s;
+        return true;
+    };
+    try {
+        if (number("--from-utt", cut.startUtterance))
+            cut.startType = TranscriptCut::FromUtterance;
+        if (time("--from-time", cut.startTime))
+            cut.startType = TranscriptCut::FromTiming;
+        if (auto v = a.value("--from-code")) {
+            cut.startType = TranscriptCut::FromCode;
+            cut.startCode = *v;
+        }
+        if (number("--to-utt", cut.endValue))
+            cut.endType = TranscriptCut::ToUtterance;
+        if (time("--to-time", cut.endTime))
+            cut.endType = TranscriptCut::ToTiming;
+        if (auto v = a.value("--to-code")) {
+            cut.endType = TranscriptCut::ToCode;
+            cut.endCode = *v;
+        }
+        if (number("--words", cut.endValue))
+            cut.endType = TranscriptCut::ToWordCount;
+        if (number("--utts", cut.endValue))
+            cut.endType = TranscriptCut::ToUtteranceCount;
+        if (time("--elapsed", cut.endTime))
+            cut.endType = TranscriptCut::ToElapsedTime;
+    } catch (const std::string& e) {
+        return e;
+    }
+    if (auto v = a.value("--cut-speaker")) {
+        if (*v != "1" && *v != "2" && *v != "either")
+            return "--cut-speaker takes 1, 2 or either";
+        cut.startSpeaker = *v == "2" ? 1 : 0;
+        cut.endSpeaker = *v == "either" ? 2 : *v == "2" ? 1 : 0;
+    }
+    if (auto v = a.value("--cut-base")) {
+        if (*v != "total" && *v != "aset")
+            return "--cut-base takes total or aset";
+        cut.startBase = cut.endBase = *v == "total" ? 1 : 0;
+    }
+    if (a.has("--with-mazes"))
+        cut.wordArea = 1;
+    return {};
+}
+
+int usage(cli::CommandContext& ctx, const std::string& message) {
+    ctx.err << "tavi measures: " << message << '\n';
+    return cli::kExitUsage;
+}
+
+int run(cli::CommandContext& ctx) {
+    cli::Args args(ctx.args,
+                   {"--speaker", "--window", "--exclude-codes", "--include-only", "--from-utt",
+                    "--from-time", "--from-code", "--to-utt", "--to-time", "--to-code", "--words",
+                    "--utts", "--elapsed", "--cut-speaker", "--cut-base", "--word-lists"},
+                   {"--json", "--include-incomplete", "--include-unintelligible",
+                    "--include-nonverbal", "--exclude-questions", "--exclude-yes-no",
+                    "--exclude-prompts", "--exclude-imitations", "--exclude-one-word", "--entire",
+                    "--with-mazes"});
+    if (!args.ok())
+        return usage(ctx, args.error());
+    if (args.positional().size() != 1)
+        return usage(ctx, "give exactly one transcript");
+    const std::string speakerText = args.value("--speaker").value_or("1");
+    if (speakerText != "1" && speakerText != "2")
+        return usage(ctx, "--speaker takes 1 or 2");
+
+    cli::StreamPrompter prompter(ctx.err, Answer::No, false);
+    LoadedSettings loaded = cli::loadCommandSettings(ctx, prompter);
+    if (!loaded.ok)
+        return cli::kExitFailed;
+    MeasureOptions options = measureOptionsFrom(loaded.settings);
+    applyAnalysisSetFlags(args, options.analysisSet);
+    if (std::string e = applyCutFlags(args, options.cut); !e.empty())
+        return usage(ctx, e);
+    if (auto w = args.value("--window")) {
+        auto n = wholeNumber(*w);
+        if (!n || *n < kMinWindow || *n > kMaxWindow)
+            return usage(ctx, format("Enter a number between %d and %d.", kMinWindow, kMaxWindow));
+        options.window = *n;
+    }
+    if (auto set = args.value("--word-lists")) {
+        const std::string names[] = {"primary", "alt1", "alt2", "other"};
+        auto it = std::find(std::begin(names), std::end(names), *set);
+        if (it == std::end(names))
+            return usage(ctx, "--word-lists takes primary, alt1, alt2 or other");
+        options.wordListSet = static_cast<int>(it - std::begin(names));
+    }
+
+    const std::string& path = args.positional().front();
+    LoadedTranscript transcript = loadTranscript(path);
+    if (!transcript.ok)
+        return usage(ctx, "cannot read " + path);
+    CheckOptions checkOptions;
+    checkOptions.keepSegmentation = true;
+    CheckResult check = checkTranscript(transcript.lines, checkOptions);
+    if (check.hasErrors)
+        ctx.err << "tavi measures: " << path << " has " << check.errorCount()
+                << (check.errorCount() == 1 ? " error" : " errors")
+                << "; the measures count the transcript as it stands (see tavi check)\n";
+
+    int speaker = speakerText == "2" ? 1 : 0;
+    if (speaker == 1 && !check.segmented.speakers.hasSecondSpeaker()) {
+        prompter.inform(
+            "Current transcript does not have a 2nd speaker. Speaker setting has been reset.");
+        speaker = 0;
+    }
+    MeasureResources resources = loadMeasureResources(loaded.settings, prompter);
+    resources.attach(options);
+    MeasureResult result = computeMeasures(check.segmented, options);
+    if (std::string_view message = cutOutcomeMessage(result.selection.outcome); !message.empty())
+        prompter.inform(message);
+
+    if (args.has("--json"))
+        printJson(result.speakers[speaker], ctx.out);
+    else
+        printText(result.speakers[speaker], ctx.out);
+    return cli::kExitOk;
+}
+
+const cli::CommandRegistrar reg{
+    {"measures", "every measure of one speaker of a transcript",
+     "Usage: tavi measures [--speaker 1|2] [--json] [options] FILE\n\n"
+     "Prints every measure of the 1st (default) or 2nd speaker, one line each:\n"
+     "identifier, a tab, the value as the reports print it (\"   ---\" when it\n"
+     "cannot be computed). --json prints one object keyed by the identifiers,\n"
+     "numbers unrounded, texts as strings, missing values as null.\n\n"
+     "The analysis set, word base, transcript cut, moving-average window and code\n"
+     "lists come from the settings (see tavi settings); these flags override them\n"
+     "for this run only:\n"
+     "  --include-incomplete, --include-unintelligible, --include-nonverbal\n"
+     "                      keep abandoned/interrupted, unintelligible, nonverbal\n"
+     "                      utterances in the analysis set\n"
+     "  --exclude-questions, --exclude-yes-no, --exclude-prompts,\n"
+     "  --exclude-imitations, --exclude-one-word\n"
+     "                      leave out response types Q, Y, P, I, O\n"
+     "  --exclude-codes LIST   leave out utterances with any of these codes (EW,EO*)\n"
+     "  --include-only LIST    keep only utterances with one of these codes\n"
+     "  --entire               no transcript cut\n"
+     "  --from-utt N | --from-time M:SS | --from-code CODE     start of the cut\n"
+     "  --to-utt N | --to-time M:SS | --to-code CODE           end of the cut\n"
+     "  --words N | --utts N | --elapsed M:SS                  content target\n"
+     "  --cut-speaker 1|2|either   speaker the cut counts (default 1)\n"
+     "  --cut-base total|aset      utterances the cut counts (default total)\n"
+     "  --with-mazes               --words counts maze words too\n"
+     "  --window N                 moving-average window, 10 to 999\n"
+     "  --word-lists primary|alt1|alt2|other   standard word list set\n\n"
+     "The transcript is checked first. When it has errors, a warning goes to\n"
+     "stderr and the transcript is measured as it stands (exit status 0), as the\n"
+     "desktop program does when the user goes on past the error list. Cut\n"
+     "messages (\"Final cut marker not found - end of transcript used\" ...) go\n"
+     "to stderr too.\n\n"
+     "Exit status: 0 measured, 1 settings could not be loaded, 2 bad usage or a\n"
+     "file that cannot be read.\n",
+     run}};
+
+} // namespace
