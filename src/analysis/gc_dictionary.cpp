@@ -123,21 +123,25 @@ std::vector<int> guessFromForm(const Word& w) {
 
 } // namespace
 
-std::vector<int> wordCategories(const Word& w, const GcDictionary* dictionary) {
-    if (dictionary) {
-        const std::string_view root = std::string_view(w.root).substr(w.root.rfind('\\') + 1);
-        auto value = dictionary->lookup(root);
-        if (!value) {
-            std::string lower = toLowerAscii(root);
-            if (lower != root)
-                value = dictionary->lookup(lower);
-        }
-        if (value) {
-            std::vector<int> cats = categoriesOfValue(*value);
-            if (!cats.empty())
-                return cats;
-        }
+std::vector<int> dictionaryCategories(std::string_view root, const GcDictionary& dictionary) {
+    root = root.substr(root.rfind('\\') + 1);
+    auto value = dictionary.lookup(root);
+    if (!value) {
+        std::string lower = toLowerAscii(root);
+        if (lower != root)
+            value = dictionary.lookup(lower);
     }
+    return value ? categoriesOfValue(*value) : std::vector<int>{};
+}
+
+std::vector<int> wordCategories(const Word& w, const GcDictionary* dictionary) {
+    if (dictionary)
+        if (std::vector<int> cats = dictionaryCategories(w.root, *dictionary); !cats.empty())
+            return cats;
+    return guessFromForm(w);
+}
+
+std::vector<int> guessCategories(const Word& w) {
     return guessFromForm(w);
 }
 

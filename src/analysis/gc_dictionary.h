@@ -60,5 +60,9 @@ bool isSkippedCategoryToken(std::string_view token);
 // case), else a guess from its form: a verb ending ("/ed", "/ing", "/3s",
 // "/en") or "-ing"/"-ed" makes a verb, "-ly" an adverb, anything else a noun.
 std::vector<int> wordCategories(const Word& word, const GcDictionary* dictionary);
+// The two halves of wordCategories: the dictionary entry of a root (empty
+// when there is none) and the guess from the word's form.
+std::vector<int> dictionaryCategories(std::string_view root, const GcDictionary& dictionary);
+std::vector<int> guessCategories(const Word& word);
 
 } // namespace tavi

@@ -22,12 +22,8 @@ using Id = MeasureId;
 // Roots of the counted words of some utterances, in order.
 std::vector<std::string> rootsOf(const SpeakerView& v, const std::vector<int>& utts) {
     std::vector<std::string> roots;
-    for (int i : utts) {
-        for (const Word* w : v.facts(i).words)
-            roots.push_back(rootKey(*w));
-        for (const std::string& extra : v.facts(i).extraWords)
-            roots.push_back(extra);
-    }
+    for (int i : utts)
+        roots.insert(roots.end(), v.facts(i).roots.begin(), v.facts(i).roots.end());
     return roots;
 }
 
@@ -96,8 +92,7 @@ void fillMentionedFirst(const SpeakerView& v, SpeakerMeasures& m) {
         int group = v.utt(i).speakerGroup;
         if (group > 1)
             continue;
-        for (const Word* w : v.c.facts[i].words) {
-            std::string root = rootKey(*w);
+        for (const std::string& root : v.c.facts[i].roots) {
             firstBy.emplace(root, group);
             if (group == v.speaker)
                 mine.insert(root);

@@ -1,6 +1,7 @@
 // Standard word lists and grammatical categories (types and totals), and the
 // verb measures that read the categories.
 #include <algorithm>
+#include <unordered_map>
 #include <unordered_set>
 
 #include "analysis/gc_dictionary.h"
@@ -36,9 +37,14 @@ template <size_t N> struct Tally {
 // The words of an utterance in the word-list area, as surface forms and roots.
 void areaWords(const SpeakerView& v, int i, WordArea area, std::vector<std::string>& forms,
                std::vector<std::string>& roots) {
+    const UtteranceFacts& f = v.facts(i);
+    if (area == WordArea::MainBody) {
+        forms = f.forms;
+        roots.assign(f.roots.begin(), f.roots.begin() + static_cast<long>(f.words.size()));
+        return;
+    }
     forms.clear();
     roots.clear();
-    const UtteranceFacts& f = v.facts(i);
     for (const Word& w : v.utt(i).words) {
         bool maze = isMazeWord(w);
         bool body = !maze && std::find(f.words.begin(), f.words.end(), &w) != f.words.end();
@@ -117,14 +123,23 @@ void fillCategoriesAndVerbs(const SpeakerView& v, SpeakerMeasures& m) {
         return;
     int verbs = 0, uttsWithVerb = 0;
     Tally<kGrammaticalCategories> tally{m.categories};
+    std::unordered_map<std::string, std::vector<int>> known; // dictionary entries by root
     for (int i : v.analysisSet) {
         int here = 0;
-        for (const Word* w : v.facts(i).words) {
+        const UtteranceFacts& f = v.facts(i);
+        for (size_t k = 0; k < f.words.size(); ++k) {
+            const Word* w = f.words[k];
             if (isSkippedCategoryToken(w->text))
                 continue;
-            std::vector<int> cats = wordCategories(*w, dictionary);
+            auto it = known.find(w->root);
+            if (it == known.end())
+                it = known.emplace(w->root, dictionaryCategories(w->root, *dictionary)).first;
+            std::vector<int> guessed;
+            if (it->second.empty())
+                guessed = guessCategories(*w);
+            const std::vector<int>& cats = it->second.empty() ? guessed : it->second;
             for (int c : cats)
-                tally.add(c, rootKey(*w));
+                tally.add(c, f.roots[k]);
             here += verbsIn(*w, cats);
         }
         verbs += here;

@@ -24,7 +24,7 @@ bool passesWordBase(const Utterance& u, const Word& w, const WordBase& base, con
 void addParentheticalWords(const Utterance& u, UtteranceFacts& f) {
     for (const Word& w : u.parentheticalWords)
         if (!w.omitted && !w.unintelligible && !w.inMaze)
-            f.extraWords.push_back(rootKey(w));
+            f.roots.push_back(rootKey(w));
 }
 
 void tallyCodes(const Utterance& u, const CodeMatchers& m, UtteranceFacts& f) {
@@ -69,6 +69,8 @@ UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeM
         if (!passesWordBase(u, w, base, m.wordBase))
             continue;
         f.words.push_back(&w);
+        f.forms.push_back(surfaceForm(w));
+        f.roots.push_back(rootKey(w));
         f.morphemes += morphemeCount(w);
         f.boundMorphemes += static_cast<int>(w.boundMorphemes.size());
         f.clitics += static_cast<int>(w.clitics.size());
@@ -76,8 +78,8 @@ UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeM
     }
     if (!base.excludeParenthetical)
         addParentheticalWords(u, f);
-    f.morphemes += static_cast<int>(f.extraWords.size());
-    f.wordCount = static_cast<int>(f.words.size() + f.extraWords.size());
+    f.morphemes += static_cast<int>(f.roots.size() - f.words.size());
+    f.wordCount = static_cast<int>(f.roots.size());
     tallyCodes(u, m, f);
     return f;
 }

@@ -25,9 +25,10 @@ struct CodeTally {
 };
 
 struct UtteranceFacts {
-    std::vector<const Word*> words;      // counted main-body words, in order
-    std::vector<std::string> extraWords; // words of parenthetical remarks, when counted
-    int wordCount = 0;                   // words.size() + extraWords.size()
+    std::vector<const Word*> words; // counted main-body words, in order
+    std::vector<std::string> forms; // their surface forms (word_forms.h)
+    std::vector<std::string> roots; // their roots, then those of counted parenthetical words
+    int wordCount = 0;              // roots.size()
     int morphemes = 0;
     int mazeWords = 0;
     int unintelligibleMarks = 0; // main-body "X", "XX", "XXX"

@@ -12,7 +12,8 @@ std::string plainRoot(const Word& w) {
     std::string r = w.root;
     if (w.incomplete && !r.empty() && r.back() == '*')
         r.pop_back();
-    std::erase(r, '\\');
+    if (r.find('\\') != std::string::npos)
+        std::erase(r, '\\');
     return r;
 }
 
