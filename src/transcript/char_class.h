@@ -78,11 +78,27 @@ constexpr bool isControl(char32_t c) {
            (c >= 0x80 && c < 0xA0);
 }
 
+namespace detail {
+constexpr bool computeWordChar(char32_t c) {
+    return !isTerminator(c) && !isWordMark(c) && !isBracket(c) && !isSeparator(c) &&
+           !isLineIdentifier(c) && !isAmpersandOrHash(c) && !isControl(c);
+}
+struct AsciiTable {
+    bool wordChar[128] = {};
+};
+constexpr AsciiTable makeAsciiTable() {
+    AsciiTable t;
+    for (char32_t c = 0; c < 128; ++c)
+        t.wordChar[c] = computeWordChar(c);
+    return t;
+}
+inline constexpr AsciiTable kAscii = makeAsciiTable();
+} // namespace detail
+
 // A character of a word: anything that is not notation, not white space and not
 // a control character.
 constexpr bool isWordChar(char32_t c) {
-    return !isTerminator(c) && !isWordMark(c) && !isBracket(c) && !isSeparator(c) &&
-           !isLineIdentifier(c) && !isAmpersandOrHash(c) && !isControl(c);
+    return c < 128 ? detail::kAscii.wordChar[c] : detail::computeWordChar(c);
 }
 
 // The characters that cannot begin an utterance line (a line beginning with one

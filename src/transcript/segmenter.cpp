@@ -6,10 +6,12 @@
 #include "transcript/segmenter.h"
 
 #include <algorithm>
+#include <cstdint>
 
 #include "base/format.h"
 #include "base/text.h"
 #include "transcript/char_class.h"
+#include "transcript/code_points.h"
 #include "transcript/word_split.h"
 
 namespace tavi {
@@ -20,14 +22,6 @@ using Span = std::pair<size_t, size_t>; // [first, last] positions, both inclusi
 
 constexpr char32_t kBlank = U' ';
 constexpr size_t kMaxPauseRun = 20;
-
-std::string utf8(std::u32string_view s) {
-    std::string out;
-    out.reserve(s.size());
-    for (char32_t c : s)
-        appendUtf8(out, c);
-    return out;
-}
 
 bool inSpans(const std::vector<Span>& spans, size_t pos) {
     for (const Span& s : spans)
@@ -54,6 +48,14 @@ private:
             buf_[i] = kBlank;
     }
     bool findEnd();
+    void notePresentCharacters();
+    bool anyPresent(std::u32string_view chars) const {
+        for (char32_t c : chars)
+            if (present_[c >> 6] & (std::uint64_t{1} << (c & 63)))
+                return true;
+        return false;
+    }
+    Word& nextWordSlot();
     void commentsAndCodes();
     void parentheticals();
     void closeParenthetical(size_t open, size_t close);
@@ -72,6 +74,10 @@ private:
     size_t end_ = 0; // position of the terminator (or of the end of the text)
     bool missingTerminator_ = false;
     bool textAfterEnd_ = false;
+    std::uint64_t present_[2] = {0, 0}; // ASCII characters present before the terminator
+    bool nonAscii_ = false;
+    bool controls_ = false;
+    size_t wordCount_ = 0;
     std::vector<size_t> codePositions_;
     std::vector<Span> mazes_;
     std::vector<Span> overlaps_;
@@ -81,17 +87,23 @@ void LineCutter::run() {
     if (buf_.size() < 2 || !(cls::isSpace(buf_[1]) || cls::isTerminator(buf_[1]))) {
         report(120, "speaker id is not followed by blank space.");
         out_.hasTerminator = false;
+        out_.words.clear();
         return;
     }
     findEnd();
-    commentsAndCodes();
+    notePresentCharacters();
+    if (anyPresent(U"{}[]"))
+        commentsAndCodes();
     if (missingTerminator_)
         report(108, "missing end of utterance punctuation.");
     else if (textAfterEnd_)
         report(112, "characters found after end of utterance.");
-    parentheticals();
-    mazesAndOverlaps();
-    pausesAndCharacters();
+    if (nonAscii_ || anyPresent(U"(),\"\x1C\x1D"))
+        parentheticals();
+    if (anyPresent(U"()<>"))
+        mazesAndOverlaps();
+    if (nonAscii_ || controls_ || anyPresent(U":.!?~^=;-$@"))
+        pausesAndCharacters();
     words();
     attachCodes();
     classify();
@@ -133,6 +145,25 @@ bool LineCutter::findEnd() {
     out_.terminatorChar = buf_[end_];
     out_.terminator = static_cast<Terminator>(cls::terminatorKind(buf_[end_]));
     return true;
+}
+
+void LineCutter::notePresentCharacters() {
+    std::uint64_t low = 0, high = 0;
+    for (size_t i = 1; i < end_; ++i) {
+        char32_t c = buf_[i];
+        std::uint64_t bit = std::uint64_t{1} << (c & 63);
+        if (c < 64)
+            low |= bit;
+        else if (c < 128)
+            high |= bit;
+        else
+            nonAscii_ = true;
+    }
+    present_[0] = low;
+    present_[1] = high;
+    constexpr std::uint64_t kSpacing =
+        (1u << 9) | (1u << 10) | (1u << 11) | (1u << 12) | (1u << 13) | (1u << 0x1C) | (1u << 0x1D);
+    controls_ = (low & (0xFFFFFFFFu & ~kSpacing)) != 0 || (high >> 63) != 0;
 }
 
 void LineCutter::commentsAndCodes() {
@@ -464,12 +495,38 @@ void LineCutter::words() {
     }
     if (linkOpen)
         closeLink(false);
+    out_.words.resize(wordCount_);
+}
+
+// The next word of the utterance, reusing a record of the previous line when
+// there is one (its strings keep their memory).
+Word& LineCutter::nextWordSlot() {
+    if (wordCount_ == out_.words.size())
+        return out_.words.emplace_back();
+    Word& w = out_.words[wordCount_];
+    // Every field is reset here; a field added to Word must be added too.
+    static_assert(sizeof(Word) == 264, "reset the new field of Word in nextWordSlot");
+    w.text.clear();
+    w.root.clear();
+    w.boundMorphemes.clear();
+    w.omittedBoundMorphemes.clear();
+    w.clitics.clear();
+    w.omittedClitics.clear();
+    w.prefixes.clear();
+    w.rootIdentification.clear();
+    w.codes.clear();
+    w.maze = -1;
+    w.omitted = w.omittedBoundMorpheme = w.omittedClitic = w.idiosyncratic = false;
+    w.inMaze = w.inParenthetical = w.inOverlap = w.linked = w.unintelligible = false;
+    w.incomplete = false;
+    w.position = 0;
+    return w;
 }
 
 void LineCutter::addWord(std::u32string_view text, size_t position, bool linked, bool malformed) {
     if (malformed && sink_)
         sink_->problem(143, "incorrect format for linked word (" + utf8(text) + ").");
-    Word word;
+    Word& word = nextWordSlot();
     linked = linked || malformed;
     if (!splitWord(text, linked, word, sink_))
         return;
@@ -479,11 +536,11 @@ void LineCutter::addWord(std::u32string_view text, size_t position, bool linked,
         if (position >= mazes_[m].first && position <= mazes_[m].second) {
             word.inMaze = true;
             word.maze = static_cast<int>(m);
-            out_.mazes[m].words.push_back(static_cast<int>(out_.words.size()));
+            out_.mazes[m].words.push_back(static_cast<int>(wordCount_));
         }
     }
     word.inOverlap = inSpans(overlaps_, position);
-    out_.words.push_back(std::move(word));
+    ++wordCount_;
 }
 
 // A code followed by more words belongs to the word before it; a code after
@@ -529,7 +586,6 @@ void UtteranceSegmenter::segment(std::string_view line, int lineNumber, int spea
     out.line = lineNumber;
     out.terminatorChar = U'.';
     out.terminator = Terminator::Statement;
-    out.words.clear();
     out.codes.clear();
     out.mazes.clear();
     out.parentheticals.clear();
@@ -540,12 +596,7 @@ void UtteranceSegmenter::segment(std::string_view line, int lineNumber, int spea
     out.intelligibility = Intelligibility::Intelligible;
     out.nonverbal = false;
 
-    buf_.clear();
-    size_t pos = 0;
-    while (pos < line.size()) {
-        auto b = static_cast<unsigned char>(line[pos]);
-        buf_.push_back(b < 0x80 ? (++pos, b) : nextCodePoint(line, pos));
-    }
+    decodeCodePoints(line, buf_);
     out.speakerId = buf_.empty() ? 0 : buf_[0];
     LineCutter(buf_, scratch_, out, sink).run();
 }

@@ -6,18 +6,11 @@
 
 #include "base/text.h"
 #include "transcript/char_class.h"
+#include "transcript/code_points.h"
 
 namespace tavi {
 
 namespace {
-
-std::string utf8(std::u32string_view s) {
-    std::string out;
-    out.reserve(s.size());
-    for (char32_t c : s)
-        appendUtf8(out, c);
-    return out;
-}
 
 class WordSplitter {
 public:
@@ -30,6 +23,7 @@ private:
         if (sink_)
             sink_->problem(code, message);
     }
+    bool plainWord();
     void checkRootIdentification();
     void checkMarks();
     void splitStem(std::u32string_view stem, char32_t nextMark);
@@ -44,13 +38,15 @@ private:
 };
 
 bool WordSplitter::run() {
+    if (plainWord())
+        return true;
     if (w_.starts_with(U'+')) {
         report(-6, "+ should not be used to mark unbound clitics (ignored).");
         w_.remove_prefix(1);
         if (w_.empty())
             return false;
     }
-    word_.text = utf8(w_);
+    assignUtf8(word_.text, w_);
     checkRootIdentification();
     checkMarks();
     size_t mark = w_.find_first_of(U"/+");
@@ -58,6 +54,23 @@ bool WordSplitter::run() {
     splitStem(stem, mark == std::u32string_view::npos ? 0 : w_[mark]);
     if (mark != std::u32string_view::npos)
         splitEndings(w_.substr(mark));
+    return true;
+}
+
+// The common case: only word characters, at least one letter or digit. Root
+// and text are the word itself; no rule can apply.
+bool WordSplitter::plainWord() {
+    bool alnum = false;
+    for (char32_t c : w_) {
+        if (!cls::isWordChar(c))
+            return false;
+        alnum = alnum || cls::isAlnum(c);
+    }
+    if (!alnum)
+        return false;
+    assignUtf8(word_.text, w_);
+    word_.root = word_.text;
+    word_.unintelligible = isUnintelligibleMark(w_);
     return true;
 }
 
@@ -148,7 +161,7 @@ void WordSplitter::splitStem(std::u32string_view stem, char32_t nextMark) {
         if (slash + 1 == stem.size())
             report(121, "missing word root");
     }
-    word_.root = utf8(stem);
+    assignUtf8(word_.root, stem);
     std::u32string_view root = slash == std::u32string_view::npos ? stem : stem.substr(slash + 1);
     if (!root.empty() && !legalRoot(root))
         report(122, "illegal word.");

@@ -1,0 +1,38 @@
+// UTF-8 <-> code points for segmentation.
+#include "transcript/code_points.h"
+
+#include "base/text.h"
+
+namespace tavi {
+
+void decodeCodePoints(std::string_view line, std::u32string& out) {
+    out.resize(line.size());
+    size_t n = 0;
+    size_t pos = 0;
+    while (pos < line.size()) {
+        auto b = static_cast<unsigned char>(line[pos]);
+        if (b < 0x80) {
+            out[n++] = b;
+            ++pos;
+        } else {
+            out[n++] = nextCodePoint(line, pos);
+        }
+    }
+    out.resize(n);
+}
+
+void assignUtf8(std::string& out, std::u32string_view text) {
+    out.resize(text.size());
+    for (size_t i = 0; i < text.size(); ++i) {
+        char32_t c = text[i];
+        if (c >= 0x80) {
+            out.resize(i);
+            for (size_t k = i; k < text.size(); ++k)
+                appendUtf8(out, text[k]);
+            return;
+        }
+        out[i] = static_cast<char>(c);
+    }
+}
+
+} // namespace tavi
