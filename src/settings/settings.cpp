@@ -150,6 +150,14 @@ const std::vector<KeywordLine>& Settings::sectionLines(std::string_view keyword)
     return found == userSections.end() ? none : found->second;
 }
 
+void Settings::replaceSectionLines(std::string_view keyword,
+                                   const std::vector<std::string>& lines) {
+    std::vector<KeywordLine>& section = userSections[toUpperAscii(keyword)];
+    section.clear();
+    for (const std::string& line : lines)
+        section.push_back(parseKeywordLine(line));
+}
+
 std::optional<std::string> userSectionKeyword(std::string_view keyword) {
     for (std::string_view known : kUserSectionKeywords) {
         if (keyIs(keyword, known))

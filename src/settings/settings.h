@@ -219,6 +219,9 @@ struct Settings {
 
     // The lines of one user-level section (empty when the file had none).
     const std::vector<KeywordLine>& sectionLines(std::string_view keyword) const;
+    // Puts a section's new lines in place of its old ones, as after saving it
+    // as the program default (typed fields are the caller's to set).
+    void replaceSectionLines(std::string_view keyword, const std::vector<std::string>& lines);
     // Defaults can be saved: "CUSTOMIZEPROMPT YES" and the data folder was not declined.
     bool canSaveDefaults() const { return customizeAllowed && !dataFolderDeclined; }
     // Where TAVI.ini is read and saved.

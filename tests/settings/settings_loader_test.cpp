@@ -102,6 +102,10 @@ TEST(UserLevelFile, FlagsListsAndValues) {
     EXPECT_TRUE(s.sectionLines("UNKNOWN").empty());
     EXPECT_EQ(s.userSections.count("SPNOSHOWX"), 0u);
 
+    l.settings.replaceSectionLines("aset", {"ASET EXCLUDEIMIT"});
+    ASSERT_EQ(s.sectionLines("ASET").size(), 1u);
+    EXPECT_EQ(s.sectionLines("ASET")[0].subKey, "EXCLUDEIMIT");
+
     l.user("PDFPRINTERNAME PDF Writer");
     EXPECT_EQ(l.settings.pdfPrinterName, "PDF Writer");
     l.user("PDFPRINTERNAME n/a");
