@@ -1,4 +1,5 @@
 // `tavi batch`: the rectangular data file of many transcripts and its key file.
+#include <charconv>
 #include <filesystem>
 #include <ostream>
 #include <sstream>
@@ -164,6 +165,50 @@ int runCheck(cli::CommandContext& ctx, const std::vector<fs::path>& files,
     return r.errors > 0 || r.unreadable > 0 ? cli::kExitFailed : cli::kExitOk;
 }
 
+constexpr unsigned kMostThreads = 256;
+
+// The selection flags over the default selections: a selection file, the
+// speaker, --all and --variables; and the thread count. False on bad usage
+// (the reason already printed).
+bool applyFlags(const cli::Args& args, BatchRunOptions& options, Prompter& prompter,
+                std::ostream& err) {
+    if (std::optional<std::string> sbt = args.value("--selections")) {
+        if (!loadSelectionFile(*sbt, options.selections, prompter))
+            return false;
+        options.selectionFile = fs::path(*sbt);
+    }
+    if (std::optional<std::string> speaker = args.value("--speaker")) {
+        if (*speaker != "1" && *speaker != "2") {
+            err << "tavi batch: --speaker takes 1 or 2\n";
+            return false;
+        }
+        options.selections.speaker =
+            *speaker == "1" ? BatchSelections::kTargetSpeaker : BatchSelections::kOtherSpeaker;
+    }
+    if (args.has("--all"))
+        chooseAllVariables(options.selections, VariableCatalogue::standard());
+    for (const std::string& list : args.values("--variables")) {
+        for (const std::string& name : splitCommas(list)) {
+            if (!chooseByName(options.selections, name)) {
+                err << "tavi batch: unknown variable " << name << '\n';
+                return false;
+            }
+        }
+    }
+    if (std::optional<std::string> threads = args.value("--threads")) {
+        unsigned n = 0;
+        auto [end, ec] = std::from_chars(threads->data(), threads->data() + threads->size(), n);
+        if (threads->empty() || ec != std::errc() || end != threads->data() + threads->size() ||
+            n > kMostThreads) {
+            err << "tavi batch: --threads takes a number from 0 (every core) to " << kMostThreads
+                << "\n";
+            return false;
+        }
+        options.threads = n;
+    }
+    return true;
+}
+
 int run(cli::CommandContext& ctx) {
     cli::Args args(ctx.args,
                    {"--selections", "--speaker", "--format", "--variables", "--threads", "-o"},
@@ -193,37 +238,8 @@ int run(cli::CommandContext& ctx) {
     AnalysisLists lists;
     loadLists(loaded.settings, lists, prompter);
     BatchRunOptions options = runOptions(loaded.settings, lists);
-    if (std::optional<std::string> sbt = args.value("--selections")) {
-        if (!loadSelectionFile(*sbt, options.selections, prompter))
-            return cli::kExitUsage;
-        options.selectionFile = fs::path(*sbt);
-    }
-    if (std::optional<std::string> speaker = args.value("--speaker")) {
-        if (*speaker != "1" && *speaker != "2") {
-            ctx.err << "tavi batch: --speaker takes 1 or 2\n";
-            return cli::kExitUsage;
-        }
-        options.selections.speaker =
-            *speaker == "1" ? BatchSelections::kTargetSpeaker : BatchSelections::kOtherSpeaker;
-    }
-    if (args.has("--all"))
-        chooseAllVariables(options.selections, VariableCatalogue::standard());
-    for (const std::string& list : args.values("--variables")) {
-        for (const std::string& name : splitCommas(list)) {
-            if (!chooseByName(options.selections, name)) {
-                ctx.err << "tavi batch: unknown variable " << name << '\n';
-                return cli::kExitUsage;
-            }
-        }
-    }
-    if (std::optional<std::string> threads = args.value("--threads")) {
-        try {
-            options.threads = static_cast<unsigned>(std::stoul(*threads));
-        } catch (const std::exception&) {
-            ctx.err << "tavi batch: --threads takes a number\n";
-            return cli::kExitUsage;
-        }
-    }
+    if (!applyFlags(args, options, prompter, ctx.err))
+        return cli::kExitUsage;
 
     std::vector<fs::path> files(args.positional().begin(), args.positional().end());
     if (args.has("--check"))
