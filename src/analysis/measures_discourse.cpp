@@ -56,9 +56,11 @@ void fillSpontaneous(const SpeakerView& v, SpeakerMeasures& m) {
         {Id::SponStmt, Terminator::Statement}, {Id::SponExcl, Terminator::Exclamation},
         {Id::SponQues, Terminator::Question},  {Id::SponIntPrmpt, Terminator::Prompt},
         {Id::SponAban, Terminator::Abandoned}, {Id::SponInter, Terminator::Interrupted}};
-    for (auto [id, term] : rows)
+    for (const auto& [id, terminator] : rows) {
+        Terminator term = terminator; // clang cannot capture a structured binding
         m[id] = Value::count(
             v.countIf(v.total, [&](int i) { return spon(i) && v.utt(i).terminator == term; }));
+    }
 }
 
 void fillOverlapsAndInterruptions(const SpeakerView& v, SpeakerMeasures& m) {

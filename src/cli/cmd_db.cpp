@@ -14,6 +14,7 @@
 #include "database/database_file.h"
 #include "database/db_builder.h"
 #include "database/older_format.h"
+#include "database/sample_values.h"
 
 namespace {
 
@@ -230,7 +231,8 @@ int add(cli::CommandContext& ctx, const cli::Args& args) {
     std::vector<std::string> files(args.positional().begin() + 2, args.positional().end());
     NoProgress progress;
     BuildResult result =
-        addTranscripts(*db, files, options, standardChecker(check), {}, prompter, progress);
+        addTranscripts(*db, files, options, standardChecker(check),
+                       analysisValues(check, MeasureOptions{}), prompter, progress);
     bool summaryHeld = prompter.takeSummary(result.summary);
     for (const std::string& line : result.listLines)
         ctx.out << line << '\n';

@@ -118,10 +118,16 @@ std::optional<std::vector<sd2>> Database::records(Prompter& prompter) {
         return list;
     std::int64_t size = file_->size();
     std::int64_t position = header_.firstRecord;
+    std::int64_t previous = 0;
     while (true) {
         auto record = readRecordAt(position, size, prompter);
         if (!record)
             return std::nullopt;
+        if (record->previous != previous) { // both walks must agree on the chain
+            prompter.inform(msg::kRecordRead);
+            return std::nullopt;
+        }
+        previous = position;
         list.push_back(*record);
         if (position == header_.lastRecord)
             return list;
@@ -140,10 +146,16 @@ std::optional<std::vector<sd2>> Database::recordsBackward(Prompter& prompter) {
         return list;
     std::int64_t size = file_->size();
     std::int64_t position = header_.lastRecord;
+    std::int64_t next = -1;
     while (true) {
         auto record = readRecordAt(position, size, prompter);
         if (!record)
             return std::nullopt;
+        if (next >= 0 && record->dataEnd != next) { // both walks must agree on the chain
+            prompter.inform(msg::kRecordRead);
+            return std::nullopt;
+        }
+        next = position;
         list.push_back(*record);
         if (position == header_.firstRecord)
             return list;

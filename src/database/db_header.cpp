@@ -49,11 +49,13 @@ HeaderProblem decodeHeader(std::string_view bytes, DbHeader& header) {
     auto version = parseNumberField(bytes.substr(0, 6));
     if (!version || !isAcceptedVersion(*version))
         return HeaderProblem::WrongVersion;
+    // Either both positions are 0 (no records) or both point past the header,
+    // the last not before the first.
     auto first = bytes.size() >= 30 ? parseNumberField(bytes.substr(6, 24)) : std::nullopt;
-    if (!first)
+    if (!first || *first < 0 || (*first > 0 && *first < std::int64_t(kFixedHeaderSize)))
         return HeaderProblem::MissingFirst;
     auto last = bytes.size() >= 54 ? parseNumberField(bytes.substr(30, 24)) : std::nullopt;
-    if (!last)
+    if (!last || (*first == 0) != (*last == 0) || *last < *first)
         return HeaderProblem::MissingLast;
     header.version = static_cast<int>(*version);
     header.firstRecord = *first;

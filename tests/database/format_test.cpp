@@ -41,7 +41,7 @@ TEST(DatabaseFormat, HeaderPositionsAreWrittenFrom32BitsAndReadInto64) {
     EXPECT_EQ(back, h);
     EXPECT_FALSE(encodeHeader({20, 54, 2147483648LL}));
     // The reader takes what "%I64d" takes, beyond 32 bits too.
-    ASSERT_EQ(decodeHeader(u16(" 20") + u16(" 99999999999") + u16("           0"), back),
+    ASSERT_EQ(decodeHeader(u16(" 20") + u16(" 99999999999") + u16(" 99999999999"), back),
               HeaderProblem::None);
     EXPECT_EQ(back.firstRecord, 99999999999LL);
 }
@@ -56,6 +56,15 @@ TEST(DatabaseFormat, VersionsAndHeaderProblems) {
     EXPECT_EQ(decodeHeader(u16(" 2"), h), HeaderProblem::MissingVersion);
     EXPECT_EQ(decodeHeader(u16(" 20") + u16("    x"), h), HeaderProblem::MissingFirst);
     EXPECT_EQ(decodeHeader(u16(" 20") + u16("           0") + u16("      "), h),
+              HeaderProblem::MissingLast);
+    // Positions that cannot belong to a chain.
+    EXPECT_EQ(decodeHeader(u16(" 20") + u16("         -92") + u16("        2748"), h),
+              HeaderProblem::MissingFirst);
+    EXPECT_EQ(decodeHeader(u16(" 20") + u16("          10") + u16("          10"), h),
+              HeaderProblem::MissingFirst);
+    EXPECT_EQ(decodeHeader(u16(" 20") + u16("           0") + u16("        2748"), h),
+              HeaderProblem::MissingLast);
+    EXPECT_EQ(decodeHeader(u16(" 20") + u16("        2748") + u16("        1000"), h),
               HeaderProblem::MissingLast);
 }
 

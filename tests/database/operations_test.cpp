@@ -178,6 +178,34 @@ TEST(DatabaseOperations, FailedAppendLeavesAReadableDatabase) {
     }
 }
 
+// Damaged chain positions end in a message; neither walk follows them.
+TEST(DatabaseOperations, DamagedChainIsReported) {
+    auto db = memoryDatabase();
+    test::RecordingPrompter p;
+    for (const char* key : {"a;1", "b;1"}) {
+        sd2 r = sample(key, 50);
+        ASSERT_TRUE(db->append(r, "text", p));
+    }
+    std::string good = bytesOf(*db);
+    auto second = static_cast<std::size_t>(db->header().lastRecord);
+    struct Damage {
+        std::size_t offset;
+        std::string bytes;
+    };
+    for (const Damage& d : {Damage{second + 576, std::string("\x01\x02\x03\x04", 4)},
+                            Damage{second + 568, std::string("\x07", 1)},
+                            Damage{second - 1584 - 12 + 360, std::string("\x10", 1)}}) {
+        std::string bytes = good;
+        bytes.replace(d.offset, d.bytes.size(), d.bytes);
+        Database damaged(std::make_unique<MemoryDbFile>(bytes), "d.tvidb");
+        test::RecordingPrompter q;
+        ASSERT_TRUE(openDatabase(damaged, q));
+        EXPECT_FALSE(damaged.records(q));
+        EXPECT_FALSE(damaged.recordsBackward(q));
+        EXPECT_EQ(q.messages.size(), 2u);
+    }
+}
+
 TEST(DatabaseOperations, HeaderMessages) {
     struct Case {
         std::string bytes;
