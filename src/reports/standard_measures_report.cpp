@@ -31,7 +31,7 @@ constexpr std::array<SmrLineDef, kSmrLineCount> kLines{{
     {"MLUw", "RL_MLUW", "", false, true, K::Mean},
     {"MLUm", "RL_MLUM", "", false, true, K::Mean},
     {"%UtWVerb", "RL_GCPCVERBS", "", false, true, K::Percent},
-    {"MeanVerbsPerUtt", "RL_GCVERBS", "", false, true, K::Mean},
+    {"VPU", "RL_GCVERBS", "", false, true, K::Mean},
     {"%UtWNMForms", "RL_PCNMFC", "", false, true, K::Percent},
     {"SI", "RL_SISCORE", "", false, true, K::Mean},
     // SEMANTICS

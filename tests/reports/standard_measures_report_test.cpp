@@ -34,7 +34,7 @@ testing::MeasureMap sampleMeasures() {
             {"MLUw", 4.4375f},
             {"MLUm", 5.0625f},
             {"%UtWVerb", 87.5f},
-            {"MeanVerbsPerUtt", 1.25f},
+            {"VPU", 1.25f},
             {"%UtWNMForms", 4.1666665f},
             {"NTW", 213},
             {"NDW", 98},
