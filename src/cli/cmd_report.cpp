@@ -1,0 +1,159 @@
+// `tavi report`: a single-transcript report (Standard Measures Report or
+// Summary of Utterance Types) printed as plain text, or written in the format
+// of the -o file's extension (.txt .rtf .pdf .html .csv .tsv).
+#include <filesystem>
+#include <ostream>
+#include <string>
+
+#include "analysis/gc_dictionary.h"
+#include "analysis/word_lists.h"
+#include "base/file_io.h"
+#include "base/text.h"
+#include "cli/args.h"
+#include "cli/cli_settings.h"
+#include "cli/command.h"
+#include "cli/stream_prompter.h"
+#include "reports/grid_writer.h"
+#include "reports/html_writer.h"
+#include "reports/report_grid.h"
+#include "reports/rtf_writer.h"
+#include "reports/text_writer.h"
+#include "reports/transcript_report.h"
+#include "transcript/check_listing.h"
+#include "transcript/checker.h"
+#include "transcript/transcript_file.h"
+#ifdef TAVI_HAVE_QT
+#include "reports/qt/pdf_writer.h"
+#endif
+
+namespace {
+
+using namespace tavi;
+
+// Writes the report in the format of the file's extension; "" or a message.
+std::string writeReport(const Report& report, const std::filesystem::path& path) {
+    const std::string ext = toLowerAscii(path.extension().string());
+    auto bytes = [&](std::string text) -> std::string {
+        switch (writeFileAtomic(path, text)) {
+        case WriteStatus::Ok:
+            return {};
+        case WriteStatus::CannotOpen:
+            return "cannot open file";
+        case WriteStatus::WriteFailed:
+            break;
+        }
+        return "cannot write to file";
+    };
+    if (ext == ".txt")
+        return bytes(reportToText(report));
+    if (ext == ".rtf")
+        return bytes(reportToRtf(report));
+    if (ext == ".html" || ext == ".htm")
+        return bytes(reportToHtml(report));
+    if (ext == ".csv")
+        return saveGrid(reportGrid(report), GridFormat::Csv, path);
+    if (ext == ".tsv")
+        return saveGrid(reportGrid(report), GridFormat::Tsv, path);
+#ifdef TAVI_HAVE_QT
+    if (ext == ".pdf")
+        return qt::saveReportPdf(report, path);
+#endif
+    return "unknown report format " + ext + " (use .txt, .rtf, .pdf, .html, .csv or .tsv)";
+}
+
+int run(cli::CommandContext& ctx) {
+    cli::Args args(ctx.args, {"--speaker", "-o"}, {});
+    const auto& positional = args.positional();
+    if (!args.ok() || positional.size() != 2) {
+        ctx.err << "tavi report: "
+                << (args.ok() ? "usage: tavi report smr|types [--speaker 1|2] [-o FILE] FILE"
+                              : args.error())
+                << '\n';
+        return cli::kExitUsage;
+    }
+    TranscriptReportRequest request;
+    if (positional[0] == "smr")
+        request.kind = TranscriptReportKind::StandardMeasures;
+    else if (positional[0] == "types")
+        request.kind = TranscriptReportKind::UtteranceTypes;
+    else {
+        ctx.err << "tavi report: unknown report " << positional[0] << " (use smr or types)\n";
+        return cli::kExitUsage;
+    }
+    const std::string speaker = args.value("--speaker").value_or("1");
+    if (speaker != "1" && speaker != "2") {
+        ctx.err << "tavi report: --speaker takes 1 or 2\n";
+        return cli::kExitUsage;
+    }
+    request.speaker = speaker == "2" ? 1 : 0;
+
+    cli::StreamPrompter prompter(ctx.err, Answer::No, false);
+    LoadedSettings loaded = cli::loadCommandSettings(ctx, prompter);
+    if (!loaded.ok)
+        return cli::kExitUsage;
+    const Settings& settings = loaded.settings;
+
+    const std::filesystem::path file = positional[1];
+    std::error_code ec;
+    LoadedTranscript transcript;
+    if (!std::filesystem::is_directory(file, ec))
+        transcript = loadTranscript(file.string());
+    if (!transcript.ok) {
+        ctx.err << "tavi report: cannot read " << file.string() << '\n';
+        return cli::kExitUsage;
+    }
+    CheckOptions checkOptions;
+    checkOptions.keepSegmentation = true;
+    CheckResult check = checkTranscript(transcript.lines, checkOptions);
+    if (check.hasErrors) {
+        for (const err& e : check.problems)
+            ctx.err << formatProblem(e) << '\n';
+        ctx.err << "tavi report: " << file.string()
+                << " contains errors; run tavi check and correct them first\n";
+        return cli::kExitFailed;
+    }
+
+    std::string swl;
+    for (const auto& line : settings.standardWordListLines)
+        swl += line + "\n";
+    const StandardWordLists wordLists = StandardWordLists::parse(swl);
+    GcDictionary dictionary;
+    const bool haveDictionary =
+        dictionary.loadFile(settings.folders.sharedData + "GC/GCDictionaryFile.txt", prompter);
+    request.wordLists = settings.standardWordListFound ? &wordLists : nullptr;
+    request.dictionary = haveDictionary ? &dictionary : nullptr;
+    request.transcriptName = file.filename().string();
+
+    TranscriptReportResult result = buildTranscriptReport(check.segmented, settings, request);
+    for (const auto& message : result.messages)
+        prompter.inform(message);
+    const auto output = args.value("-o");
+    if (!output) {
+        ctx.out << reportToText(result.report);
+        return cli::kExitOk;
+    }
+    if (std::string problem = writeReport(result.report, *output); !problem.empty()) {
+        ctx.err << "tavi report: " << *output << ": " << problem << '\n';
+        return problem.rfind("unknown", 0) == 0 ? cli::kExitUsage : cli::kExitFailed;
+    }
+    return cli::kExitOk;
+}
+
+const cli::CommandRegistrar reg{
+    {"report", "write a Standard Measures Report or Summary of Utterance Types",
+     "Usage: tavi report smr|types [--speaker 1|2] [-o FILE] FILE\n\n"
+     "Analyses one transcript with the settings in force (analysis set, word base,\n"
+     "transcript cut, labels) and writes a report of one speaker:\n"
+     "  smr     the Standard Measures Report\n"
+     "  types   the Summary of Utterance Types\n\n"
+     "Without -o the report is printed as plain text. With -o the extension of FILE\n"
+     "chooses the format: .txt, .rtf, .pdf, .html, .csv or .tsv (the last two write\n"
+     "the report's lines and tables as cells).\n\n"
+     "Options:\n"
+     "  --speaker 1|2   the 1st (default) or 2nd speaker of the transcript\n"
+     "  -o FILE         write the report to FILE\n\n"
+     "Exit status: 0 written, 1 the transcript has errors or the file could not be\n"
+     "written, 2 bad usage or an unreadable transcript.\n",
+     run}};
+
+} // namespace

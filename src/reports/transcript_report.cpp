@@ -1,0 +1,83 @@
+// Measures, header and report for one transcript.
+#include "reports/transcript_report.h"
+
+#include <cmath>
+
+#include "analysis/selection.h"
+#include "reports/utterance_types_report.h"
+
+namespace tavi {
+
+namespace {
+
+constexpr size_t kCutDescriptionLength = 80;
+
+std::string speakerLabel(const SegmentedTranscript& transcript, int speaker) {
+    std::string label;
+    for (const auto& name : transcript.speakers.groups[static_cast<size_t>(speaker)].labels)
+        label += (label.empty() ? "" : ", ") + name;
+    return label;
+}
+
+} // namespace
+
+LabelSource labelSource(const LabelTable& table, LanguageSlot slot) {
+    return [&table, slot](std::string_view key) { return table.get(slot, key); };
+}
+
+MeasureSource measureSource(const SpeakerMeasures& measures) {
+    return [&measures](std::string_view id) -> std::optional<double> {
+        const Value* value = measures.find(id);
+        return value ? value->number() : std::nullopt;
+    };
+}
+
+MeasureOptions measureOptions(const Settings& settings) {
+    MeasureOptions options;
+    options.analysisSet = settings.analysisSet;
+    options.wordBase = settings.wordBase;
+    options.cut = settings.transcriptCut;
+    options.window = settings.movingAverageWindow;
+    return options;
+}
+
+TranscriptReportResult buildTranscriptReport(const SegmentedTranscript& transcript,
+                                             const Settings& settings,
+                                             const TranscriptReportRequest& request) {
+    TranscriptReportResult result;
+    int speaker = request.speaker == 1 ? 1 : 0;
+    if (speaker == 1 && !transcript.speakers.hasSecondSpeaker()) {
+        result.messages.emplace_back(
+            "Current transcript does not have a 2nd speaker. Speaker setting has been reset.");
+        speaker = 0;
+    }
+    MeasureOptions options = measureOptions(settings);
+    options.wordLists = request.wordLists;
+    options.dictionary = request.dictionary;
+    const MeasureResult measured = computeMeasures(transcript, options);
+    if (const std::string_view message = cutOutcomeMessage(measured.selection.outcome);
+        !message.empty())
+        result.messages.emplace_back(message);
+
+    const LabelSource labels = labelSource(settings.labels, request.slot);
+    const SpeakerMeasures& record = measured.speakers[static_cast<size_t>(speaker)];
+    const MeasureSource values = measureSource(record);
+    TranscriptReportContext context;
+    context.transcriptName = request.transcriptName;
+    context.speaker = speaker;
+    context.speakerLabel = speakerLabel(transcript, speaker);
+    context.analysisSetName = analysisSetName(settings.analysisSet, labels);
+    context.wordBase = wordBaseDescription(settings.wordBase, labels);
+    context.cutDescription = settings.transcriptCut.isEntireTranscript()
+                                 ? labels("RL_ENTIRETRAN")
+                                 : describeCut(settings.transcriptCut, kCutDescriptionLength);
+    if (auto seconds = values("TimeSec"); seconds && !record.timingMissing)
+        context.elapsedSeconds = static_cast<int>(std::lround(*seconds));
+
+    result.report = request.kind == TranscriptReportKind::StandardMeasures
+                        ? buildStandardMeasuresReport(context, values, request.smrVariables, labels)
+                        : buildUtteranceTypesReport(context, values, labels);
+    return result;
+}
+
+} // namespace tavi
