@@ -5,8 +5,7 @@
 #include <ostream>
 #include <string>
 
-#include "analysis/gc_dictionary.h"
-#include "analysis/word_lists.h"
+#include "analysis/measure_settings.h"
 #include "base/file_io.h"
 #include "base/text.h"
 #include "cli/args.h"
@@ -113,15 +112,8 @@ int run(cli::CommandContext& ctx) {
         return cli::kExitFailed;
     }
 
-    std::string swl;
-    for (const auto& line : settings.standardWordListLines)
-        swl += line + "\n";
-    const StandardWordLists wordLists = StandardWordLists::parse(swl);
-    GcDictionary dictionary;
-    const bool haveDictionary =
-        dictionary.loadFile(settings.folders.sharedData + "GC/GCDictionaryFile.txt", prompter);
-    request.wordLists = settings.standardWordListFound ? &wordLists : nullptr;
-    request.dictionary = haveDictionary ? &dictionary : nullptr;
+    const MeasureResources resources = loadMeasureResources(settings, prompter);
+    request.resources = &resources;
     request.transcriptName = file.filename().string();
 
     TranscriptReportResult result = buildTranscriptReport(check.segmented, settings, request);

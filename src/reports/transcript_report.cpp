@@ -32,15 +32,6 @@ MeasureSource measureSource(const SpeakerMeasures& measures) {
     };
 }
 
-MeasureOptions measureOptions(const Settings& settings) {
-    MeasureOptions options;
-    options.analysisSet = settings.analysisSet;
-    options.wordBase = settings.wordBase;
-    options.cut = settings.transcriptCut;
-    options.window = settings.movingAverageWindow;
-    return options;
-}
-
 TranscriptReportResult buildTranscriptReport(const SegmentedTranscript& transcript,
                                              const Settings& settings,
                                              const TranscriptReportRequest& request) {
@@ -51,9 +42,9 @@ TranscriptReportResult buildTranscriptReport(const SegmentedTranscript& transcri
             "Current transcript does not have a 2nd speaker. Speaker setting has been reset.");
         speaker = 0;
     }
-    MeasureOptions options = measureOptions(settings);
-    options.wordLists = request.wordLists;
-    options.dictionary = request.dictionary;
+    MeasureOptions options = measureOptionsFrom(settings);
+    if (request.resources)
+        request.resources->attach(options);
     const MeasureResult measured = computeMeasures(transcript, options);
     if (const std::string_view message = cutOutcomeMessage(measured.selection.outcome);
         !message.empty())

@@ -6,6 +6,7 @@
 
 #include <string>
 
+#include "analysis/measure_settings.h"
 #include "analysis/measures.h"
 #include "reports/labels.h"
 #include "reports/measure_source.h"
@@ -25,9 +26,9 @@ struct TranscriptReportRequest {
     int speaker = 0; // 0 the 1st speaker, 1 the 2nd
     LanguageSlot slot = LanguageSlot::Primary;
     SmrVariables smrVariables = SmrVariables::defaults();
-    // Optional tables; without them yes/no responses and verb measures are missing.
-    const StandardWordLists* wordLists = nullptr;
-    const GcDictionary* dictionary = nullptr;
+    // Word lists and dictionary; without them yes/no responses and verb
+    // measures are missing.
+    const MeasureResources* resources = nullptr;
 };
 
 struct TranscriptReportResult {
@@ -41,8 +42,6 @@ struct TranscriptReportResult {
 LabelSource labelSource(const LabelTable& table, LanguageSlot slot);
 // The values of one speaker's measure record, by identifier.
 MeasureSource measureSource(const SpeakerMeasures& measures);
-// The measure options the settings ask for.
-MeasureOptions measureOptions(const Settings& settings);
 
 TranscriptReportResult buildTranscriptReport(const SegmentedTranscript& transcript,
                                              const Settings& settings,
