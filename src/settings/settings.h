@@ -23,7 +23,7 @@ namespace tavi {
 
 // A font as the settings files describe it ("DISPTRANFONT HEIGHT 16" ...).
 struct FontSetting {
-    int height = 0;
+    int height = 0; // point size; 0 leaves the front end's default
     int width = 0;
     int weight = 400;
     int italic = 0;
@@ -93,82 +93,19 @@ inline constexpr int kBackupIntervalMax = 5000;
 inline constexpr std::string_view kDefaultPdfPrinter = "Microsoft Print to PDF";
 
 // The section keywords of the user-level file, in the loader's fixed order.
-inline constexpr auto kUserSectionKeywords = std::to_array<std::string_view>({
-    "SPNOSHOW",
-    "UGNOSHOW",
-    "LANGUAGE",
-    "CURULCHARSET",
-    "TIMINGLINES",
-    "PCSD",
-    "MATTRSET",
-    "BACKUP",
-    "BACKUPDIR",
-    "TRANDIR",
-    "REPORTDIR",
-    "LISTDIR",
-    "DBASEDIR",
-    "ALTDBASEDIR",
-    "HASHFILEDIR",
-    "PDFPRINTERNAME",
-    "DISPTRANFONT",
-    "DISPREPTFONT",
-    "PRTREPTFONT",
-    "PFORMAT",
-    "ASET",
-    "WBASE",
-    "TCUT",
-    "RIFSET",
-    "SICODESET",
-    "HEADER",
-    "DIST",
-    "WR",
-    "BM",
-    "CT",
-    "WC",
-    "UC",
-    "SWL",
-    "GCL",
-    "SUL",
-    "OMITERR",
-    "FLUENCY",
-    "NONMAINSTREAM",
-    "CODESWITCH",
-    "YOLREPT",
-    "YOL",
-    "YOLIST",
-    "EXPLWC",
-    "EXPLWCLIST",
-    "DEFORDER",
-    "DEFLANGUAGE",
-    "DEFBILINGUAL",
-    "DEFCONTEXT",
-    "DEFSUBGRP",
-    "DEFDBNAME",
-    "DEFDBPATH",
-    "SDINT",
-    "PAIR",
-    "CURSYMBOLLIST",
-    "CURINSCODELIST",
-    "CURINSCODELISTTITLE",
-    "CURINSTEXT",
-    "CURINSTITLE",
-    "BATCHDIR",
-    "GCCODE",
-    "YOLINS",
-    "YOLDEL",
-    "YOLSAVE",
-    "BATCH",
-    "BMORPH",
-    "EMULTINS",
-    "EMULTDEL",
-    "EMULTSAVE",
-    "EMULTREPT",
-    "EMULT",
-    "EMULTLIST",
-    "GENVOC",
-    "GENBM",
-    "GENCODELIST",
-});
+// clang-format off
+inline constexpr std::array<std::string_view, 74> kUserSectionKeywords = {
+    "SPNOSHOW", "UGNOSHOW", "LANGUAGE", "CURULCHARSET", "TIMINGLINES", "PCSD", "MATTRSET",
+    "BACKUP", "BACKUPDIR", "TRANDIR", "REPORTDIR", "LISTDIR", "DBASEDIR", "ALTDBASEDIR",
+    "HASHFILEDIR", "PDFPRINTERNAME", "DISPTRANFONT", "DISPREPTFONT", "PRTREPTFONT", "PFORMAT",
+    "ASET", "WBASE", "TCUT", "RIFSET", "SICODESET", "HEADER", "DIST", "WR", "BM", "CT", "WC",
+    "UC", "SWL", "GCL", "SUL", "OMITERR", "FLUENCY", "NONMAINSTREAM", "CODESWITCH", "YOLREPT",
+    "YOL", "YOLIST", "EXPLWC", "EXPLWCLIST", "DEFORDER", "DEFLANGUAGE", "DEFBILINGUAL",
+    "DEFCONTEXT", "DEFSUBGRP", "DEFDBNAME", "DEFDBPATH", "SDINT", "PAIR", "CURSYMBOLLIST",
+    "CURINSCODELIST", "CURINSCODELISTTITLE", "CURINSTEXT", "CURINSTITLE", "BATCHDIR", "GCCODE",
+    "YOLINS", "YOLDEL", "YOLSAVE", "BATCH", "BMORPH", "EMULTINS", "EMULTDEL", "EMULTSAVE",
+    "EMULTREPT", "EMULT", "EMULTLIST", "GENVOC", "GENBM", "GENCODELIST"};
+// clang-format on
 
 struct Settings {
     SettingsFolders folders;
