@@ -15,6 +15,7 @@
 #include "app/tavi_doc.h"
 #include "app/tavi_frame.h"
 #include "app/tavi_view.h"
+#include "transcript/transcript_file.h"
 
 namespace tavi::app {
 namespace {
@@ -55,7 +56,12 @@ CMainFrame::CMainFrame(CTAVIApp& app) : app_(app), mdi_(new QMdiArea) {
     resize(1100, 760);
 }
 
-CMainFrame::~CMainFrame() = default;
+CMainFrame::~CMainFrame() {
+    // The windows close after the members are gone: they must not call back.
+    disconnect(mdi_, nullptr, this, nullptr);
+    for (QMdiSubWindow* w : mdi_->subWindowList())
+        disconnect(w, nullptr, this, nullptr);
+}
 
 QString CMainFrame::notAvailablePrompt(const QString& prompt) {
     return prompt + QStringLiteral(" (not available yet)");
@@ -262,8 +268,7 @@ CTAVIFrame* CMainFrame::newTranscript(const QString& text) {
     connect(&frame->view(), &CTAVIView::contextMenuWanted, this,
             [this](QPoint at) { makeContextMenu(transcriptContextTable())->popup(at); });
     connect(doc, &CTAVIDoc::backupFailed, this, [this](const QString& path) {
-        app_.prompter().inform("Warning: unable to save automatic backup file (" +
-                               path.toStdString() + ")");
+        app_.prompter().inform(backupFailedMessage(path.toStdString()));
     });
     connect(doc->document(), &QTextDocument::undoAvailable, this, &CMainFrame::updateCommands);
     connect(doc->document(), &QTextDocument::redoAvailable, this, &CMainFrame::updateCommands);

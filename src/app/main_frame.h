@@ -5,6 +5,7 @@
 
 #include <QMainWindow>
 #include <QMdiArea>
+#include <QPageLayout>
 #include <functional>
 #include <map>
 #include <span>
@@ -92,6 +93,7 @@ private:
     void reportAddToPdfBatch();
     void reportClosePdfBatch();
     bool writeReportPdf(const CReptDoc& doc, const QString& path);
+    QPageLayout pdfLayout() const;
     // Link
     void linkTranscripts();
     void unlinkTranscripts();

@@ -38,7 +38,15 @@ void CMainFrame::registerCommands() {
     on(
         "ID_FILE_PRINT", [this] { filePrint(); }, document);
     on("ID_FILE_PRINT_SETUP", [this] { filePrintSetup(); });
+    on("ID_FILE_ADD_PDF_BATCH", [this] { reportAddToPdfBatch(); }, report);
+    on("ID_FILE_CLOSE_PDF_BATCH", [this] { reportClosePdfBatch(); },
+       [this] { return app_.reportSave.pdfBatchCount > 0; });
+    on("ID_FILE_PDF_SETUP", [this] { pdfPrinterSetup(); });
     on("ID_APP_EXIT", [this] { close(); });
+
+    // Analyze
+    on("ID_ANAL_SMR", [this] { analyzeStandardMeasures(); }, analysable);
+    on("ID_ANAL_UTT_TYPES", [this] { analyzeUtteranceTypes(); }, analysable);
 
     // Edit
     on(
@@ -102,8 +110,6 @@ void CMainFrame::registerCommands() {
     on("ID_CONTEXT_HELP", [this] { showHelpDocument(QStringLiteral("docs/measures.md")); });
     on("ID_HELP_README", [this] { showHelpDocument(QStringLiteral("README.md")); });
     on("ID_APP_ABOUT", [this] { showAbout(); });
-    (void)report;
-    (void)analysable;
 }
 
 QPlainTextEdit* CMainFrame::activeEditor() const {

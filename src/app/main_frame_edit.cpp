@@ -1,7 +1,13 @@
 // The Edit menu's transcript commands: find and replace, go to entry.
 #include <QInputDialog>
 
+#include <algorithm>
+
+#include "app/error_list_dialog.h"
 #include "app/find_replace_dialog.h"
+#include "app/tavi_app.h"
+#include "base/format.h"
+#include "transcript/check_listing.h"
 #include "app/main_frame.h"
 #include "app/tavi_doc.h"
 #include "app/tavi_frame.h"
@@ -29,6 +35,39 @@ void CMainFrame::editGoToEntry() {
                              QStringLiteral("Entry number:"), current, 1, lines, 1, &ok);
     if (ok)
         frame->view().goToLine(line);
+}
+
+} // namespace tavi::app
+
+namespace tavi::app {
+
+void CMainFrame::editCheck() {
+    CTAVIFrame* frame = activeTranscriptFrame();
+    frame->view().checkNow();
+    const std::vector<err>& problems = frame->view().problems();
+    if (problems.empty()) {
+        app_.prompter().inform(checkSummary(0, 0));
+        return;
+    }
+    auto* dialog = new CErrorListDialog(frame->view(), problems, QString(), this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->show();
+}
+
+// Checks the transcript before an analysis; with errors the list is shown
+// and the person may cancel. True when the analysis goes on.
+bool CMainFrame::acceptErrors(CTAVIFrame& frame) {
+    frame.view().checkNow();
+    const std::vector<err>& problems = frame.view().problems();
+    const bool hasErrors =
+        std::any_of(problems.begin(), problems.end(), [](const err& e) { return e.isError(); });
+    if (!hasErrors)
+        return true;
+    const QString question = QString::fromStdString(tavi::format(
+        "%s contains errors. Would you like to continue with the analysis?",
+        frame.doc().title().toStdString().c_str()));
+    CErrorListDialog dialog(frame.view(), problems, question, this);
+    return dialog.exec() == QDialog::Accepted;
 }
 
 } // namespace tavi::app

@@ -28,7 +28,7 @@ void CMainFrame::fileNew() {
     CNewTranscriptDialog dialog(this);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    newTranscript(composeNewTranscript(dialog.values()));
+    newTranscript(QString::fromStdString(composeNewTranscript(dialog.values())));
 }
 
 void CMainFrame::fileOpen() {
@@ -77,10 +77,6 @@ void CMainFrame::filePrintSetup() {
         printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
     QPageSetupDialog dialog(printer_.get(), this);
     dialog.exec();
-}
-
-void CMainFrame::pdfPrinterSetup() {
-    filePrintSetup();
 }
 
 void CMainFrame::filePrint() {

@@ -5,7 +5,7 @@
 #include "app/tavi_app.h"
 #include "app/tavi_doc.h"
 #include "app/tavi_frame.h"
-#include "base/format.h"
+#include "transcript/transcript_file.h"
 
 namespace tavi::app {
 
@@ -39,11 +39,11 @@ void CMainFrame::unlinkTranscripts() {
     CTAVIDoc* other = doc.linkedWith();
     const std::string a = doc.title().toStdString();
     const std::string b = other->title().toStdString();
-    if (app_.prompter().ask(tavi::format("Unlink %s and %s?", a.c_str(), b.c_str())) != Answer::Yes)
+    if (app_.prompter().ask(unlinkQuestion(a, b)) != Answer::Yes)
         return;
     doc.setLinkedWith(nullptr);
     other->setLinkedWith(nullptr);
-    app_.prompter().inform(tavi::format("%s and %s are no longer linked.", a.c_str(), b.c_str()));
+    app_.prompter().inform(unlinkedMessage(a, b));
     updateCommands();
 }
 

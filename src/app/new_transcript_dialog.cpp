@@ -10,65 +10,65 @@
 namespace tavi::app {
 namespace {
 
-// Header keywords in the order they are written, with their labels; choices
-// for the fields that offer them (stored value, shown name).
+// Header fields in the order they are written, with their labels and, for
+// the fields that offer them, choices (stored value, shown name).
 struct HeaderField {
+    std::string NewTranscriptValues::*value;
     const char* keyword;
     const char* label;
     std::vector<std::pair<const char*, const char*>> choices;
 };
 
 const std::vector<HeaderField>& headerFields() {
+    using V = NewTranscriptValues;
     static const std::vector<HeaderField> fields = {
-        {"ParticipantId", "Participant ID", {}},
-        {"Name", "Name", {}},
-        {"Gender", "Gender", {{"", ""}, {"M", "Male"}, {"F", "Female"}, {"N", "Nonbinary"}}},
-        {"DOB", "Date of birth", {}},
-        {"DOE", "Date of sample", {}},
-        {"CA", "Age (years;months)", {}},
-        {"Grade", "Grade", {}},
-        {"Ethnicity", "Ethnicity", {}},
-        {"ParentEduc", "Parent education", {}},
-        {"Examiner", "Examiner", {}},
-        {"Transcriber", "Transcriber", {}},
-        {"Location", "Location", {}},
-        {"Collect", "Collection", {}},
-        {"Context",
+        {&V::participantId, "ParticipantId", "Participant ID", {}},
+        {&V::name, "Name", "Name", {}},
+        {&V::gender,
+         "Gender",
+         "Gender",
+         {{"", ""}, {"M", "Male"}, {"F", "Female"}, {"N", "Not specified"}}},
+        {&V::dob, "DOB", "Date of birth", {}},
+        {&V::doe, "DOE", "Date of sample", {}},
+        {&V::ca, "CA", "Age (years;months)", {}},
+        {&V::grade, "Grade", "Grade", {}},
+        {&V::ethnicity, "Ethnicity", "Ethnicity", {}},
+        {&V::parentEduc, "ParentEduc", "Parent education", {}},
+        {&V::examiner, "Examiner", "Examiner", {}},
+        {&V::transcriber, "Transcriber", "Transcriber", {}},
+        {&V::location, "Location", "Location", {}},
+        {&V::collect, "Collect", "Collection", {}},
+        {&V::context,
+         "Context",
          "Context",
          {{"", ""},
           {"Con", "Conversation"},
           {"Play", "Play"},
           {"Nar", "Narrative"},
           {"Expo", "Expository"},
-          {"Pers", "Persuasion"},
+          {"Pers", "Persuasive"},
           {"Fable", "Fable"}}},
-        {"Subgroup", "Subgroup", {}},
-        {"Language", "Language", {}},
-        {"Bilingual", "Bilingual", {}},
-        {"BilSubgroup", "Bilingual subgroup", {}},
+        {&V::subgroup, "Subgroup", "Subgroup", {}},
+        {&V::language, "Language", "Language", {}},
+        {&V::bilingual, "Bilingual", "Bilingual", {}},
+        {&V::bilSubgroup, "BilSubgroup", "Bilingual subgroup", {}},
     };
     return fields;
 }
 
-QString labelWithoutCommas(QString label) {
-    label.replace(QLatin1Char(','), QLatin1Char(' '));
-    return label.trimmed();
+// A combo box gives its stored value when one of its choices is shown, the
+// typed text otherwise.
+QString fieldText(QWidget* w) {
+    if (auto* edit = qobject_cast<QLineEdit*>(w))
+        return edit->text();
+    auto* box = qobject_cast<QComboBox*>(w);
+    const int at = box->findText(box->currentText());
+    if (at >= 0 && !box->itemData(at).toString().isEmpty())
+        return box->itemData(at).toString();
+    return box->currentText();
 }
 
 } // namespace
-
-QString composeNewTranscript(const NewTranscriptValues& values) {
-    QString text = QStringLiteral("$ ") + labelWithoutCommas(values.targetSpeaker) +
-                   QStringLiteral(", ") + labelWithoutCommas(values.otherSpeaker) +
-                   QLatin1Char('\n');
-    for (const auto& [keyword, value] : values.header)
-        if (!value.trimmed().isEmpty())
-            text += QStringLiteral("+ ") + keyword + QStringLiteral(": ") + value.trimmed() +
-                    QLatin1Char('\n');
-    if (!values.startTime.trimmed().isEmpty())
-        text += QStringLiteral("- ") + values.startTime.trimmed() + QLatin1Char('\n');
-    return text;
-}
 
 CNewTranscriptDialog::CNewTranscriptDialog(QWidget* parent)
     : QDialog(parent), target_(new QComboBox), other_(new QComboBox), start_(new QLineEdit) {
@@ -101,7 +101,7 @@ CNewTranscriptDialog::CNewTranscriptDialog(QWidget* parent)
         }
         w->setObjectName(QString::fromLatin1(f.keyword));
         form->addRow(QString::fromUtf8(f.label), w);
-        fields_.emplace_back(QString::fromLatin1(f.keyword), w);
+        fields_.emplace_back(f.value, w);
     }
     form->addRow(QStringLiteral("Starting time"), start_);
 
@@ -120,9 +120,7 @@ void CNewTranscriptDialog::setField(const QString& key, const QString& value) {
         return other_->setCurrentText(value);
     if (key == QLatin1String("INITTIME"))
         return start_->setText(value);
-    for (auto& [keyword, w] : fields_) {
-        if (keyword.compare(key, Qt::CaseInsensitive) != 0)
-            continue;
+    for (QWidget* w : findChildren<QWidget*>(key)) {
         if (auto* edit = qobject_cast<QLineEdit*>(w))
             edit->setText(value);
         else if (auto* box = qobject_cast<QComboBox*>(w))
@@ -131,15 +129,12 @@ void CNewTranscriptDialog::setField(const QString& key, const QString& value) {
 }
 
 NewTranscriptValues CNewTranscriptDialog::values() const {
-    NewTranscriptValues v{target_->currentText(), other_->currentText(), {}, start_->text()};
-    for (const auto& [keyword, w] : fields_) {
-        QString value;
-        if (auto* edit = qobject_cast<QLineEdit*>(w))
-            value = edit->text();
-        else if (auto* box = qobject_cast<QComboBox*>(w))
-            value = box->currentText();
-        v.header.emplace_back(keyword, value);
-    }
+    NewTranscriptValues v;
+    v.targetSpeaker = target_->currentText().toStdString();
+    v.secondSpeaker = other_->currentText().toStdString();
+    v.startTime = start_->text().trimmed().toStdString();
+    for (const auto& [member, w] : fields_)
+        v.*member = fieldText(w).trimmed().toStdString();
     return v;
 }
 

@@ -1,5 +1,5 @@
 // The dialog of File > New: the two speakers, the header values and the
-// starting time from which the new transcript's first lines are composed.
+// starting time; the transcript core composes the first lines from them.
 #pragma once
 
 #include <QDialog>
@@ -7,22 +7,12 @@
 #include <utility>
 #include <vector>
 
+#include "transcript/new_transcript.h"
+
 class QComboBox;
 class QLineEdit;
 
 namespace tavi::app {
-
-// What the person entered; empty values are left out of the text.
-struct NewTranscriptValues {
-    QString targetSpeaker;
-    QString otherSpeaker;
-    std::vector<std::pair<QString, QString>> header; // keyword, value, in header order
-    QString startTime;
-};
-
-// The initial text: "$ " target ", " other, then "+ keyword: value" per
-// header value, then "- " and the starting time, each line ending in "\n".
-QString composeNewTranscript(const NewTranscriptValues& values);
 
 class CNewTranscriptDialog final : public QDialog {
     Q_OBJECT
@@ -36,7 +26,7 @@ private:
     QComboBox* target_;
     QComboBox* other_;
     QLineEdit* start_;
-    std::vector<std::pair<QString, QWidget*>> fields_;
+    std::vector<std::pair<std::string NewTranscriptValues::*, QWidget*>> fields_;
 };
 
 } // namespace tavi::app

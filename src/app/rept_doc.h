@@ -7,12 +7,15 @@
 #include <QString>
 #include <string>
 
+#include "reports/report.h"
+
 namespace tavi::app {
 
 class CTAVIDoc;
 
 // A report in every form the desktop program shows or saves.
 struct ReportContent {
+    Report report;    // the structured report the forms below were written from
     QString title;    // the report's name, e.g. "Standard Measures Report"
     QString html;     // shown in the report window, printed, written to PDF
     std::string text; // plain text ("TXT - Text File")

@@ -64,6 +64,10 @@ QString CTAVIApp::backupDir() const {
     return QString::fromStdString((userDir_ / "Backup").string());
 }
 
+LabelSource CTAVIApp::labelSource() const {
+    return [this](std::string_view key) { return labels.get(LanguageSlot::Primary, key); };
+}
+
 void CTAVIApp::addRecentFile(const QString& path) {
     const QString absolute = QFileInfo(path).absoluteFilePath();
     recent_.removeAll(absolute);

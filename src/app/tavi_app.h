@@ -11,6 +11,9 @@
 #include "analysis/transcript_cut.h"
 #include "analysis/word_base.h"
 #include "app/qt_prompter.h"
+#include "reports/labels.h"
+#include "reports/standard_measures_report.h"
+#include "settings/label_table.h"
 
 namespace tavi::app {
 
@@ -21,6 +24,7 @@ struct ReportSaveState {
     bool displayAfterSaving = false;
     int pdfBatchCount = 0;
     QString pdfBatchPath;
+    QStringList pdfBatchPages; // the reports of the open batch, as rich text
 };
 
 class CTAVIApp {
@@ -45,6 +49,12 @@ public:
     bool canSaveDefaults = true;
 
     ReportSaveState reportSave;
+
+    // Report labels and report choices.
+    LabelTable labels;
+    LabelSource labelSource() const;
+    SmrVariables smrVariables = SmrVariables::defaults();
+    int reportSpeaker = 0; // 0 the 1st speaker, 1 the 2nd
 
     // Recent transcripts, most recent first, kept in the user data folder.
     QStringList recentFiles() const { return recent_; }

@@ -7,8 +7,7 @@
 
 #include "app/doc_template.h"
 #include "app/tavi_app.h"
-#include "base/file_io.h"
-#include "base/text.h"
+#include "transcript/transcript_file.h"
 
 namespace tavi::app {
 
@@ -21,23 +20,23 @@ CTAVIDoc::CTAVIDoc(CTAVIApp& app, int untitledNumber, QObject* parent)
 QString CTAVIDoc::title() const {
     if (!path_.isEmpty())
         return QFileInfo(path_).fileName();
-    return templateField(kTranscriptTemplate, TemplateField::NewFileName) +
+    return templateField(kTranscriptTemplate, TemplateField::DocName) +
            QString::number(untitledNumber_);
 }
 
 bool CTAVIDoc::load(const QString& path, QString& error) {
-    std::string bytes;
-    if (!readFile(path.toStdString(), bytes)) {
+    const LoadedTranscript loaded = loadTranscript(path.toStdString());
+    if (!loaded.ok) {
         error = QStringLiteral("Cannot open ") + path;
         return false;
     }
-    const std::string utf8 = decodeText(bytes).utf8;
     std::string joined;
-    for (std::string_view line : splitLines(utf8)) {
-        joined += line;
+    for (const tranLine& line : loaded.lines) {
+        joined += line.text;
         joined += '\n';
     }
-    if (!utf8.empty() && utf8.back() != '\n' && utf8.back() != '\r')
+    const std::string& raw = loaded.text;
+    if (!joined.empty() && !raw.empty() && raw.back() != '\n' && raw.back() != '\r')
         joined.pop_back(); // keep a missing final line end missing
     loading_ = true;
     text_.setPlainText(QString::fromStdString(joined));
@@ -50,9 +49,7 @@ bool CTAVIDoc::load(const QString& path, QString& error) {
 }
 
 bool CTAVIDoc::writeTo(const QString& path, QString& error) const {
-    std::string bytes(kUtf8Bom);
-    bytes += utf8Text();
-    if (writeFileAtomic(path.toStdString(), bytes) != WriteStatus::Ok) {
+    if (saveTranscript(path.toStdString(), utf8Text()) != WriteStatus::Ok) {
         error = QStringLiteral("Cannot write to ") + path;
         return false;
     }
@@ -78,21 +75,12 @@ std::string CTAVIDoc::utf8Text() const {
     return text_.toPlainText().toStdString();
 }
 
-TranLines CTAVIDoc::lines() const {
-    TranLines result;
-    const std::string text = utf8Text();
-    int number = 0;
-    for (std::string_view line : splitLines(text))
-        result.push_back({std::string(line), ++number});
-    return result;
-}
+TranLines CTAVIDoc::lines() const { return splitTranscriptLines(utf8Text()); }
 
 QString CTAVIDoc::backupPath() const {
-    QString name = QFileInfo(path_.isEmpty() ? title() : path_).fileName();
-    const qsizetype dot = name.indexOf(QLatin1Char('.'));
-    if (dot >= 0)
-        name.truncate(dot);
-    return QDir(app_.backupDir()).filePath(name + QStringLiteral(".$VI"));
+    const std::string document = (path_.isEmpty() ? title() : path_).toStdString();
+    return QString::fromStdString(
+        tavi::backupPath(document, app_.backupDir().toStdString()).string());
 }
 
 void CTAVIDoc::setLinkedWith(CTAVIDoc* other) {
@@ -105,7 +93,7 @@ void CTAVIDoc::setLinkedWith(CTAVIDoc* other) {
 void CTAVIDoc::countEdit(int, int removed, int added) {
     if (loading_ || (removed == 0 && added == 0))
         return;
-    if (app_.backupInterval <= 0 || !text_.isModified())
+    if (app_.backupInterval <= 0)
         return;
     if (++edits_ <= app_.backupInterval)
         return;

@@ -7,6 +7,7 @@
 #include "app/tavi_doc.h"
 #include "app/tavi_view.h"
 #include "base/format.h"
+#include "transcript/transcript_file.h"
 
 namespace tavi::app {
 
@@ -25,9 +26,8 @@ CTAVIFrame::CTAVIFrame(CTAVIDoc* doc, std::function<bool(CTAVIFrame&)> save, QWi
 void CTAVIFrame::updateCaption() {
     QString caption = doc_->title();
     if (CTAVIDoc* other = doc_->linkedWith())
-        caption =
-            QString::fromStdString(tavi::format("%s LINKED WITH %s", caption.toStdString().c_str(),
-                                                other->title().toStdString().c_str()));
+        caption = QString::fromStdString(
+            linkedCaption(caption.toStdString(), other->title().toStdString()));
     setWindowTitle(caption + QStringLiteral("[*]"));
     setWindowModified(doc_->isModified());
 }
