@@ -5,7 +5,9 @@
 
 namespace tavi::app {
 
-bool checkerAvailable() { return true; }
+bool checkerAvailable() {
+    return true;
+}
 
 std::vector<err> checkTranscript(const CTAVIApp&, const TranLines& lines) {
     return tavi::checkTranscript(lines).problems;

@@ -11,6 +11,8 @@ int main(int argc, char** argv) {
     QApplication::setApplicationVersion(QStringLiteral(TAVI_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("tavi"));
     tavi::app::CTAVIApp app;
+    if (!app.ok())
+        return 1;
     tavi::app::CMainFrame frame(app);
     frame.show();
     const QStringList args = QApplication::arguments();

@@ -51,7 +51,11 @@ CMainFrame::CMainFrame(CTAVIApp& app) : app_(app), mdi_(new QMdiArea) {
     registerCommands();
     buildMenus();
     statusBar()->showMessage(QStringLiteral("Ready"));
-    connect(mdi_, &QMdiArea::subWindowActivated, this, &CMainFrame::updateCommands);
+    connect(mdi_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* w) {
+        if (w)
+            current_ = w;
+        updateCommands();
+    });
     updateCommands();
     resize(1100, 760);
 }
@@ -229,12 +233,18 @@ void CMainFrame::refreshWindowList() {
     }
 }
 
+QMdiSubWindow* CMainFrame::currentWindow() const {
+    if (QMdiSubWindow* w = mdi_->currentSubWindow())
+        return w;
+    return current_ && mdi_->subWindowList().contains(current_.data()) ? current_.data() : nullptr;
+}
+
 CTAVIFrame* CMainFrame::activeTranscriptFrame() const {
-    return qobject_cast<CTAVIFrame*>(mdi_->currentSubWindow());
+    return qobject_cast<CTAVIFrame*>(currentWindow());
 }
 
 CReptFrame* CMainFrame::activeReportFrame() const {
-    return qobject_cast<CReptFrame*>(mdi_->currentSubWindow());
+    return qobject_cast<CReptFrame*>(currentWindow());
 }
 
 QList<CTAVIFrame*> CMainFrame::transcriptFrames() const {
@@ -259,6 +269,7 @@ void CMainFrame::addFrame(QMdiSubWindow* frame) {
     frame->resize(mdi_->size() * 0.8);
     frame->show();
     mdi_->setActiveSubWindow(frame);
+    current_ = frame;
     updateCommands();
 }
 

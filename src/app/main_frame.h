@@ -6,6 +6,7 @@
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QPageLayout>
+#include <QPointer>
 #include <functional>
 #include <map>
 #include <span>
@@ -38,6 +39,9 @@ public:
     // The texts of the status-bar prompt for commands not built yet.
     static QString notAvailablePrompt(const QString& prompt);
 
+    // The window commands act on: the active one, or the last active one
+    // while a dialog or another program has the focus.
+    QMdiSubWindow* currentWindow() const;
     CTAVIFrame* activeTranscriptFrame() const;
     CReptFrame* activeReportFrame() const;
     QList<CTAVIFrame*> transcriptFrames() const;
@@ -120,6 +124,7 @@ private:
     QList<QAction*> windowActions_;
     std::unique_ptr<QPrinter> printer_;
     int untitledCount_ = 0;
+    QPointer<QMdiSubWindow> current_; // kept while the frame itself is not active
 };
 
 } // namespace tavi::app

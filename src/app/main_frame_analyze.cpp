@@ -42,8 +42,8 @@ void CMainFrame::analyzeStandardMeasures() {
         app_.prompter().inform(kNoSecondSpeaker);
         app_.reportSpeaker = 0;
     }
-    CSmrVariablesDialog dialog(app_.smrVariables, app_.reportSpeaker, speakers,
-                               app_.labelSource(), this);
+    CSmrVariablesDialog dialog(app_.smrVariables, app_.reportSpeaker, speakers, app_.labelSource(),
+                               this);
     if (dialog.exec() != QDialog::Accepted)
         return;
     app_.smrVariables = dialog.variables();
@@ -67,9 +67,9 @@ void CMainFrame::analyzeUtteranceTypes() {
     if (!speakers.second.empty())
         choices << QString::fromStdString("2nd speaker (" + speakers.second + ")");
     bool ok = false;
-    const QString chosen = QInputDialog::getItem(this, QStringLiteral("Summary of Utterance Types"),
-                                                 QStringLiteral("Speaker:"), choices,
-                                                 app_.reportSpeaker, false, &ok);
+    const QString chosen =
+        QInputDialog::getItem(this, QStringLiteral("Summary of Utterance Types"),
+                              QStringLiteral("Speaker:"), choices, app_.reportSpeaker, false, &ok);
     if (!ok)
         return;
     app_.reportSpeaker = static_cast<int>(choices.indexOf(chosen));

@@ -17,7 +17,7 @@ namespace tavi::app {
 void CMainFrame::registerCommands() {
     auto transcript = [this] { return activeTranscriptFrame() != nullptr; };
     auto report = [this] { return activeReportFrame() != nullptr; };
-    auto document = [this] { return mdi_->currentSubWindow() != nullptr; };
+    auto document = [this] { return currentWindow() != nullptr; };
     auto analysable = [this] { return activeTranscriptFrame() || activeReportFrame(); };
     auto editor = [this](auto test) {
         return [this, test] {
@@ -38,19 +38,25 @@ void CMainFrame::registerCommands() {
     on(
         "ID_FILE_PRINT", [this] { filePrint(); }, document);
     on("ID_FILE_PRINT_SETUP", [this] { filePrintSetup(); });
-    on("ID_FILE_ADD_PDF_BATCH", [this] { reportAddToPdfBatch(); }, report);
-    on("ID_FILE_CLOSE_PDF_BATCH", [this] { reportClosePdfBatch(); },
-       [this] { return app_.reportSave.pdfBatchCount > 0; });
+    on(
+        "ID_FILE_ADD_PDF_BATCH", [this] { reportAddToPdfBatch(); }, report);
+    on(
+        "ID_FILE_CLOSE_PDF_BATCH", [this] { reportClosePdfBatch(); },
+        [this] { return app_.reportSave.pdfBatchCount > 0; });
     on("ID_FILE_PDF_SETUP", [this] { pdfPrinterSetup(); });
     on("ID_APP_EXIT", [this] { close(); });
 
     // Analyze
-    on("ID_ANAL_SMR", [this] { analyzeStandardMeasures(); }, analysable);
-    on("ID_ANAL_UTT_TYPES", [this] { analyzeUtteranceTypes(); }, analysable);
+    on(
+        "ID_ANAL_SMR", [this] { analyzeStandardMeasures(); }, analysable);
+    on(
+        "ID_ANAL_UTT_TYPES", [this] { analyzeUtteranceTypes(); }, analysable);
 
     // Edit
     on(
         "ID_EDIT_FIND_REPLACE", [this] { editFindReplace(); }, transcript);
+    on(
+        "ID_EDIT_CHECK", [this] { editCheck(); }, transcript);
     on(
         "ID_EDIT_GOTO_ENTRY", [this] { editGoToEntry(); }, transcript);
     on(

@@ -5,13 +5,13 @@
 
 #include "app/error_list_dialog.h"
 #include "app/find_replace_dialog.h"
-#include "app/tavi_app.h"
-#include "base/format.h"
-#include "transcript/check_listing.h"
 #include "app/main_frame.h"
+#include "app/tavi_app.h"
 #include "app/tavi_doc.h"
 #include "app/tavi_frame.h"
 #include "app/tavi_view.h"
+#include "base/format.h"
+#include "transcript/check_listing.h"
 
 namespace tavi::app {
 
@@ -63,9 +63,9 @@ bool CMainFrame::acceptErrors(CTAVIFrame& frame) {
         std::any_of(problems.begin(), problems.end(), [](const err& e) { return e.isError(); });
     if (!hasErrors)
         return true;
-    const QString question = QString::fromStdString(tavi::format(
-        "%s contains errors. Would you like to continue with the analysis?",
-        frame.doc().title().toStdString().c_str()));
+    const QString question = QString::fromStdString(
+        tavi::format("%s contains errors. Would you like to continue with the analysis?",
+                     frame.doc().title().toStdString().c_str()));
     CErrorListDialog dialog(frame.view(), problems, question, this);
     return dialog.exec() == QDialog::Accepted;
 }

@@ -68,7 +68,7 @@ void CMainFrame::fileSave(bool askName) {
 }
 
 void CMainFrame::fileClose() {
-    if (QMdiSubWindow* w = mdi_->currentSubWindow())
+    if (QMdiSubWindow* w = currentWindow())
         w->close();
 }
 

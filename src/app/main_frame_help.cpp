@@ -14,7 +14,7 @@ namespace {
 // The documents live beside the data folder: the source tree when run from a
 // build, share/doc/tavi when installed.
 QString findDocument(const CTAVIApp& app, const QString& relativePath) {
-    const QString shared = QString::fromStdString(app.sharedDataDir().string());
+    const QString shared = app.sharedDataDir();
     const QStringList roots = {shared + QStringLiteral("/.."),
                                shared + QStringLiteral("/../doc/tavi"),
                                QStringLiteral(TAVI_SOURCE_DATA_DIR "/..")};

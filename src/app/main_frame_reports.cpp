@@ -37,8 +37,8 @@ FileChoice fileChoice(int choice) {
 }
 
 QString baseName(const CReptDoc& doc) {
-    QString name = doc.source() ? QFileInfo(doc.source()->title()).completeBaseName()
-                                : doc.content().title;
+    QString name =
+        doc.source() ? QFileInfo(doc.source()->title()).completeBaseName() : doc.content().title;
     return name.isEmpty() ? QStringLiteral("Report") : name;
 }
 
@@ -49,7 +49,7 @@ QPageLayout CMainFrame::pdfLayout() const {
 }
 
 bool CMainFrame::writeReportPdf(const CReptDoc& doc, const QString& path) {
-    return writePdf({doc.content().html}, path, pdfLayout());
+    return writePdf({&doc.content().report}, path, pdfLayout());
 }
 
 void CMainFrame::reportSave(bool) {
@@ -85,8 +85,8 @@ void CMainFrame::reportSave(bool) {
     if (dialog.choice() == SavePdf) {
         written = writeReportPdf(doc, path);
     } else {
-        const std::string& bytes = dialog.choice() == SaveRtf ? doc.content().rtf
-                                                              : doc.content().text;
+        const std::string& bytes =
+            dialog.choice() == SaveRtf ? doc.content().rtf : doc.content().text;
         written = writeFileAtomic(path.toStdString(), bytes) == WriteStatus::Ok;
     }
     if (!written) {
@@ -106,7 +106,8 @@ void CMainFrame::reportAddToPdfBatch() {
     ReportSaveState& state = app_.reportSave;
     if (state.pdfBatchCount == 0) {
         const QString suggested =
-            QDir(app_.reportDir()).filePath(baseName(frame->doc()) + QStringLiteral("_Reports.pdf"));
+            QDir(app_.reportDir())
+                .filePath(baseName(frame->doc()) + QStringLiteral("_Reports.pdf"));
         QString path = QFileDialog::getSaveFileName(this, QStringLiteral("Begin PDF Batch"),
                                                     suggested, QStringLiteral("PDF file (*.PDF)"));
         if (path.isEmpty())
@@ -114,15 +115,18 @@ void CMainFrame::reportAddToPdfBatch() {
         if (QFileInfo(path).suffix().isEmpty())
             path += QStringLiteral(".pdf");
         state.pdfBatchPath = path;
-        state.pdfBatchPages.clear();
+        state.pdfBatchReports.clear();
     }
-    state.pdfBatchPages << frame->doc().content().html;
-    if (!writePdf(state.pdfBatchPages, state.pdfBatchPath, pdfLayout())) {
-        state.pdfBatchPages.removeLast();
+    state.pdfBatchReports.push_back(frame->doc().content().report);
+    std::vector<const Report*> pages;
+    for (const Report& r : state.pdfBatchReports)
+        pages.push_back(&r);
+    if (!writePdf(pages, state.pdfBatchPath, pdfLayout())) {
+        state.pdfBatchReports.pop_back();
         app_.prompter().inform("Cannot write to " + state.pdfBatchPath.toStdString());
         return;
     }
-    state.pdfBatchCount = static_cast<int>(state.pdfBatchPages.size());
+    state.pdfBatchCount = static_cast<int>(state.pdfBatchReports.size());
     app_.prompter().inform(
         tavi::format("Report %d has been added to the PDF file", state.pdfBatchCount));
     updateCommands();
@@ -135,7 +139,7 @@ void CMainFrame::reportClosePdfBatch() {
     const QString path = state.pdfBatchPath;
     state.pdfBatchCount = 0;
     state.lastFormat = 0;
-    state.pdfBatchPages.clear();
+    state.pdfBatchReports.clear();
     state.pdfBatchPath.clear();
     updateCommands();
     if (state.displayAfterSaving)

@@ -12,10 +12,10 @@ void CMainFrame::setupBackups() {
     const int n = QInputDialog::getInt(
         this, QStringLiteral("Automatic Backups"),
         QStringLiteral("Number of edits between automatic backups (50 to 5000, 0 for none):"),
-        app_.backupInterval, 0, 5000, 1, &ok);
+        app_.settings().backupInterval, 0, 5000, 1, &ok);
     if (!ok)
         return;
-    app_.backupInterval = (n >= 50 && n <= 5000) ? n : 0;
+    app_.settings().backupInterval = (n >= 50 && n <= 5000) ? n : 0;
 }
 
 void CMainFrame::setupFolder(const QString&) {}

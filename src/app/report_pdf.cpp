@@ -1,37 +1,27 @@
-// PDF output through Qt's PDF writer.
+// PDF output through the reports' own PDF page writer.
 #include "app/report_pdf.h"
 
-#include <QFile>
-#include <QPdfWriter>
-#include <QTextDocument>
+#include <QRectF>
+
+#include "base/file_io.h"
+#include "reports/qt/pdf_writer.h"
 
 namespace tavi::app {
 
 QPageLayout defaultPdfLayout() {
-    return QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF(20, 20, 20, 20),
-                       QPageLayout::Millimeter);
+    return QPageLayout(QPageSize(QPageSize::Letter), QPageLayout::Portrait,
+                       QMarginsF(15, 15, 15, 15), QPageLayout::Millimeter);
 }
 
-bool writePdf(const QStringList& htmlPages, const QString& path, const QPageLayout& layout) {
-    QString html;
-    for (qsizetype i = 0; i < htmlPages.size(); ++i) {
-        if (i > 0)
-            html += QStringLiteral("<div style=\"page-break-before: always\"></div>");
-        html += htmlPages[i];
-    }
-    {
-        QFile probe(path);
-        if (!probe.open(QIODevice::WriteOnly))
-            return false;
-    }
-    QPdfWriter writer(path);
-    writer.setPageLayout(layout);
-    writer.setCreator(QStringLiteral("TAVI"));
-    writer.setResolution(300);
-    QTextDocument doc;
-    doc.setHtml(html);
-    doc.print(&writer);
-    return true;
+bool writePdf(const std::vector<const Report*>& reports, const QString& path,
+              const QPageLayout& layout) {
+    const QRectF page = layout.fullRectPoints();
+    constexpr double kMmPerPoint = 25.4 / 72.0;
+    qt::PdfPageSetup setup;
+    setup.widthMm = page.width() * kMmPerPoint;
+    setup.heightMm = page.height() * kMmPerPoint;
+    setup.marginMm = layout.margins(QPageLayout::Millimeter).left();
+    return writeFileAtomic(path.toStdString(), qt::reportsToPdf(reports, setup)) == WriteStatus::Ok;
 }
 
 } // namespace tavi::app

@@ -1,17 +1,22 @@
-// Reports rendered straight to PDF (no printer needed): one report, or the
-// reports of a PDF batch each starting on a new page.
+// Reports rendered straight to PDF (no printer needed) with the page set up
+// in "P&DF Printer Setup...": one report, or the reports of a PDF batch, each
+// starting on a new page.
 #pragma once
 
 #include <QPageLayout>
 #include <QString>
-#include <QStringList>
+#include <vector>
+
+#include "reports/report.h"
 
 namespace tavi::app {
 
-// Writes the rich-text pages to `path`; false when the file cannot be written.
-bool writePdf(const QStringList& htmlPages, const QString& path, const QPageLayout& layout);
+// Writes the reports to `path` through a temporary file; false when the file
+// cannot be written.
+bool writePdf(const std::vector<const Report*>& reports, const QString& path,
+              const QPageLayout& layout);
 
-// The default page: A4 portrait with 20 mm margins.
+// The default page: US Letter, portrait, 15 mm margins.
 QPageLayout defaultPdfLayout();
 
 } // namespace tavi::app

@@ -21,12 +21,6 @@ CheckResult checkAndSegment(const TranLines& lines) {
     return checkTranscript(lines, options);
 }
 
-// The cut as the report header shows it.
-std::string cutDescription(const TranscriptCut& cut) {
-    (void)kCutDescriptionLength;
-    return cut.isEntireTranscript() ? "Entire Transcript" : "Transcript Cut";
-}
-
 std::string firstLabel(const SpeakerGroup& group) {
     return group.labels.empty() ? std::string() : group.labels.front();
 }
@@ -42,10 +36,10 @@ ReportContent makeReport(CTAVIApp& app, ReportKind kind, const TranLines& lines,
                          const std::string& name, int speaker) {
     const CheckResult checked = checkAndSegment(lines);
     MeasureOptions options;
-    options.analysisSet = app.analysisSet;
-    options.wordBase = app.wordBase;
-    options.cut = app.transcriptCut;
-    options.window = app.movingAverageWindow;
+    options.analysisSet = app.settings().analysisSet;
+    options.wordBase = app.settings().wordBase;
+    options.cut = app.settings().transcriptCut;
+    options.window = app.settings().movingAverageWindow;
     const MeasureResult result = computeMeasures(checked.segmented, options);
     const std::string_view outcome = cutOutcomeMessage(result.selection.outcome);
     if (!outcome.empty())
@@ -56,9 +50,9 @@ ReportContent makeReport(CTAVIApp& app, ReportKind kind, const TranLines& lines,
     context.transcriptName = name;
     context.speaker = speaker;
     context.speakerLabel = firstLabel(checked.speakers.groups[static_cast<size_t>(speaker)]);
-    context.analysisSetName = analysisSetName(app.analysisSet, labels);
-    context.wordBase = wordBaseDescription(app.wordBase, labels);
-    context.cutDescription = cutDescription(app.transcriptCut);
+    context.analysisSetName = analysisSetName(app.settings().analysisSet, labels);
+    context.wordBase = wordBaseDescription(app.settings().wordBase, labels);
+    context.cutDescription = describeCut(app.settings().transcriptCut, kCutDescriptionLength);
     if (checked.elapsedSeconds > 0)
         context.elapsedSeconds = checked.elapsedSeconds;
 

@@ -14,7 +14,7 @@ CReptView::CReptView(CReptDoc& doc, QWidget* parent) : QTextEdit(parent), doc_(d
 }
 
 void CReptView::contextMenuEvent(QContextMenuEvent* e) {
-    emit contextMenuWanted(e->globalPos());
+    Q_EMIT contextMenuWanted(e->globalPos());
 }
 
 } // namespace tavi::app

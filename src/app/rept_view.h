@@ -13,7 +13,7 @@ public:
     explicit CReptView(CReptDoc& doc, QWidget* parent = nullptr);
     CReptDoc& doc() { return doc_; }
 
-signals:
+Q_SIGNALS:
     void contextMenuWanted(QPoint globalPos);
 
 protected:

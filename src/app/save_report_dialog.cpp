@@ -16,11 +16,10 @@ CSaveReportTypeRTF::CSaveReportTypeRTF(int choice, bool displayAfterSaving, bool
     setWindowTitle(QStringLiteral("Save report as"));
     setObjectName(QStringLiteral("CSaveReportTypeRTF"));
     auto* layout = new QVBoxLayout(this);
-    const QString texts[] = {QStringLiteral("PDF - Portable Document Format"),
-                             QStringLiteral("RTF - Rich Text Format (Word)"),
-                             QStringLiteral("TXT - Text File"),
-                             batchOpen ? QStringLiteral("Close PDF &Batch")
-                                       : QStringLiteral("Begin PDF Batch")};
+    const QString texts[] = {
+        QStringLiteral("PDF - Portable Document Format"),
+        QStringLiteral("RTF - Rich Text Format (Word)"), QStringLiteral("TXT - Text File"),
+        batchOpen ? QStringLiteral("Close PDF &Batch") : QStringLiteral("Begin PDF Batch")};
     const char* names[] = {"choicePdf", "choiceRtf", "choiceTxt", "choiceBatch"};
     for (int i = 0; i < 4; ++i) {
         auto* button = new QRadioButton(texts[i]);
@@ -39,7 +38,11 @@ CSaveReportTypeRTF::CSaveReportTypeRTF(int choice, bool displayAfterSaving, bool
     layout->addWidget(buttons);
 }
 
-int CSaveReportTypeRTF::choice() const { return choices_->checkedId(); }
-bool CSaveReportTypeRTF::displayAfterSaving() const { return display_->isChecked(); }
+int CSaveReportTypeRTF::choice() const {
+    return choices_->checkedId();
+}
+bool CSaveReportTypeRTF::displayAfterSaving() const {
+    return display_->isChecked();
+}
 
 } // namespace tavi::app

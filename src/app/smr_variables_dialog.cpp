@@ -13,7 +13,9 @@
 namespace tavi::app {
 namespace {
 
-QString toUpper(const std::string& text) { return QString::fromStdString(text).toUpper(); }
+QString toUpper(const std::string& text) {
+    return QString::fromStdString(text).toUpper();
+}
 
 } // namespace
 
@@ -55,9 +57,9 @@ CSmrVariablesDialog::CSmrVariablesDialog(const SmrVariables& variables, int spea
         auto* inner = new QVBoxLayout(group);
         for (size_t i = section.firstLine; i < section.firstLine + section.lineCount; ++i) {
             boxes_[i] = new QCheckBox(smrLineText(smrLines()[i], labels));
-            boxes_[i]->setObjectName(QString::fromLatin1(smrLines()[i].measureId.data(),
-                                                         static_cast<qsizetype>(
-                                                             smrLines()[i].measureId.size())));
+            boxes_[i]->setObjectName(
+                QString::fromLatin1(smrLines()[i].measureId.data(),
+                                    static_cast<qsizetype>(smrLines()[i].measureId.size())));
             inner->addWidget(boxes_[i]);
         }
         grid->addWidget(group, row, column);
@@ -70,7 +72,8 @@ CSmrVariablesDialog::CSmrVariablesDialog(const SmrVariables& variables, int spea
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     buttons->button(QDialogButtonBox::Cancel)->setText(QStringLiteral("&Cancel"));
-    auto* selectAll = buttons->addButton(QStringLiteral("&Select All"), QDialogButtonBox::ActionRole);
+    auto* selectAll =
+        buttons->addButton(QStringLiteral("&Select All"), QDialogButtonBox::ActionRole);
     auto* reset = buttons->addButton(QStringLiteral("&Reset"), QDialogButtonBox::ResetRole);
     selectAll->setObjectName(QStringLiteral("selectAll"));
     reset->setObjectName(QStringLiteral("reset"));
@@ -97,7 +100,9 @@ SmrVariables CSmrVariablesDialog::variables() const {
     return v;
 }
 
-int CSmrVariablesDialog::speaker() const { return second_->isChecked() ? 1 : 0; }
+int CSmrVariablesDialog::speaker() const {
+    return second_->isChecked() ? 1 : 0;
+}
 
 void CSmrVariablesDialog::setVariables(const SmrVariables& variables) {
     for (size_t i = 0; i < kSmrLineCount; ++i)

@@ -1,13 +1,13 @@
-// Start-up of the application state: folders, settings, recent files.
+// Start-up of the application state: settings, recent files.
 #include "app/tavi_app.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
-#include <QStandardPaths>
+#include <QPrinterInfo>
 
 #include "base/file_io.h"
 #include "base/text.h"
+#include "settings/startup.h"
 
 namespace tavi::app {
 namespace {
@@ -15,57 +15,35 @@ namespace {
 constexpr int kMaxRecent = 8;
 constexpr const char* kRecentFileName = "TAVI_Recent.ini";
 
-std::filesystem::path envFolder(const char* name) {
-    const QByteArray value = qgetenv(name);
-    return value.isEmpty() ? std::filesystem::path() : std::filesystem::path(value.toStdString());
-}
-
-std::filesystem::path findUserDir() {
-    std::filesystem::path dir = envFolder("TAVI_DATA_USER");
-    if (dir.empty()) {
-        dir = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation).toStdString();
-        dir /= "tavi";
-    }
-    std::error_code ec;
-    std::filesystem::create_directories(dir, ec);
-    return dir;
-}
-
-std::filesystem::path findSharedDir() {
-    std::filesystem::path dir = envFolder("TAVI_DATA_GROUP");
-    if (!dir.empty())
-        return dir;
-    std::error_code ec;
-    if (std::filesystem::is_directory(TAVI_INSTALL_DATA_DIR, ec))
-        return TAVI_INSTALL_DATA_DIR;
-    return TAVI_SOURCE_DATA_DIR;
-}
-
-QString documentsDataDir() {
-    QString docs = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    if (docs.isEmpty())
-        docs = QDir::homePath();
-    return docs + QStringLiteral("/My TAVI Data");
-}
-
 } // namespace
 
-CTAVIApp::CTAVIApp() : userDir_(findUserDir()), sharedDir_(findSharedDir()) {
+StartupEnvironment CTAVIApp::desktopEnvironment() {
+    StartupEnvironment env = StartupEnvironment::fromProcess();
+    env.prepareDocumentsFolder = true;
+    env.printerExists = [](std::string_view name) {
+        return QPrinterInfo::availablePrinterNames().contains(
+            QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
+    };
+    return env;
+}
+
+CTAVIApp::CTAVIApp(StartupEnvironment env) {
+    LoadedSettings loaded = loadSettings(env, prompter_);
+    ok_ = loaded.ok;
+    settings_ = std::move(loaded.settings);
     loadRecentFiles();
 }
 
-QString CTAVIApp::transcriptDir() const {
-    return documentsDataDir();
-}
-QString CTAVIApp::reportDir() const {
-    return documentsDataDir();
-}
-QString CTAVIApp::backupDir() const {
-    return QString::fromStdString((userDir_ / "Backup").string());
+QString CTAVIApp::folder(const std::string& path) {
+    QString result = QString::fromStdString(path);
+    while (result.size() > 1 && result.endsWith(QLatin1Char('/')))
+        result.chop(1);
+    return result;
 }
 
 LabelSource CTAVIApp::labelSource() const {
-    return [this](std::string_view key) { return labels.get(LanguageSlot::Primary, key); };
+    return
+        [this](std::string_view key) { return settings_.labels.get(LanguageSlot::Primary, key); };
 }
 
 void CTAVIApp::addRecentFile(const QString& path) {
@@ -79,7 +57,7 @@ void CTAVIApp::addRecentFile(const QString& path) {
 
 void CTAVIApp::loadRecentFiles() {
     std::string bytes;
-    if (!readFile(userDir_ / kRecentFileName, bytes))
+    if (!readFile(QDir(setupDir()).filePath(kRecentFileName).toStdString(), bytes))
         return;
     const std::string text = decodeText(bytes).utf8;
     for (std::string_view line : splitLines(text)) {
@@ -93,7 +71,7 @@ void CTAVIApp::saveRecentFiles() const {
     std::string text(kUtf8Bom);
     for (const QString& file : recent_)
         text += "FILE " + file.toStdString() + "\n";
-    writeFileAtomic(userDir_ / kRecentFileName, text);
+    writeFileAtomic(QDir(setupDir()).filePath(kRecentFileName).toStdString(), text);
 }
 
 } // namespace tavi::app

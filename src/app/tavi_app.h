@@ -1,19 +1,18 @@
 // The application object: what lives for the whole run of the desktop
-// program (settings, the prompter, recent files, the report save state) and
-// is handed to the frame, documents and dialogs that need it.
+// program (the settings loaded at start-up, the prompter, recent files, the
+// report save state) and is handed to the frame, documents and dialogs.
 #pragma once
 
 #include <QString>
 #include <QStringList>
-#include <filesystem>
+#include <vector>
 
-#include "analysis/analysis_set.h"
-#include "analysis/transcript_cut.h"
-#include "analysis/word_base.h"
 #include "app/qt_prompter.h"
 #include "reports/labels.h"
+#include "reports/report.h"
 #include "reports/standard_measures_report.h"
-#include "settings/label_table.h"
+#include "settings/settings.h"
+#include "settings/startup_environment.h"
 
 namespace tavi::app {
 
@@ -24,49 +23,45 @@ struct ReportSaveState {
     bool displayAfterSaving = false;
     int pdfBatchCount = 0;
     QString pdfBatchPath;
-    QStringList pdfBatchPages; // the reports of the open batch, as rich text
+    std::vector<Report> pdfBatchReports; // the reports of the open batch
 };
 
 class CTAVIApp {
 public:
-    CTAVIApp();
+    // Loads the settings of this machine (start-up messages go to the
+    // prompter); `ok()` is false when the program cannot run.
+    explicit CTAVIApp(StartupEnvironment env = desktopEnvironment());
+
+    static StartupEnvironment desktopEnvironment();
+    bool ok() const { return ok_; }
 
     QtPrompter& prompter() { return prompter_; }
+    Settings& settings() { return settings_; }
+    const Settings& settings() const { return settings_; }
 
-    // Folders; each ends without a separator.
-    std::filesystem::path userDataDir() const { return userDir_; }
-    std::filesystem::path sharedDataDir() const { return sharedDir_; }
-    QString transcriptDir() const;
-    QString reportDir() const;
-    QString backupDir() const;
-
-    // Settings of the run.
-    AnalysisSet analysisSet;
-    WordBase wordBase;
-    TranscriptCut transcriptCut;
-    int movingAverageWindow = 100;
-    int backupInterval = 0; // edits between automatic backups; 0: no backups
-    bool canSaveDefaults = true;
+    QString transcriptDir() const { return folder(settings_.folders.transcript); }
+    QString reportDir() const { return folder(settings_.folders.report); }
+    QString backupDir() const { return folder(settings_.folders.backup); }
+    QString sharedDataDir() const { return folder(settings_.folders.sharedData); }
+    QString setupDir() const { return folder(settings_.folders.setup); }
 
     ReportSaveState reportSave;
-
-    // Report labels and report choices.
-    LabelTable labels;
     LabelSource labelSource() const;
     SmrVariables smrVariables = SmrVariables::defaults();
     int reportSpeaker = 0; // 0 the 1st speaker, 1 the 2nd
 
-    // Recent transcripts, most recent first, kept in the user data folder.
+    // Recent transcripts, most recent first, kept in the user-level setup folder.
     QStringList recentFiles() const { return recent_; }
     void addRecentFile(const QString& path);
 
 private:
+    static QString folder(const std::string& path);
     void loadRecentFiles();
     void saveRecentFiles() const;
 
     QtPrompter prompter_;
-    std::filesystem::path userDir_;
-    std::filesystem::path sharedDir_;
+    Settings settings_;
+    bool ok_ = false;
     QStringList recent_;
 };
 

@@ -44,7 +44,7 @@ bool CTAVIDoc::load(const QString& path, QString& error) {
     text_.setModified(false);
     path_ = QFileInfo(path).absoluteFilePath();
     edits_ = 0;
-    emit titleChanged();
+    Q_EMIT titleChanged();
     return true;
 }
 
@@ -62,7 +62,7 @@ bool CTAVIDoc::save(const QString& path, QString& error) {
     path_ = QFileInfo(path).absoluteFilePath();
     text_.setModified(false);
     edits_ = 0;
-    emit titleChanged();
+    Q_EMIT titleChanged();
     return true;
 }
 
@@ -75,7 +75,9 @@ std::string CTAVIDoc::utf8Text() const {
     return text_.toPlainText().toStdString();
 }
 
-TranLines CTAVIDoc::lines() const { return splitTranscriptLines(utf8Text()); }
+TranLines CTAVIDoc::lines() const {
+    return splitTranscriptLines(utf8Text());
+}
 
 QString CTAVIDoc::backupPath() const {
     const std::string document = (path_.isEmpty() ? title() : path_).toStdString();
@@ -85,7 +87,7 @@ QString CTAVIDoc::backupPath() const {
 
 void CTAVIDoc::setLinkedWith(CTAVIDoc* other) {
     linked_ = other;
-    emit titleChanged();
+    Q_EMIT titleChanged();
 }
 
 // Every change of the text (a key press, a paste, one change of a program
@@ -93,15 +95,15 @@ void CTAVIDoc::setLinkedWith(CTAVIDoc* other) {
 void CTAVIDoc::countEdit(int, int removed, int added) {
     if (loading_ || (removed == 0 && added == 0))
         return;
-    if (app_.backupInterval <= 0)
+    if (app_.settings().backupInterval <= 0)
         return;
-    if (++edits_ <= app_.backupInterval)
+    if (++edits_ <= app_.settings().backupInterval)
         return;
     edits_ = 0;
     QDir().mkpath(app_.backupDir());
     QString error;
     if (!writeTo(backupPath(), error))
-        emit backupFailed(backupPath());
+        Q_EMIT backupFailed(backupPath());
 }
 
 } // namespace tavi::app

@@ -45,7 +45,7 @@ public:
     CTAVIDoc* linkedWith() const { return linked_; }
     void setLinkedWith(CTAVIDoc* other);
 
-signals:
+Q_SIGNALS:
     void titleChanged();
     void backupFailed(const QString& backupPath);
 

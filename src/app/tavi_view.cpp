@@ -80,7 +80,7 @@ bool CTAVIView::event(QEvent* e) {
 }
 
 void CTAVIView::contextMenuEvent(QContextMenuEvent* e) {
-    emit contextMenuWanted(e->globalPos());
+    Q_EMIT contextMenuWanted(e->globalPos());
 }
 
 void CTAVIView::checkNow() {

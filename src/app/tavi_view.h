@@ -32,7 +32,7 @@ public:
     // Runs the checker now instead of waiting for the pause in typing.
     void checkNow();
 
-signals:
+Q_SIGNALS:
     void contextMenuWanted(QPoint globalPos);
 
 protected:

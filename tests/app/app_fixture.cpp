@@ -3,6 +3,7 @@
 
 #include <QAbstractButton>
 #include <QDialog>
+#include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMdiSubWindow>
@@ -34,6 +35,7 @@ void AppTest::SetUp() {
     ASSERT_TRUE(temp->isValid());
     qputenv("TAVI_DATA_USER", temp->filePath(QStringLiteral("user")).toUtf8());
     qputenv("XDG_DOCUMENTS_DIR", temp->path().toUtf8());
+    QDir(temp->path()).mkpath(QStringLiteral("My TAVI Data"));
     answerTimer_.setInterval(10);
     QObject::connect(&answerTimer_, &QTimer::timeout, [this] { answerNext(); });
     app = std::make_unique<CTAVIApp>();
@@ -93,7 +95,11 @@ void AppTest::answerNext() {
 void AppTest::pressOnMessage(const QString& buttonText) {
     whenModal([this, buttonText](QWidget* w) {
         auto* box = qobject_cast<QMessageBox*>(w);
-        ASSERT_NE(box, nullptr) << "expected a message box, got " << w->metaObject()->className();
+        if (!box) {
+            ADD_FAILURE() << "expected a message box, got " << w->metaObject()->className();
+            w->close();
+            return;
+        }
         messages << box->text();
         for (QAbstractButton* b : box->buttons())
             if (b->text().remove(QLatin1Char('&')) == buttonText) {
@@ -108,8 +114,11 @@ void AppTest::pressOnMessage(const QString& buttonText) {
 void AppTest::chooseFile(const QString& path) {
     whenModal([path](QWidget* w) {
         auto* dialog = qobject_cast<QFileDialog*>(w);
-        ASSERT_NE(dialog, nullptr) << "expected a file dialog, got "
-                                   << w->metaObject()->className();
+        if (!dialog) {
+            ADD_FAILURE() << "expected a file dialog, got " << w->metaObject()->className();
+            w->close();
+            return;
+        }
         dialog->selectFile(path);
         if (auto* name = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit")))
             name->setText(path);

@@ -6,9 +6,9 @@
 #include <QAction>
 #include <QApplication>
 #include <QPointer>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <deque>
-#include <QTemporaryDir>
 #include <functional>
 #include <gtest/gtest.h>
 #include <memory>
@@ -18,7 +18,9 @@
 #include "app/tavi_app.h"
 
 // Readable QStrings in test failures.
-inline void PrintTo(const QString& s, std::ostream* os) { *os << '"' << s.toStdString() << '"'; }
+inline void PrintTo(const QString& s, std::ostream* os) {
+    *os << '"' << s.toStdString() << '"';
+}
 
 namespace tavi::app::test {
 

@@ -39,8 +39,8 @@ using ShellTest = AppTest;
 TEST_F(ShellTest, MainMenuHasItsMenusCommandsAndHeadingsInOrder) {
     EXPECT_EQ(frame->windowTitle(), "TAVI");
     EXPECT_EQ(menuTitles(frame->menuBar()),
-              QStringList({"&File", "&Edit", "&Analyze", "&Database", "E&xplore", "&Link",
-                           "&Tools", "&Setup", "&Window", "&Help"}));
+              QStringList({"&File", "&Edit", "&Analyze", "&Database", "E&xplore", "&Link", "&Tools",
+                           "&Setup", "&Window", "&Help"}));
     EXPECT_EQ(action("ID_FILE_NEW")->text(), "&New");
     EXPECT_EQ(action("ID_FILE_NEW")->shortcut(), QKeySequence("Ctrl+N"));
     EXPECT_EQ(action("ID_EDIT_CHECK")->shortcut(), QKeySequence("Ctrl+K"));
@@ -131,7 +131,7 @@ TEST_F(ShellTest, OpenSaveAsAndAutomaticBackups) {
     EXPECT_EQ(f->doc().title(), "copy.tvi");
 
     // Fifty edits are allowed; the fifty-first writes the backup copy.
-    app->backupInterval = 50;
+    app->settings().backupInterval = 50;
     f->view().moveCursor(QTextCursor::End);
     QTest::keyClicks(&f->view(), QString(50, QLatin1Char('a')));
     const QString backup = f->doc().backupPath();
