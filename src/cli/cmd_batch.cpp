@@ -6,8 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "analysis/gc_dictionary.h"
-#include "analysis/word_lists.h"
+#include "analysis/measure_settings.h"
 #include "base/prompter.h"
 #include "base/text.h"
 #include "batch/batch_check.h"
@@ -118,34 +117,13 @@ bool saveOne(const Grid& grid, GridFormat format, const fs::path& path, std::ost
     return false;
 }
 
-// The lists the measures read, loaded once for the whole run.
-struct AnalysisLists {
-    StandardWordLists wordLists;
-    GcDictionary dictionary;
-    bool haveWordLists = false;
-    bool haveDictionary = false;
-};
-
-void loadLists(const Settings& settings, AnalysisLists& lists, Prompter& prompter) {
-    std::string text;
-    for (const std::string& line : settings.standardWordListLines)
-        text += line + '\n';
-    lists.wordLists = StandardWordLists::parse(text);
-    lists.haveWordLists = settings.standardWordListFound;
-    lists.haveDictionary = lists.dictionary.loadFile(
-        settings.folders.sharedData + "GC/GCDictionaryFile.txt", prompter);
-}
-
-// The analysis settings in force: analysis set, word base, cut, window, lists.
-BatchRunOptions runOptions(const Settings& settings, const AnalysisLists& lists) {
+// The analysis settings in force: analysis set, word base, cut, window, code
+// lists and the word lists and dictionary in `resources`.
+BatchRunOptions runOptions(const Settings& settings, const MeasureResources& resources) {
     BatchRunOptions options;
     options.selections = defaultBatchSelections(settings);
-    options.measures.analysisSet = settings.analysisSet;
-    options.measures.wordBase = settings.wordBase;
-    options.measures.cut = settings.transcriptCut;
-    options.measures.window = settings.movingAverageWindow;
-    options.measures.wordLists = lists.haveWordLists ? &lists.wordLists : nullptr;
-    options.measures.dictionary = lists.haveDictionary ? &lists.dictionary : nullptr;
+    options.measures = measureOptionsFrom(settings);
+    resources.attach(options.measures);
     options.check.dateFormat.order =
         settings.language.monthFirst ? DateOrder::MonthDayYear : DateOrder::DayMonthYear;
     options.check.dateFormat.separator = settings.language.dateSeparator;
@@ -235,9 +213,8 @@ int run(cli::CommandContext& ctx) {
     LoadedSettings loaded = cli::loadCommandSettings(ctx, prompter);
     if (!loaded.ok)
         return cli::kExitUsage;
-    AnalysisLists lists;
-    loadLists(loaded.settings, lists, prompter);
-    BatchRunOptions options = runOptions(loaded.settings, lists);
+    MeasureResources resources = loadMeasureResources(loaded.settings, prompter);
+    BatchRunOptions options = runOptions(loaded.settings, resources);
     if (!applyFlags(args, options, prompter, ctx.err))
         return cli::kExitUsage;
 
