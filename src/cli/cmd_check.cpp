@@ -5,12 +5,13 @@
 #include <string>
 #include <vector>
 
+#include "base/file_io.h"
 #include "base/format.h"
+#include "base/text.h"
 #include "cli/args.h"
 #include "cli/command.h"
 #include "transcript/check_listing.h"
 #include "transcript/checker.h"
-#include "transcript/transcript_file.h"
 
 namespace {
 
@@ -111,15 +112,15 @@ int run(cli::CommandContext& ctx) {
     bool unreadable = false, errors = false;
     for (const std::string& path : args.positional()) {
         std::error_code ec;
-        LoadedTranscript t;
-        if (!std::filesystem::is_directory(path, ec))
-            t = loadTranscript(path);
-        if (!t.ok) {
+        std::string bytes;
+        if (std::filesystem::is_directory(path, ec) || !readFile(path, bytes)) {
             ctx.err << "tavi check: cannot read " << path << '\n';
             unreadable = true;
             continue;
         }
-        CheckResult check = checkTranscript(t.lines, options);
+        std::string text = decodeText(bytes).utf8;
+        std::string().swap(bytes);
+        CheckResult check = checkText(text, options);
         errors = errors || check.hasErrors;
         results.push_back({path, std::move(check)});
     }

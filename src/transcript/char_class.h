@@ -85,11 +85,15 @@ constexpr bool computeWordChar(char32_t c) {
 }
 struct AsciiTable {
     bool wordChar[128] = {};
+    bool alnum[128] = {};
 };
 constexpr AsciiTable makeAsciiTable() {
     AsciiTable t;
-    for (char32_t c = 0; c < 128; ++c)
+    for (char32_t c = 0; c < 128; ++c) {
         t.wordChar[c] = computeWordChar(c);
+        t.alnum[c] =
+            (c >= U'a' && c <= U'z') || (c >= U'A' && c <= U'Z') || (c >= U'0' && c <= U'9');
+    }
     return t;
 }
 inline constexpr AsciiTable kAscii = makeAsciiTable();
@@ -112,8 +116,7 @@ constexpr bool cannotBeginUtterance(char32_t c) {
 // Letters and digits as far as the notation cares: ASCII letters and digits and
 // every character above U+00BF that is a word character.
 constexpr bool isAlnum(char32_t c) {
-    return (c >= U'a' && c <= U'z') || (c >= U'A' && c <= U'Z') || (c >= U'0' && c <= U'9') ||
-           (c > 0xBF && isWordChar(c));
+    return c < 128 ? detail::kAscii.alnum[c] : (c > 0xBF && isWordChar(c));
 }
 
 constexpr bool isDigit(char32_t c) {

@@ -234,14 +234,17 @@ void Checker::State::utteranceLine(std::string_view text) {
         group = 2;
     mainSpeaker = group < 2 ? group : -1;
     tallyLine = mainSpeaker >= 0 && (!options.analysedLine || options.analysedLine(line));
-    segmenter.segment(text, line, group, utterance, this);
-    utterance.index = result.utteranceCount++;
     seenUtteranceOrPause = true;
-    if (options.keepSegmentation) {
-        Entry& e = addEntry(EntryKind::Utterance);
-        e.utterance = static_cast<int>(result.segmented.utterances.size());
-        result.segmented.utterances.push_back(std::move(utterance));
+    if (!options.keepSegmentation) {
+        segmenter.check(text, line, group, utterance, *this);
+        ++result.utteranceCount;
+        return;
     }
+    std::vector<Utterance>& utterances = result.segmented.utterances;
+    addEntry(EntryKind::Utterance).utterance = static_cast<int>(utterances.size());
+    Utterance& kept = utterances.emplace_back();
+    segmenter.segment(text, line, group, kept, this);
+    kept.index = result.utteranceCount++;
 }
 
 void Checker::State::pause(const Pause& p) {
@@ -388,6 +391,11 @@ Checker::Checker(CheckOptions options) : state_(std::make_unique<State>()) {
 
 Checker::~Checker() = default;
 
+void Checker::reserve(size_t lines) {
+    state_->result.segmented.utterances.reserve(lines);
+    state_->result.segmented.entries.reserve(lines);
+}
+
 void Checker::checkLine(std::string_view text, int line) {
     state_->line = line;
     state_->check(text);
@@ -404,8 +412,21 @@ CheckResult Checker::finish() {
 
 CheckResult checkTranscript(const TranLines& lines, const CheckOptions& options) {
     Checker checker(options);
+    if (options.keepSegmentation)
+        checker.reserve(lines.size());
     for (const tranLine& l : lines)
         checker.checkLine(l.text, l.line);
+    return checker.finish();
+}
+
+CheckResult checkText(std::string_view text, const CheckOptions& options) {
+    std::vector<std::string_view> lines = splitLines(text);
+    Checker checker(options);
+    if (options.keepSegmentation)
+        checker.reserve(lines.size());
+    int number = 0;
+    for (std::string_view l : lines)
+        checker.checkLine(l, ++number);
     return checker.finish();
 }
 

@@ -77,6 +77,10 @@ struct CheckResult {
 // Checks a whole transcript.
 CheckResult checkTranscript(const TranLines& lines, const CheckOptions& options = {});
 
+// The same for a whole text (UTF-8, lines ended by LF, CR LF or CR), without
+// building line records first: the cheapest way for very large files.
+CheckResult checkText(std::string_view text, const CheckOptions& options = {});
+
 // The same walk line by line, for callers that produce lines as they go.
 class Checker {
 public:
@@ -86,6 +90,8 @@ public:
     Checker& operator=(const Checker&) = delete;
 
     void checkLine(std::string_view text, int line);
+    // Room for the segmentation of about `lines` lines (when it is kept).
+    void reserve(size_t lines);
     // Runs the end-of-transcript checks and hands out the result; the checker
     // is then empty and ready for the next transcript.
     CheckResult finish();

@@ -6,7 +6,15 @@
 namespace tavi {
 
 void decodeCodePoints(std::string_view line, std::u32string& out) {
+    unsigned char high = 0;
+    for (char c : line)
+        high |= static_cast<unsigned char>(c);
     out.resize(line.size());
+    if (high < 0x80) { // all ASCII: a plain widening copy
+        for (size_t i = 0; i < line.size(); ++i)
+            out[i] = static_cast<unsigned char>(line[i]);
+        return;
+    }
     size_t n = 0;
     size_t pos = 0;
     while (pos < line.size()) {

@@ -30,11 +30,31 @@ bool inSpans(const std::vector<Span>& spans, size_t pos) {
     return false;
 }
 
+// A set of ASCII characters as two 64-bit masks, built at compile time.
+struct CharMask {
+    std::uint64_t low = 0, high = 0;
+};
+
+constexpr CharMask maskOf(std::u32string_view chars) {
+    CharMask m;
+    for (char32_t c : chars)
+        (c < 64 ? m.low : m.high) |= std::uint64_t{1} << (c & 63);
+    return m;
+}
+
+constexpr CharMask kCodeOrComment = maskOf(U"{}[]");
+constexpr CharMask kParenOrQuote = maskOf(U"(),\"\x1C\x1D");
+constexpr CharMask kMazeOrOverlap = maskOf(U"()<>");
+constexpr CharMask kPauseOrStray = maskOf(U":.!?~^=;-$@");
+constexpr CharMask kLink = maskOf(U"_");
+
 // One line being cut; lives for one call of UtteranceSegmenter::segment.
 class LineCutter {
 public:
-    LineCutter(std::u32string& buf, std::u32string& scratch, Utterance& out, ProblemSink* sink)
-        : buf_(buf), scratch_(scratch), out_(out), sink_(sink) {}
+    LineCutter(std::string_view line, std::u32string& buf, std::u32string& scratch, Utterance& out,
+               ProblemSink* sink, Word* checkOnly)
+        : line_(line.size() == buf.size() ? line : std::string_view()), buf_(buf),
+          scratch_(scratch), out_(out), sink_(sink), checkOnly_(checkOnly) {}
 
     void run();
 
@@ -49,13 +69,11 @@ private:
     }
     bool findEnd();
     void notePresentCharacters();
-    bool anyPresent(std::u32string_view chars) const {
-        for (char32_t c : chars)
-            if (present_[c >> 6] & (std::uint64_t{1} << (c & 63)))
-                return true;
-        return false;
+    bool anyPresent(const CharMask& mask) const {
+        return ((present_[0] & mask.low) | (present_[1] & mask.high)) != 0;
     }
     Word& nextWordSlot();
+    size_t countPieces() const;
     void commentsAndCodes();
     void parentheticals();
     void closeParenthetical(size_t open, size_t close);
@@ -67,11 +85,13 @@ private:
     void attachCodes();
     void classify();
 
+    std::string_view line_; // the line's bytes when it is all ASCII, else empty
     std::u32string& buf_;
     std::u32string& scratch_;
     Utterance& out_;
     ProblemSink* sink_;
-    size_t end_ = 0; // position of the terminator (or of the end of the text)
+    Word* checkOnly_; // when set, words are checked in this record and not kept
+    size_t end_ = 0;  // position of the terminator (or of the end of the text)
     bool missingTerminator_ = false;
     bool textAfterEnd_ = false;
     std::uint64_t present_[2] = {0, 0}; // ASCII characters present before the terminator
@@ -92,17 +112,17 @@ void LineCutter::run() {
     }
     findEnd();
     notePresentCharacters();
-    if (anyPresent(U"{}[]"))
+    if (anyPresent(kCodeOrComment))
         commentsAndCodes();
     if (missingTerminator_)
         report(108, "missing end of utterance punctuation.");
     else if (textAfterEnd_)
         report(112, "characters found after end of utterance.");
-    if (nonAscii_ || anyPresent(U"(),\"\x1C\x1D"))
+    if (nonAscii_ || anyPresent(kParenOrQuote))
         parentheticals();
-    if (anyPresent(U"()<>"))
+    if (anyPresent(kMazeOrOverlap))
         mazesAndOverlaps();
-    if (nonAscii_ || controls_ || anyPresent(U":.!?~^=;-$@"))
+    if (nonAscii_ || controls_ || anyPresent(kPauseOrStray))
         pausesAndCharacters();
     words();
     attachCodes();
@@ -437,6 +457,8 @@ size_t LineCutter::readPause(size_t colon) {
 void LineCutter::words() {
     std::u32string_view text(buf_);
     scratch_.clear();
+    if (!checkOnly_ && out_.words.capacity() == 0)
+        out_.words.reserve(countPieces());
     size_t linkPosition = 0;
     bool linkOpen = false;
     bool linkMalformed = false;
@@ -453,12 +475,12 @@ void LineCutter::words() {
     };
     size_t i = 1;
     while (i < end_) {
-        if (cls::isSpace(text[i])) {
+        if (text[i] <= U' ' && cls::isSpace(text[i])) {
             ++i;
             continue;
         }
         size_t start = i;
-        while (i < end_ && !cls::isSpace(text[i]))
+        while (i < end_ && !(text[i] <= U' ' && cls::isSpace(text[i])))
             ++i;
         std::u32string_view piece = text.substr(start, i - start);
         bool opens = piece.size() > 1 && piece.back() == U'_';
@@ -467,7 +489,7 @@ void LineCutter::words() {
             report(143, "unattached word link character (_)");
             continue;
         }
-        bool malformed = !wellFormedLinkPiece(piece, !continues, !opens);
+        bool malformed = anyPresent(kLink) && !wellFormedLinkPiece(piece, !continues, !opens);
         if (continues && linkOpen) {
             linkMalformed = linkMalformed || malformed;
             scratch_.append(piece.substr(1));
@@ -482,6 +504,7 @@ void LineCutter::words() {
             if (sink_)
                 sink_->problem(143, "unmatched word link (" + utf8(piece) + ").");
             piece.remove_prefix(1);
+            ++start;
         }
         if (opens) {
             linkOpen = true;
@@ -496,6 +519,17 @@ void LineCutter::words() {
     if (linkOpen)
         closeLink(false);
     out_.words.resize(wordCount_);
+}
+
+size_t LineCutter::countPieces() const {
+    size_t pieces = 0;
+    bool inPiece = false;
+    for (size_t i = 1; i < end_; ++i) {
+        bool space = buf_[i] <= U' ' && cls::isSpace(buf_[i]);
+        pieces += !space && !inPiece;
+        inPiece = !space;
+    }
+    return pieces;
 }
 
 // The next word of the utterance, reusing a record of the previous line when
@@ -526,9 +560,18 @@ Word& LineCutter::nextWordSlot() {
 void LineCutter::addWord(std::u32string_view text, size_t position, bool linked, bool malformed) {
     if (malformed && sink_)
         sink_->problem(143, "incorrect format for linked word (" + utf8(text) + ").");
-    Word& word = nextWordSlot();
     linked = linked || malformed;
-    if (!splitWord(text, linked, word, sink_))
+    if (checkOnly_) {
+        if (!linked && isPlainWord(text))
+            return;
+        *checkOnly_ = Word{};
+        splitWord(text, linked, *checkOnly_, sink_);
+        return;
+    }
+    Word& word = nextWordSlot();
+    std::string_view bytes =
+        linked || line_.empty() ? std::string_view() : line_.substr(position, text.size());
+    if (!splitWord(text, linked, word, sink_, bytes))
         return;
     word.position = static_cast<int>(position);
     word.linked = linked;
@@ -582,6 +625,16 @@ void LineCutter::classify() {
 
 void UtteranceSegmenter::segment(std::string_view line, int lineNumber, int speakerGroup,
                                  Utterance& out, ProblemSink* sink) {
+    run(line, lineNumber, speakerGroup, out, sink, true);
+}
+
+void UtteranceSegmenter::check(std::string_view line, int lineNumber, int speakerGroup,
+                               Utterance& out, ProblemSink& sink) {
+    run(line, lineNumber, speakerGroup, out, &sink, false);
+}
+
+void UtteranceSegmenter::run(std::string_view line, int lineNumber, int speakerGroup,
+                             Utterance& out, ProblemSink* sink, bool keepWords) {
     out.speakerGroup = speakerGroup;
     out.line = lineNumber;
     out.terminatorChar = U'.';
@@ -598,7 +651,9 @@ void UtteranceSegmenter::segment(std::string_view line, int lineNumber, int spea
 
     decodeCodePoints(line, buf_);
     out.speakerId = buf_.empty() ? 0 : buf_[0];
-    LineCutter(buf_, scratch_, out, sink).run();
+    if (!keepWords)
+        out.words.clear();
+    LineCutter(line, buf_, scratch_, out, sink, keepWords ? nullptr : &wordScratch_).run();
 }
 
 Utterance segmentUtterance(std::string_view line, int lineNumber, int speakerGroup,

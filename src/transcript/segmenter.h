@@ -42,9 +42,19 @@ public:
     void segment(std::string_view line, int lineNumber, int speakerGroup, Utterance& out,
                  ProblemSink* sink = nullptr);
 
+    // Checking only: the same rules and problems, but the words are checked
+    // without being kept (`out.words` stays empty), which makes checking a
+    // large transcript much faster.
+    void check(std::string_view line, int lineNumber, int speakerGroup, Utterance& out,
+               ProblemSink& sink);
+
 private:
+    void run(std::string_view line, int lineNumber, int speakerGroup, Utterance& out,
+             ProblemSink* sink, bool keepWords);
+
     std::u32string buf_;
     std::u32string scratch_;
+    Word wordScratch_;
 };
 
 } // namespace tavi

@@ -14,8 +14,9 @@ namespace {
 
 class WordSplitter {
 public:
-    WordSplitter(std::u32string_view text, bool linked, Word& word, ProblemSink* sink)
-        : w_(text), linked_(linked), word_(word), sink_(sink) {}
+    WordSplitter(std::u32string_view text, bool linked, Word& word, ProblemSink* sink,
+                 std::string_view bytes)
+        : w_(text), bytes_(bytes), linked_(linked), word_(word), sink_(sink) {}
     bool run();
 
 private:
@@ -32,6 +33,7 @@ private:
     bool legalRoot(std::u32string_view root) const;
 
     std::u32string_view w_;
+    std::string_view bytes_; // w_ as UTF-8, or empty
     bool linked_;
     Word& word_;
     ProblemSink* sink_;
@@ -60,16 +62,13 @@ bool WordSplitter::run() {
 // The common case: only word characters, at least one letter or digit. Root
 // and text are the word itself; no rule can apply.
 bool WordSplitter::plainWord() {
-    bool alnum = false;
-    for (char32_t c : w_) {
-        if (!cls::isWordChar(c))
-            return false;
-        alnum = alnum || cls::isAlnum(c);
-    }
-    if (!alnum)
+    if (!isPlainWord(w_))
         return false;
-    assignUtf8(word_.text, w_);
-    word_.root = word_.text;
+    if (bytes_.empty())
+        assignUtf8(word_.text, w_);
+    else
+        word_.text.assign(bytes_);
+    word_.root.assign(word_.text);
     word_.unintelligible = isUnintelligibleMark(w_);
     return true;
 }
@@ -227,14 +226,25 @@ bool WordSplitter::legalRoot(std::u32string_view root) const {
 
 } // namespace
 
+bool isPlainWord(std::u32string_view text) {
+    bool alnum = false;
+    for (char32_t c : text) {
+        if (!cls::isWordChar(c))
+            return false;
+        alnum = alnum || cls::isAlnum(c);
+    }
+    return alnum;
+}
+
 bool isUnintelligibleMark(std::u32string_view root) {
     if (root.empty() || root.size() > 3)
         return false;
     return std::all_of(root.begin(), root.end(), [](char32_t c) { return c == U'x' || c == U'X'; });
 }
 
-bool splitWord(std::u32string_view text, bool linked, Word& word, ProblemSink* sink) {
-    return WordSplitter(text, linked, word, sink).run();
+bool splitWord(std::u32string_view text, bool linked, Word& word, ProblemSink* sink,
+               std::string_view bytes) {
+    return WordSplitter(text, linked, word, sink, bytes).run();
 }
 
 std::vector<Word> splitRemarkWords(std::u32string_view inner) {

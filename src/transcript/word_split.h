@@ -12,8 +12,15 @@
 namespace tavi {
 
 // Splits `text` (a word or joined linked word, without blanks) into `word`.
-// False when nothing of it is a word (a lone "+").
-bool splitWord(std::u32string_view text, bool linked, Word& word, ProblemSink* sink);
+// `bytes` may hold the same word as UTF-8 (it saves a conversion). False when
+// nothing of it is a word (a lone "+").
+bool splitWord(std::u32string_view text, bool linked, Word& word, ProblemSink* sink,
+               std::string_view bytes = {});
+
+// Only the checks of splitWord, for a plain word without filling the record.
+// True when the word is plain (only word characters, a letter or digit):
+// such a word has no problem, and the full split can be skipped.
+bool isPlainWord(std::u32string_view text);
 
 // The words of a parenthetical remark's inner text, flagged inParenthetical.
 std::vector<Word> splitRemarkWords(std::u32string_view inner);
