@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "base/format.h"
+#include "base/text.h"
 #include "cli/args.h"
 #include "cli/command.h"
 #include "cli/stream_prompter.h"
@@ -128,6 +129,11 @@ int create(cli::CommandContext& ctx, const cli::Args& args) {
     info.context = *context;
     info.description = args.value("--description").value_or("");
     if (auto password = args.value("--password")) {
+        // The block holds "RESTRICTED " and the password in 79 characters, and
+        // the reader trims it.
+        if (password->empty() || utf16Length(*password) > kMaxPasswordUnits ||
+            trim(*password) != *password)
+            return usage(ctx, "--password takes 1 to 68 characters without surrounding blanks");
         info.restricted = true;
         info.password = *password;
     }

@@ -23,6 +23,7 @@ inline constexpr std::size_t kBlockUnits = 80;        // characters per long-tex
 inline constexpr std::size_t kBlockBytes = 160;       // bytes per long-text block
 inline constexpr std::size_t kRestrictedBlockBytes = 160;
 inline constexpr std::string_view kRestrictedWord = "RESTRICTED";
+inline constexpr std::size_t kMaxPasswordUnits = 68;     // "RESTRICTED " + password in 79
 inline constexpr int kMaxBlocks = 999;                   // what "%3d" can state
 inline constexpr std::int64_t kMaxPosition = 0x7FFFFFFF; // positions are written from 32 bits
 

@@ -73,6 +73,9 @@ TEST(TaviDb, RestrictedAndUsage) {
                            "order to access the data.\n");
     EXPECT_EQ(tavi(dir, "list r.tvidb --password abc").status, 0);
     EXPECT_EQ(tavi(dir, "create x.tvidb").status, 2);
+    EXPECT_EQ(tavi(dir, "create y.tvidb --context Play --password ' abc'").status, 2);
+    EXPECT_EQ(tavi(dir, "create y.tvidb --context Play --password " + std::string(69, 'p')).status,
+              2);
     EXPECT_EQ(tavi(dir, "frobnicate x.tvidb").status, 2);
     EXPECT_EQ(tavi(dir, "add r.tvidb --password abc --speaker 3 a.tvi").status, 2);
 }
