@@ -131,7 +131,7 @@ void BM_Measures(benchmark::State& state) {
     state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * text.size()));
 }
 
-BENCHMARK(BM_CheckAndSegment)->Arg(1 << 20)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_CheckAndSegment)->Arg(64 << 10)->Arg(1 << 20)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_Measures)->Arg(64 << 10)->Arg(1 << 20)->Unit(benchmark::kMillisecond);
 
 } // namespace

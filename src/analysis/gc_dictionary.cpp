@@ -126,10 +126,14 @@ std::vector<int> guessFromForm(const Word& w) {
 std::vector<int> dictionaryCategories(std::string_view root, const GcDictionary& dictionary) {
     root = root.substr(root.rfind('\\') + 1);
     auto value = dictionary.lookup(root);
-    if (!value) {
-        std::string lower = toLowerAscii(root);
-        if (lower != root)
-            value = dictionary.lookup(lower);
+    // Then in lower case, then capitalised ("i" finds "I").
+    std::string other = toLowerAscii(root);
+    if (!value && other != root)
+        value = dictionary.lookup(other);
+    if (!value && !other.empty() && other[0] >= 'a' && other[0] <= 'z') {
+        other[0] = static_cast<char>(other[0] - 'a' + 'A');
+        if (other != root)
+            value = dictionary.lookup(other);
     }
     return value ? categoriesOfValue(*value) : std::vector<int>{};
 }

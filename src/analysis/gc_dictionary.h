@@ -57,7 +57,7 @@ bool isSkippedCategoryToken(std::string_view token);
 
 // The categories of a word (indices into kGrammaticalCategoryTable), most
 // likely first: the dictionary entry of its root (as written, then in lower
-// case), else a guess from its form: a verb ending ("/ed", "/ing", "/3s",
+// case, then capitalised), else a guess from its form: a verb ending ("/ed", "/ing", "/3s",
 // "/en") or "-ing"/"-ed" makes a verb, "-ly" an adverb, anything else a noun.
 std::vector<int> wordCategories(const Word& word, const GcDictionary* dictionary);
 // The two halves of wordCategories: the dictionary entry of a root (empty

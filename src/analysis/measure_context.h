@@ -17,6 +17,7 @@ struct MeasureContext {
     const Selection& selection;
     std::vector<UtteranceFacts> facts; // per utterance; filled for utterances inside the cut
     CodeMatchers codes;
+    RootIds rootIds;
 };
 
 // Everything one speaker's measures read.

@@ -47,10 +47,10 @@ MeasureResult computeMeasures(const SegmentedTranscript& transcript,
     result.wordListsAvailable = static_cast<bool>(yesNoTest(options));
     result.categoriesAvailable = options.dictionary != nullptr;
 
-    MeasureContext c{transcript, options, result.selection, {}, matchersFor(options)};
+    MeasureContext c{transcript, options, result.selection, {}, matchersFor(options), {}};
     c.facts.resize(transcript.utterances.size());
     for (int i : result.selection.utterances)
-        c.facts[i] = gatherFacts(transcript.utterances[i], options.wordBase, c.codes);
+        c.facts[i] = gatherFacts(transcript.utterances[i], options.wordBase, c.codes, c.rootIds);
 
     for (int s = 0; s < 2; ++s) {
         SpeakerMeasures& m = result.speakers[s];

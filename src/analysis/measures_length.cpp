@@ -19,12 +19,12 @@ namespace {
 
 using Id = MeasureId;
 
-// Roots of the counted words of some utterances, in order.
-std::vector<std::string> rootsOf(const SpeakerView& v, const std::vector<int>& utts) {
-    std::vector<std::string> roots;
+// Root numbers of the counted words of some utterances, in order.
+std::vector<int> rootIdsOf(const SpeakerView& v, const std::vector<int>& utts) {
+    std::vector<int> ids;
     for (int i : utts)
-        roots.insert(roots.end(), v.facts(i).roots.begin(), v.facts(i).roots.end());
-    return roots;
+        ids.insert(ids.end(), v.facts(i).rootIds.begin(), v.facts(i).rootIds.end());
+    return ids;
 }
 
 void fillMlu(const SpeakerView& v, SpeakerMeasures& m) {
@@ -54,14 +54,17 @@ void fillMlu(const SpeakerView& v, SpeakerMeasures& m) {
 }
 
 void fillVocabulary(const SpeakerView& v, SpeakerMeasures& m) {
-    std::vector<std::string> roots = rootsOf(v, v.analysisSet);
-    std::unordered_set<std::string> different(roots.begin(), roots.end());
-    const int ntw = static_cast<int>(roots.size());
-    const int ndw = static_cast<int>(different.size());
+    const std::vector<int> ids = rootIdsOf(v, v.analysisSet);
+    const int different = v.c.rootIds.size();
+    std::vector<char> seen(static_cast<size_t>(different), 0);
+    int ndw = 0;
+    for (int id : ids)
+        ndw += seen[id]++ == 0 ? 1 : 0;
+    const int ntw = static_cast<int>(ids.size());
     m[Id::NTW] = Value::count(ntw);
     m[Id::NDW] = Value::count(ndw);
     m[Id::TTR] = Value::ratio(ndw, ntw);
-    MovingAverage ma = movingAverage(roots, v.c.options.window);
+    MovingAverage ma = movingAverage(ids, different, v.c.options.window);
     if (ma.windows > 0) {
         m[Id::MA_NTW] = Value::real(ma.ntw);
         m[Id::MA_NDW] = Value::real(ma.ndw);
@@ -86,23 +89,26 @@ void fillBoundMorphemes(const SpeakerView& v, SpeakerMeasures& m) {
 
 // Different roots that this speaker said before the other main speaker did.
 void fillMentionedFirst(const SpeakerView& v, SpeakerMeasures& m) {
-    std::unordered_map<std::string, int> firstBy;
-    std::unordered_set<std::string> mine;
+    const size_t different = static_cast<size_t>(v.c.rootIds.size());
+    std::vector<signed char> firstBy(different, -1);
+    std::vector<char> mine(different, 0);
+    int first = 0, mineCount = 0;
     for (int i : v.c.selection.utterances) {
         int group = v.utt(i).speakerGroup;
         if (group > 1)
             continue;
-        for (const std::string& root : v.c.facts[i].roots) {
-            firstBy.emplace(root, group);
-            if (group == v.speaker)
-                mine.insert(root);
+        for (int id : v.c.facts[i].rootIds) {
+            if (firstBy[id] < 0)
+                firstBy[id] = static_cast<signed char>(group);
+            if (group == v.speaker && !mine[id]) {
+                mine[id] = 1;
+                ++mineCount;
+                first += firstBy[id] == v.speaker ? 1 : 0;
+            }
         }
     }
-    int first = 0;
-    for (const std::string& r : mine)
-        first += firstBy[r] == v.speaker ? 1 : 0;
     m[Id::WdsMention1st] = Value::count(first);
-    m[Id::PctWdsMention1st] = Value::ratio(first, static_cast<double>(mine.size()), 100);
+    m[Id::PctWdsMention1st] = Value::ratio(first, mineCount, 100);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // Standard word lists and grammatical categories (types and totals), and the
 // verb measures that read the categories.
 #include <algorithm>
+#include <cstdint>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -122,7 +123,8 @@ void fillCategoriesAndVerbs(const SpeakerView& v, SpeakerMeasures& m) {
     if (!dictionary)
         return;
     int verbs = 0, uttsWithVerb = 0;
-    Tally<kGrammaticalCategories> tally{m.categories};
+    // Per root number, one bit per category in which the root was counted.
+    std::vector<std::uint32_t> counted(static_cast<size_t>(v.c.rootIds.size()), 0);
     std::unordered_map<std::string, std::vector<int>> known; // dictionary entries by root
     for (int i : v.analysisSet) {
         int here = 0;
@@ -138,8 +140,15 @@ void fillCategoriesAndVerbs(const SpeakerView& v, SpeakerMeasures& m) {
             if (it->second.empty())
                 guessed = guessCategories(*w);
             const std::vector<int>& cats = it->second.empty() ? guessed : it->second;
-            for (int c : cats)
-                tally.add(c, f.roots[k]);
+            for (int c : cats) {
+                WordCount& count = m.categories[c];
+                ++count.total;
+                if (!(counted[f.rootIds[k]] & (1u << c))) {
+                    counted[f.rootIds[k]] |= 1u << c;
+                    ++count.types;
+                    count.words.push_back(f.roots[k]);
+                }
+            }
             here += verbsIn(*w, cats);
         }
         verbs += here;

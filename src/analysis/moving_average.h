@@ -14,5 +14,7 @@ struct MovingAverage {
 
 // `words` are the word roots in order (already in their compared form).
 MovingAverage movingAverage(const std::vector<std::string>& words, int window);
+// The same over word numbers 0 .. `different` - 1 (equal words, equal numbers).
+MovingAverage movingAverage(const std::vector<int>& ids, int different, int window);
 
 } // namespace tavi

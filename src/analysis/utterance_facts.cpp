@@ -45,7 +45,8 @@ void tallyCodes(const Utterance& u, const CodeMatchers& m, UtteranceFacts& f) {
 
 } // namespace
 
-UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeMatchers& m) {
+UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeMatchers& m,
+                           RootIds& ids) {
     UtteranceFacts f;
     f.overlap = u.hasOverlap;
     for (const Word& w : u.words) {
@@ -80,6 +81,9 @@ UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeM
         addParentheticalWords(u, f);
     f.morphemes += static_cast<int>(f.roots.size() - f.words.size());
     f.wordCount = static_cast<int>(f.roots.size());
+    f.rootIds.reserve(f.roots.size());
+    for (const std::string& r : f.roots)
+        f.rootIds.push_back(ids.idOf(r));
     tallyCodes(u, m, f);
     return f;
 }

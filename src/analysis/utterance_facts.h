@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "analysis/code_lists.h"
@@ -28,6 +29,7 @@ struct UtteranceFacts {
     std::vector<const Word*> words; // counted main-body words, in order
     std::vector<std::string> forms; // their surface forms (word_forms.h)
     std::vector<std::string> roots; // their roots, then those of counted parenthetical words
+    std::vector<int> rootIds;       // the roots' numbers (RootIds)
     int wordCount = 0;              // roots.size()
     int morphemes = 0;
     int mazeWords = 0;
@@ -42,6 +44,20 @@ struct UtteranceFacts {
     bool hasOmission() const { return omittedWords + omittedMorphemes + omittedClitics > 0; }
 };
 
-UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeMatchers& codes);
+// Numbers the different roots of one transcript from 0, so that sets of roots
+// can be kept as flags and counts indexed by number.
+class RootIds {
+public:
+    int idOf(const std::string& root) {
+        return ids_.emplace(root, static_cast<int>(ids_.size())).first->second;
+    }
+    int size() const { return static_cast<int>(ids_.size()); }
+
+private:
+    std::unordered_map<std::string, int> ids_;
+};
+
+UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeMatchers& codes,
+                           RootIds& ids);
 
 } // namespace tavi

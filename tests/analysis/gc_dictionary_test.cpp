@@ -73,6 +73,7 @@ TEST(GrammaticalCategories, WordCategoriesFromDictionaryThenFromForm) {
     EXPECT_EQ(cats("run", &d), (std::vector<int>{GcVerb, GcNoun}));
     EXPECT_EQ(cats("Run", &d), (std::vector<int>{GcVerb, GcNoun})); // lower-case retry
     EXPECT_EQ(cats("I", &d), std::vector<int>{GcPPron});
+    EXPECT_EQ(cats("i", &d), std::vector<int>{GcPPron}); // capitalised retry
     EXPECT_EQ(cats("quickly", &d), std::vector<int>{GcAverb});
     EXPECT_EQ(cats("jumping", &d), std::vector<int>{GcVerb});
     EXPECT_EQ(cats("walk/ed", &d), std::vector<int>{GcVerb});
