@@ -24,6 +24,30 @@ std::vector<std::string> parseCodeItems(std::string_view list) {
     return items;
 }
 
+bool isValidCodeList(std::string_view list) {
+    bool open = false;
+    for (char c : list) {
+        if (c == '[') {
+            if (open)
+                return false;
+            open = true;
+        } else if (c == ']') {
+            if (!open)
+                return false;
+            open = false;
+        } else if (c == '@' || c == '=') {
+            return false;
+        }
+    }
+    if (open)
+        return false;
+    for (const std::string& item : parseCodeItems(list))
+        for (char c : item)
+            if (isBlank(c))
+                return false;
+    return true;
+}
+
 bool codeMatchesItem(std::string_view code, std::string_view item) {
     std::string_view head = code.substr(0, code.find(':'));
     if (!item.empty() && item.back() == '*') {

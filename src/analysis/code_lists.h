@@ -27,6 +27,11 @@ std::vector<std::string> parseCodeItems(std::string_view list);
 // without regard to case; an item ending in "*" matches any ending.
 bool codeMatchesItem(std::string_view code, std::string_view item);
 
+// Whether a list is well formed: brackets in pairs and not nested, and no
+// item holding a blank, "@" or "=" (which a code cannot hold). Dialogs refuse
+// a bad list with "Error: illegal code specification".
+bool isValidCodeList(std::string_view list);
+
 // A parsed list, ready to test codes against.
 class CodeMatcher {
 public:

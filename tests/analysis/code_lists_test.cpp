@@ -1,0 +1,30 @@
+// Code lists: parsing both list forms, matching, and the validity check.
+#include <gtest/gtest.h>
+
+#include "analysis/code_lists.h"
+
+namespace tavi {
+namespace {
+
+TEST(CodeLists, ParseMatchAndValidate) {
+    EXPECT_EQ(parseCodeItems("[EW][ eo* ]"), (std::vector<std::string>{"EW", "eo*"}));
+    EXPECT_EQ(parseCodeItems("EW, EO*,, "), (std::vector<std::string>{"EW", "EO*"}));
+    EXPECT_TRUE(codeMatchesItem("EW:went", "ew"));
+    EXPECT_FALSE(codeMatchesItem("EWX", "EW"));
+    EXPECT_TRUE(codeMatchesItem("EWX:a", "EW*"));
+    EXPECT_FALSE(codeMatchesItem("XEW", "EW*"));
+    CodeMatcher m(CodeLists{}.errors);
+    EXPECT_TRUE(m.matches("EO:goed"));
+    EXPECT_FALSE(m.matches("NM"));
+    EXPECT_TRUE(isValidCodeList("EW, EO*"));
+    EXPECT_TRUE(isValidCodeList("[EW][EO*]"));
+    EXPECT_TRUE(isValidCodeList(""));
+    EXPECT_FALSE(isValidCodeList("E W"));
+    EXPECT_FALSE(isValidCodeList("[EW"));
+    EXPECT_FALSE(isValidCodeList("[E[W]]"));
+    EXPECT_FALSE(isValidCodeList("EW=x"));
+    EXPECT_FALSE(isValidCodeList("a@b"));
+}
+
+} // namespace
+} // namespace tavi
