@@ -21,6 +21,8 @@ struct TranscriptReportContext {
     std::string wordBase;              // description of the word base
     std::string cutDescription;        // e.g. "Entire Transcript"
     std::optional<int> elapsedSeconds; // from the timing lines; empty when not timed
+    bool pausesUntimed = false;        // the sample has pauses and none is timed
+    bool somePausesUntimed = false;    // some of its pauses are timed, some not
 };
 
 // The analysis set's short name from its three main exclusions, e.g.

@@ -101,8 +101,9 @@ std::optional<int> elapsedSeconds(const MeasureSource& measures) {
     return std::nullopt;
 }
 
-LabelledLine makeLine(const SmrLineDef& def, const MeasureSource& measures,
-                      const LabelSource& labels, const MeasureSource& databaseMeans) {
+LabelledLine makeLine(const SmrLineDef& def, const TranscriptReportContext& context,
+                      const MeasureSource& measures, const LabelSource& labels,
+                      const MeasureSource& databaseMeans) {
     const std::string prefix(smrLinePrefix(def));
     std::optional<double> mean =
         databaseMeans ? databaseMeans(def.measureId) : std::optional<double>();
@@ -112,6 +113,8 @@ LabelledLine makeLine(const SmrLineDef& def, const MeasureSource& measures,
     }
     std::string value = def.kind == K::ElapsedTime ? formatElapsedCell(elapsedSeconds(measures))
                                                    : formatValue(def.kind, measures(def.measureId));
+    if (def.measureId == "%PauseTime" && context.pausesUntimed && !measures(def.measureId))
+        value = labels("RL_RPALLNOTIME");
     if (mean)
         value = formatWithMean(value, *mean);
     return {prefix, lineLabel(def, labels), ":  ", value};
@@ -146,13 +149,15 @@ Report buildStandardMeasuresReport(const TranscriptReportContext& context,
     report.title = labels("RL_SMRTITLE");
     report.header = reportHeader(context, labels);
     bool anyAnalysisSetLine = false;
+    bool pauseLine = false;
     for (const auto& sectionDef : kSections) {
         ReportSection section{toUpperAscii(labels(sectionDef.titleKey)), {}};
         for (size_t i = sectionDef.firstLine; i < sectionDef.firstLine + sectionDef.lineCount;
              ++i) {
             if (!variables.chosen[i])
                 continue;
-            section.items.push_back(makeLine(kLines[i], measures, labels, databaseMeans));
+            section.items.push_back(makeLine(kLines[i], context, measures, labels, databaseMeans));
+            pauseLine = pauseLine || kLines[i].measureId == "%PauseTime";
             anyAnalysisSetLine = anyAnalysisSetLine || kLines[i].analysisSet;
         }
         if (!section.items.empty())
@@ -160,6 +165,8 @@ Report buildStandardMeasuresReport(const TranscriptReportContext& context,
     }
     if (anyAnalysisSetLine)
         report.footnotes.push_back(labels("RL_ITALICSNOTE2"));
+    if (pauseLine && context.somePausesUntimed)
+        report.footnotes.push_back(labels("RL_RPSOMENOTIME"));
     return report;
 }
 

@@ -65,6 +65,8 @@ TranscriptReportResult buildTranscriptReport(const SegmentedTranscript& transcri
     if (auto seconds = values("TimeSec"); seconds && !record.timingMissing)
         context.elapsedSeconds = static_cast<int>(std::lround(*seconds));
 
+    context.pausesUntimed = record.pausesUntimed;
+    context.somePausesUntimed = record.somePausesUntimed;
     result.report = request.kind == TranscriptReportKind::StandardMeasures
                         ? buildStandardMeasuresReport(context, values, request.smrVariables, labels)
                         : buildUtteranceTypesReport(context, values, labels);

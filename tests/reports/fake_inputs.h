@@ -86,6 +86,8 @@ inline std::map<std::string, std::string, std::less<>> primaryLabels() {
         {"RL_WORDBASE", "Word Base"},
         {"RL_TRANCUT", "Transcript Cut"},
         {"RL_RPMISSING", "Timing information was not provided."},
+        {"RL_RPALLNOTIME", "Pauses were not timed."},
+        {"RL_RPSOMENOTIME", "Some pauses were not timed."},
         {"RL_MINUTES", "Minutes"},
         {"RL_SECONDS", "Seconds"},
         {"RL_MAINBODY", "Main Body"},

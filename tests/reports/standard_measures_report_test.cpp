@@ -180,6 +180,28 @@ TEST(StandardMeasuresReport, SecondSpeakerMissingTimingAndDatabaseMeans) {
               "# MLU in Words:  (4.44)     5.10");
 }
 
+TEST(StandardMeasuresReport, UntimedPausesAreSaidSo) {
+    TranscriptReportContext context = sampleContext();
+    context.pausesUntimed = true;
+    SmrVariables variables;
+    variables.chosen[29] = true; // Pause Time as % of Total Time
+    Report report = buildStandardMeasuresReport(context, measureSource(sampleMeasures()), variables,
+                                                labelSource(primaryLabels()));
+    EXPECT_EQ(std::get<LabelledLine>(report.sections[0].items[0]).text(),
+              "  Pause Time as % of Total Time:  Pauses were not timed.");
+    EXPECT_TRUE(report.footnotes.empty());
+
+    context.pausesUntimed = false;
+    context.somePausesUntimed = true;
+    testing::MeasureMap values = sampleMeasures();
+    values["%PauseTime"] = 3.25;
+    report = buildStandardMeasuresReport(context, measureSource(values), variables,
+                                         labelSource(primaryLabels()));
+    EXPECT_EQ(std::get<LabelledLine>(report.sections[0].items[0]).text(),
+              "  Pause Time as % of Total Time:  3.2%");
+    EXPECT_EQ(report.footnotes, std::vector<std::string>{"Some pauses were not timed."});
+}
+
 TEST(StandardMeasuresReport, HeadingsComeFromTheLabelSlot) {
     auto labels = primaryLabels();
     labels["RL_HEADSM"] = "SINTAXIS/MORFOLOGÍA";
