@@ -14,10 +14,13 @@
 #include <thread>
 #include <vector>
 
+#include "analysis/measure_settings.h"
+#include "base/file_io.h"
 #include "base/progress.h"
 #include "base/prompter.h"
 #include "batch/batch_run.h"
 #include "batch/variable_catalogue.h"
+#include "settings/keyword_file.h"
 
 namespace {
 
@@ -106,6 +109,22 @@ public:
     bool confirm(std::string_view) override { return true; }
 };
 
+// The word lists and dictionary of the source tree's data folder, as a run
+// with the installed data would load them.
+const MeasureResources& resources() {
+    static const MeasureResources r = [] {
+        Settings settings;
+        settings.folders.sharedData = std::string(TAVI_SOURCE_DATA_DIR) + "/";
+        std::string bytes;
+        settings.standardWordListFound =
+            readFile(settings.folders.sharedData + "TaviSWL.txt", bytes);
+        settings.standardWordListLines = keywordTextLines(bytes);
+        SilentPrompter prompter;
+        return loadMeasureResources(settings, prompter);
+    }();
+    return r;
+}
+
 double peakMegabytes() {
     rusage usage{};
     getrusage(RUSAGE_SELF, &usage);
@@ -117,6 +136,7 @@ double peakMegabytes() {
 void BM_Batch(benchmark::State& state) {
     const Corpus& c = corpus();
     BatchRunOptions options;
+    resources().attach(options.measures);
     options.threads = static_cast<unsigned>(state.range(0));
     const VariableCatalogue& catalogue = VariableCatalogue::standard();
     const VariableGroup& smr = catalogue.groups()[2];
