@@ -66,6 +66,11 @@ TEST(BadInput, RandomBytesAndRandomNotation) {
         CheckResult r = checkBytes(bytes);
         for (size_t i = 1; i < r.problems.size(); ++i)
             ASSERT_LE(r.problems[i - 1].line, r.problems[i].line);
+        // Checking without keeping the words finds exactly the same problems.
+        CheckResult quick = checkText(decodeTranscript(bytes).text);
+        ASSERT_EQ(quick.problems.size(), r.problems.size());
+        for (size_t i = 0; i < r.problems.size(); ++i)
+            ASSERT_EQ(quick.problems[i].message, r.problems[i].message);
     }
 }
 
