@@ -31,6 +31,10 @@ struct ResponseType {
     bool operator==(const ResponseType&) const = default;
 };
 
+// Shown by the utterance lists when no yes/no word list is at hand.
+inline constexpr std::string_view kYesNoListMissing =
+    "Yes/no responses not determined - list not available.";
+
 // Tells whether a word (lower case, marks removed) is on the yes/no word list.
 // An empty function means the list is not available: no utterance is type Y.
 using YesNoTest = std::function<bool(std::string_view)>;
