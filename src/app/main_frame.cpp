@@ -284,6 +284,7 @@ CTAVIFrame* CMainFrame::newTranscript(const QString& text) {
     connect(doc->document(), &QTextDocument::undoAvailable, this, &CMainFrame::updateCommands);
     connect(doc->document(), &QTextDocument::redoAvailable, this, &CMainFrame::updateCommands);
     addFrame(frame);
+    applyFonts();
     if (!text.isEmpty()) {
         doc->setComposedText(text);
         frame->view().moveCursor(QTextCursor::End);
@@ -318,6 +319,7 @@ CReptFrame* CMainFrame::showReport(ReportContent content, CTAVIDoc* source) {
     connect(&frame->view(), &CReptView::contextMenuWanted, this,
             [this](QPoint at) { makeContextMenu(reportContextTable())->popup(at); });
     addFrame(frame);
+    applyFonts();
     return frame;
 }
 

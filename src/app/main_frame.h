@@ -109,6 +109,7 @@ private:
     void setupBackups();
     void setupFolder(const QString& which);
     void setupFont(int which);
+    void applyFonts();
     // Window and Help
     void closeAll(bool reportsOnly);
     void showHelpDocument(const QString& relativePath);

@@ -101,8 +101,23 @@ void CMainFrame::registerCommands() {
         });
 
     // Setup
+    on("ID_SETUP_ASET", [this] { setupAnalysisSet(); });
+    on("ID_SETUP_WBASE", [this] { setupWordBase(); });
+    on("ID_SETUP_TCUT", [this] { setupTranscriptCut(); });
+    on("ID_ANSET_MATTR", [this] { setupMovingAverage(); });
     on("ID_EDSET_BACKUP", [this] { setupBackups(); });
-    on("ID_LOC_BACKUP", [this] { setupFolder(QStringLiteral("BACKUPDIR")); });
+    const std::pair<const char*, const char*> folders[] = {
+        {"ID_LOC_TRAN", "TRANDIR"},   {"ID_LOC_REPT", "REPORTDIR"},
+        {"ID_LOC_DB", "DBASEDIR"},    {"ID_LOC_ALTDB", "ALTDBASEDIR"},
+        {"ID_LOC_LIST", "LISTDIR"},   {"ID_LOC_RIF", "HASHFILEDIR"},
+        {"ID_LOC_BATCH", "BATCHDIR"}, {"ID_LOC_BACKUP", "BACKUPDIR"}};
+    for (const auto& [id, keyword] : folders) {
+        const QString key = QString::fromLatin1(keyword);
+        on(id, [this, key] { setupFolder(key); });
+    }
+    on("ID_FONT_DISPTRAN", [this] { setupFont(0); });
+    on("ID_FONT_DISPREPT", [this] { setupFont(1); });
+    on("ID_FONT_PRT", [this] { setupFont(2); });
 
     // Window
     on(

@@ -89,7 +89,13 @@ void AppTest::answerNext() {
     lastModal_ = modal;
     auto answer = std::move(answers_.front());
     answers_.pop_front();
-    answer(modal);
+    // Answered from a timer of its own, so that dialogs the answer opens in
+    // turn can be answered by this polling timer.
+    QPointer<QWidget> target = modal;
+    QTimer::singleShot(0, [answer = std::move(answer), target] {
+        if (target)
+            answer(target);
+    });
 }
 
 void AppTest::pressOnMessage(const QString& buttonText) {
