@@ -1,9 +1,38 @@
-// The desktop program: the application state and its main frame.
+// The desktop program: the application state and its main frame. With
+// "--screenshot DIR" it opens the transcripts given, makes the Standard
+// Measures Report of the first one, writes pictures of the windows to DIR
+// and ends (tools/screenshots.sh runs it under Xvfb for the README).
 #include <QApplication>
-#include <QIcon>
+#include <QDir>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QTimer>
 
 #include "app/main_frame.h"
+#include "app/report_runner.h"
 #include "app/tavi_app.h"
+#include "app/tavi_doc.h"
+#include "app/tavi_frame.h"
+#include "app/tavi_view.h"
+
+namespace {
+
+void takeScreenshots(tavi::app::CMainFrame& frame, tavi::app::CTAVIApp& app, const QString& dir) {
+    QDir().mkpath(dir);
+    const QList<tavi::app::CTAVIFrame*> transcripts = frame.transcriptFrames();
+    if (transcripts.isEmpty())
+        return;
+    tavi::app::CTAVIDoc& doc = transcripts.front()->doc();
+    frame.grab().save(QDir(dir).filePath(QStringLiteral("transcript.png")));
+    frame.showReport(makeReport(app, tavi::app::ReportKind::StandardMeasures, doc.lines(),
+                                doc.title().toStdString(), 0),
+                     &doc);
+    frame.mdiArea().tileSubWindows();
+    QApplication::processEvents();
+    frame.grab().save(QDir(dir).filePath(QStringLiteral("report.png")));
+}
+
+} // namespace
 
 int main(int argc, char** argv) {
     QApplication qapp(argc, argv);
@@ -15,8 +44,20 @@ int main(int argc, char** argv) {
         return 1;
     tavi::app::CMainFrame frame(app);
     frame.show();
-    const QStringList args = QApplication::arguments();
-    for (qsizetype i = 1; i < args.size(); ++i)
-        frame.openTranscript(args[i]);
+    QStringList args = QApplication::arguments();
+    args.removeFirst();
+    QString screenshotDir;
+    if (args.size() >= 2 && args.front() == QLatin1String("--screenshot")) {
+        args.removeFirst();
+        screenshotDir = args.takeFirst();
+    }
+    for (const QString& file : args)
+        frame.openTranscript(file);
+    if (!screenshotDir.isEmpty()) {
+        QTimer::singleShot(500, &frame, [&] {
+            takeScreenshots(frame, app, screenshotDir);
+            QApplication::quit();
+        });
+    }
     return QApplication::exec();
 }

@@ -58,6 +58,12 @@ void CMainFrame::registerCommands() {
     on(
         "ID_EDIT_CHECK", [this] { editCheck(); }, transcript);
     on(
+        "ID_EDIT_INSERT_CODE", [this] { editInsertFromList(0); }, transcript);
+    on(
+        "ID_EDIT_INSERT_TEXT", [this] { editInsertFromList(1); }, transcript);
+    on(
+        "ID_EDIT_INSERT_SYMBOL", [this] { editInsertFromList(2); }, transcript);
+    on(
         "ID_EDIT_GOTO_ENTRY", [this] { editGoToEntry(); }, transcript);
     on(
         "ID_EDIT_UNDO", [this] { activeEditor()->undo(); },

@@ -5,6 +5,7 @@
 
 #include "app/error_list_dialog.h"
 #include "app/find_replace_dialog.h"
+#include "app/insert_list_dialog.h"
 #include "app/main_frame.h"
 #include "app/tavi_app.h"
 #include "app/tavi_doc.h"
@@ -68,6 +69,27 @@ bool CMainFrame::acceptErrors(CTAVIFrame& frame) {
                      frame.doc().title().toStdString().c_str()));
     CErrorListDialog dialog(frame.view(), problems, question, this);
     return dialog.exec() == QDialog::Accepted;
+}
+
+} // namespace tavi::app
+
+namespace tavi::app {
+
+// Insert Code, Insert Text and Insert Symbol: the chosen entry of the current
+// list is typed at the caret.
+void CMainFrame::editInsertFromList(int kind) {
+    static const char* const titles[] = {"Insert Code", "Insert Text", "Insert Symbol"};
+    std::vector<InsertEntry> entries =
+        currentInsertList(app_.settings(), static_cast<InsertKind>(kind));
+    if (entries.empty()) {
+        app_.prompter().inform("The current list is empty - see Setup menu --> Lists");
+        return;
+    }
+    CInsertListDialog dialog(QString::fromLatin1(titles[kind]), std::move(entries), this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    if (QPlainTextEdit* editor = activeEditor(); editor && !dialog.chosenText().isEmpty())
+        editor->insertPlainText(dialog.chosenText());
 }
 
 } // namespace tavi::app
