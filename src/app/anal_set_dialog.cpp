@@ -8,7 +8,7 @@
 #include <QLineEdit>
 #include <QVBoxLayout>
 
-#include "app/code_list_check.h"
+#include "analysis/code_lists.h"
 #include "app/tavi_app.h"
 #include "settings/section_lines.h"
 #include "settings/section_save.h"
@@ -101,7 +101,7 @@ std::string_view CAnalSetDialog::saveQuestion() const {
 
 bool CAnalSetDialog::validateCodes(const char* suffix) {
     for (QLineEdit* box : {excludeCodes_, includeCodes_}) {
-        if (isLegalCodeList(box->text().toStdString()))
+        if (isValidCodeList(box->text().toStdString()))
             continue;
         app().prompter().inform(std::string("Error: illegal code specification") + suffix);
         box->setFocus();

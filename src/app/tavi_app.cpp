@@ -46,6 +46,12 @@ LabelSource CTAVIApp::labelSource() const {
         [this](std::string_view key) { return settings_.labels.get(LanguageSlot::Primary, key); };
 }
 
+const MeasureResources& CTAVIApp::measureResources() {
+    if (!resources_)
+        resources_ = loadMeasureResources(settings_, prompter_);
+    return *resources_;
+}
+
 void CTAVIApp::addRecentFile(const QString& path) {
     const QString absolute = QFileInfo(path).absoluteFilePath();
     recent_.removeAll(absolute);

@@ -5,8 +5,10 @@
 
 #include <QString>
 #include <QStringList>
+#include <optional>
 #include <vector>
 
+#include "analysis/measure_settings.h"
 #include "app/qt_prompter.h"
 #include "reports/labels.h"
 #include "reports/report.h"
@@ -47,6 +49,8 @@ public:
 
     ReportSaveState reportSave;
     LabelSource labelSource() const;
+    // The word lists and dictionary, loaded at the first analysis.
+    const MeasureResources& measureResources();
     SmrVariables smrVariables = SmrVariables::defaults();
     int reportSpeaker = 0; // 0 the 1st speaker, 1 the 2nd
 
@@ -62,6 +66,7 @@ private:
     QtPrompter prompter_;
     Settings settings_;
     bool ok_ = false;
+    std::optional<MeasureResources> resources_;
     QStringList recent_;
 };
 

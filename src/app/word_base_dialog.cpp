@@ -9,7 +9,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-#include "app/code_list_check.h"
+#include "analysis/code_lists.h"
 #include "app/tavi_app.h"
 #include "settings/section_lines.h"
 #include "settings/section_save.h"
@@ -82,7 +82,7 @@ std::string_view CWordBaseDialog::saveQuestion() const {
 }
 
 bool CWordBaseDialog::validateCodes(const char* suffix) {
-    if (isLegalCodeList(codes_->text().toStdString()))
+    if (isValidCodeList(codes_->text().toStdString()))
         return true;
     app().prompter().inform(std::string("Error: illegal word code specification") + suffix);
     codes_->setFocus();

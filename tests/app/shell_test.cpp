@@ -1,11 +1,16 @@
 // The main frame's menus, context menus and transcript windows, driven
 // through the real actions and dialogs.
 #include <QFile>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTest>
+#include <QTextBlock>
 
+#include "app/find_replace_dialog.h"
+#include "app/insert_list_dialog.h"
 #include "app/new_transcript_dialog.h"
 #include "app/tavi_doc.h"
 #include "app/tavi_frame.h"
@@ -187,6 +192,42 @@ TEST_F(ShellTest, HelpShowsTheReadmeAndWindowMenuClosesReportsOnly) {
     run("ID_WINDOW_CLOSE_ALL");
     QApplication::processEvents();
     EXPECT_TRUE(frame->mdiArea().subWindowList().isEmpty());
+}
+
+} // namespace
+} // namespace tavi::app::test
+
+namespace tavi::app::test {
+namespace {
+
+TEST_F(ShellTest, InsertSymbolFindReplaceAndGoToEntryEditTheTranscript) {
+    CTAVIFrame* f = frame->openTranscript(dataFile("park.tvi"));
+    ASSERT_NE(f, nullptr);
+    f->view().goToLine(9);
+    EXPECT_EQ(f->view().textCursor().blockNumber(), 8);
+    f->view().moveCursor(QTextCursor::EndOfBlock);
+    whenModal([](QWidget* w) {
+        auto* dialog = qobject_cast<CInsertListDialog*>(w);
+        ASSERT_NE(dialog, nullptr);
+        EXPECT_EQ(dialog->windowTitle(), "Insert Symbol");
+        const auto found = dialog->list().findItems("~", Qt::MatchStartsWith);
+        ASSERT_FALSE(found.isEmpty());
+        dialog->list().setCurrentItem(found.front());
+        dialog->accept();
+    });
+    run("ID_EDIT_INSERT_SYMBOL");
+    EXPECT_EQ(f->doc().document()->findBlockByNumber(8).text(), "E Did you go with your dad?~");
+
+    run("ID_EDIT_FIND_REPLACE");
+    auto* find = frame->findChild<CFindReplaceDialog*>();
+    ASSERT_NE(find, nullptr);
+    find->findChild<QLineEdit*>("findText")->setText("swing");
+    find->findChild<QLineEdit*>("replaceText")->setText("slide");
+    EXPECT_EQ(find->replaceAll(), 1);
+    EXPECT_TRUE(f->doc().document()->toPlainText().contains("on the slide."));
+    f->view().undo();
+    EXPECT_TRUE(f->doc().document()->toPlainText().contains("on the swing."));
+    find->close();
 }
 
 } // namespace
