@@ -30,7 +30,8 @@ namespace {
 using namespace tavi;
 
 // Writes the report in the format of the file's extension; "" or a message.
-std::string writeReport(const Report& report, const std::filesystem::path& path) {
+std::string writeReport(const Report& report, const std::filesystem::path& path,
+                        const Settings& settings) {
     const std::string ext = toLowerAscii(path.extension().string());
     auto bytes = [&](std::string text) -> std::string {
         switch (writeFileAtomic(path, text)) {
@@ -54,8 +55,14 @@ std::string writeReport(const Report& report, const std::filesystem::path& path)
     if (ext == ".tsv")
         return saveGrid(reportGrid(report), GridFormat::Tsv, path);
 #ifdef TAVI_HAVE_QT
-    if (ext == ".pdf")
-        return qt::saveReportPdf(report, path);
+    if (ext == ".pdf") {
+        qt::PdfPageSetup setup; // the report printing font of the settings
+        if (!settings.printFont.faceName.empty())
+            setup.fontFamily = settings.printFont.faceName;
+        if (settings.printFont.height > 0)
+            setup.bodyPoints = settings.printFont.height;
+        return qt::saveReportPdf(report, path, setup);
+    }
 #endif
     return "unknown report format " + ext + " (use .txt, .rtf, .pdf, .html, .csv or .tsv)";
 }
@@ -124,7 +131,7 @@ int run(cli::CommandContext& ctx) {
         ctx.out << reportToText(result.report);
         return cli::kExitOk;
     }
-    if (std::string problem = writeReport(result.report, *output); !problem.empty()) {
+    if (std::string problem = writeReport(result.report, *output, settings); !problem.empty()) {
         ctx.err << "tavi report: " << *output << ": " << problem << '\n';
         return problem.rfind("unknown", 0) == 0 ? cli::kExitUsage : cli::kExitFailed;
     }

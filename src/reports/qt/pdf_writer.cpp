@@ -28,9 +28,17 @@ QString qs(const std::string& text) {
     return QString::fromStdString(text);
 }
 
-QFont font(qreal points, bool bold = false, bool italic = false) {
-    QFont f(QStringLiteral("DejaVu Sans"));
-    f.setPointSizeF(points);
+// Fonts of one rendering: the setup's family, sizes scaled from the layout's
+// 9.5-point body text to the setup's body size.
+struct FontMaker {
+    QString family;
+    qreal scale = 1;
+    QFont operator()(qreal points, bool bold = false, bool italic = false) const;
+};
+
+QFont FontMaker::operator()(qreal points, bool bold, bool italic) const {
+    QFont f(family);
+    f.setPointSizeF(points * scale);
     f.setBold(bold);
     f.setItalic(italic);
     return f;
@@ -50,8 +58,8 @@ struct Page {
 
 class ReportLayout {
 public:
-    ReportLayout(QPdfWriter& writer, const PdfPageSetup& setup)
-        : writer_(writer), left_(mm(setup.marginMm)),
+    ReportLayout(QPdfWriter& writer, const PdfPageSetup& setup, FontMaker font)
+        : writer_(writer), font(std::move(font)), left_(mm(setup.marginMm)),
           width_(writer.width() - 2 * mm(setup.marginMm)) {}
 
     std::vector<Block> blocks(const Report& report) const;
@@ -71,6 +79,7 @@ private:
                  std::vector<Block>& out) const;
 
     QPdfWriter& writer_;
+    FontMaker font;
     qreal left_;
     qreal width_;
 };
@@ -104,7 +113,7 @@ void ReportLayout::addHeader(const Report& report, std::vector<Block>& out) cons
     const qreal labelWidth = width_ * 0.3;
     for (size_t i = 0; i < report.header.size(); ++i) {
         const LabelledLine& line = report.header[i];
-        const qreal before = i == 0 ? mm(3) : 0;
+        const qreal before = i == 0 ? mm(2) : 0;
         if (line.label.empty()) {
             addText(line.value, font(11, true), kInk, before, out);
             continue;
@@ -221,7 +230,7 @@ std::vector<Block> ReportLayout::blocks(const Report& report) const {
         }
     }
     for (size_t i = 0; i < report.footnotes.size(); ++i)
-        addText(report.footnotes[i], font(9, false, true), kInk, i == 0 ? mm(6) : 0, out);
+        addText(report.footnotes[i], font(9, false, true), kInk, i == 0 ? mm(3) : 0, out);
     return out;
 }
 
@@ -247,8 +256,8 @@ std::vector<Page> paginate(const std::vector<Block>& blocks, qreal top, qreal bo
     return pages;
 }
 
-void drawFooter(QPainter& p, const std::string& title, int page, int pages, qreal left, qreal width,
-                qreal top) {
+void drawFooter(QPainter& p, const FontMaker& font, const std::string& title, int page, int pages,
+                qreal left, qreal width, qreal top) {
     const QFont f = font(8);
     const qreal h = QFontMetricsF(f, p.device()).height() * 1.4;
     p.setPen(QPen(kRule, mm(0.3)));
@@ -284,18 +293,19 @@ std::string reportsToPdf(const std::vector<const Report*>& reports, const PdfPag
         QPainter painter(&writer);
         const qreal margin = mm(setup.marginMm);
         const qreal footerTop = writer.height() - margin;
-        ReportLayout layout(writer, setup);
+        const FontMaker fonts{qs(setup.fontFamily), setup.bodyPoints / 9.5};
+        ReportLayout layout(writer, setup, fonts);
         bool firstPage = true;
         for (const Report* report : reports) {
             const std::vector<Block> blocks = layout.blocks(*report);
-            const std::vector<Page> pages = paginate(blocks, margin, footerTop - mm(4));
+            const std::vector<Page> pages = paginate(blocks, margin, footerTop - mm(2));
             for (size_t n = 0; n < pages.size(); ++n) {
                 if (!firstPage)
                     writer.newPage();
                 firstPage = false;
                 for (const auto& [block, y] : pages[n].placed)
                     block->draw(painter, y);
-                drawFooter(painter, footerTitle(*report), static_cast<int>(n + 1),
+                drawFooter(painter, fonts, footerTitle(*report), static_cast<int>(n + 1),
                            static_cast<int>(pages.size()), margin, writer.width() - 2 * margin,
                            footerTop);
             }

@@ -16,6 +16,8 @@ struct PdfPageSetup {
     double widthMm = 215.9; // US Letter
     double heightMm = 279.4;
     double marginMm = 15.0;
+    std::string fontFamily = "DejaVu Sans"; // the report printing font ("PRTREPTFONT")
+    double bodyPoints = 9.5;                // size of the body text; headings scale with it
 };
 
 // The PDF bytes of the reports, each starting on a new page and numbering its
