@@ -40,6 +40,59 @@ TEST(LabelKeys, FixedOrderWithBuiltInTextForEveryKey) {
     EXPECT_EQ(labelIndex("rl_age"), std::nullopt);
 }
 
+TEST(LabelKeys, BuiltInTextsOfTheStandardMeasuresReport) {
+    // The report prints these labels as they stand (section titles, line labels,
+    // the legend); the moving averages and turn lengths are built from two labels.
+    const std::vector<std::pair<std::string_view, std::string_view>> expected = {
+        {"RL_HEADTL", "TRANSCRIPT LENGTH"},
+        {"RL_HEADINT", "INTELLIGIBILITY"},
+        {"RL_MACROANAL", "MACRO ANALYSIS"},
+        {"RL_HEADSM", "SYNTAX/MORPHOLOGY"},
+        {"RL_HEADSEM", "SEMANTICS"},
+        {"RL_HEADDC", "DISCOURSE"},
+        {"RL_VERBFAC", "VERBAL FACILITY"},
+        {"RL_NUMUTTT", "Total Utterances"},
+        {"RL_NUMUTTA", "Analysis Set Utterances"},
+        {"RL_ALLWDSINCLMZ", "All Words Including Mazes"},
+        {"RL_TIMEMIN", "Elapsed Time (minutes)"},
+        {"RL_PCINTEL", "% Intelligible Utterances"},
+        {"RL_PCINTELWDS", "% Intelligible Words"},
+        {"RL_NSSSCORE", "NSS Composite Score"},
+        {"RL_ESSSCORE", "ESS Composite Score"},
+        {"RL_PSSSCORE", "PSS Composite Score"},
+        {"RL_HCONQ", "Oral Narrative Quality"},
+        {"RL_ONC", "Oral Narrative Comprehension"},
+        {"RL_MLUW", "MLU in Words"},
+        {"RL_MLUM", "MLU in Morphemes"},
+        {"RL_GCPCVERBS", "% Utterances with Verbs"},
+        {"RL_GCVERBS", "Mean Verbs/Utterance"},
+        {"RL_PCNMFC", "% Utts with Nonmainstream Forms"},
+        {"RL_SISCORE", "SI Composite Score"},
+        {"RL_NTW", "Number Total Words (NTW)"},
+        {"RL_NDW", "Number Different Words (NDW)"},
+        {"RL_PCRQU", "% Responses to Questions"},
+        {"RL_PCULOV", "% Utts with Overlapping Speech"},
+        {"RL_PCINTROS", "% Utts Interrupted Other Speaker"},
+        {"RL_RPWDPERMIN", "Words/Minute"},
+        {"RL_PCPZTIME", "Pause Time as % of Total Time"},
+        {"RL_MZWDSPCTOT", "Maze Words as % of Total Words"},
+        {"RL_PCABANUTT", "% Abandoned Utterances"},
+        {"RL_PCERRORS", "% Utterances with Errors"},
+        {"RL_ITALICSNOTE2", "# Calculations based on current analysis set"},
+        {"RL_SMRTITLE", "Standard Measures Report"},
+        {"RL_SOFUTTYPE", "Summary of Utterance Types"},
+    };
+    for (auto [key, text] : expected)
+        EXPECT_EQ(builtInLabel(*labelIndex(key)), text) << key;
+    auto joined = [](std::string_view a, std::string_view b) {
+        return std::string(builtInLabel(*labelIndex(a))) + " " +
+               std::string(builtInLabel(*labelIndex(b)));
+    };
+    EXPECT_EQ(joined("RL_MOVEAVE", "RL_TTRINITIALS"), "Moving-Average TTR");
+    EXPECT_EQ(joined("RL_MEAN", "RL_DCTLU"), "Mean Turn Length (utterances)");
+    EXPECT_EQ(joined("RL_MEAN", "RL_DCTLW"), "Mean Turn Length (words)");
+}
+
 TEST(LabelTable, ResetFillsPrimaryOnlyAndLookupFallsBackToPrimary) {
     LabelTable table;
     EXPECT_EQ(table.text(LanguageSlot::Primary, *labelIndex("RL_AGE")), "age");
