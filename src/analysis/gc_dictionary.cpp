@@ -108,17 +108,10 @@ bool hasEnding(std::string_view s, std::string_view end) {
 }
 
 std::vector<int> guessFromForm(const Word& w) {
-    for (const std::string& m : w.boundMorphemes) {
-        int group = boundMorphemeGroup(m); // "/ED", "/EN", "/3S", "/ING"
-        if (group == 2 || group == 3 || group == 4 || group == 5)
-            return {GcVerb};
-    }
-    std::string r = toLowerAscii(w.root);
-    if (hasEnding(r, "ly"))
-        return {GcAverb};
-    if (hasEnding(r, "ing") || hasEnding(r, "ed"))
-        return {GcVerb};
-    return {GcNoun};
+    unsigned groups = 0;
+    for (const std::string& m : w.boundMorphemes)
+        groups |= 1u << boundMorphemeGroup(m);
+    return guessCategories(toLowerAscii(w.root), groups);
 }
 
 } // namespace
@@ -143,6 +136,18 @@ std::vector<int> wordCategories(const Word& w, const GcDictionary* dictionary) {
         if (std::vector<int> cats = dictionaryCategories(w.root, *dictionary); !cats.empty())
             return cats;
     return guessFromForm(w);
+}
+
+std::vector<int> guessCategories(std::string_view r, unsigned groups) {
+    constexpr unsigned kVerbEndings =
+        1u << 2 | 1u << 3 | 1u << 4 | 1u << 5; // "/ED" "/EN" "/3S" "/ING"
+    if (groups & kVerbEndings)
+        return {GcVerb};
+    if (hasEnding(r, "ly"))
+        return {GcAverb};
+    if (hasEnding(r, "ing") || hasEnding(r, "ed"))
+        return {GcVerb};
+    return {GcNoun};
 }
 
 std::vector<int> guessCategories(const Word& w) {

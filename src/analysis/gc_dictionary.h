@@ -64,5 +64,11 @@ std::vector<int> wordCategories(const Word& word, const GcDictionary* dictionary
 // when there is none) and the guess from the word's form.
 std::vector<int> dictionaryCategories(std::string_view root, const GcDictionary& dictionary);
 std::vector<int> guessCategories(const Word& word);
+// The guess from a root in lower case and the bound-morpheme groups
+// (bit g for group g of kBoundMorphemeGroups) of the word's endings.
+std::vector<int> guessCategories(std::string_view lowerRoot, unsigned endingGroups);
+
+// The group of contracted verb forms ("/'S", "/'LL" ...) in kBoundMorphemeGroups.
+inline constexpr int kContractedVerbGroup = 7;
 
 } // namespace tavi

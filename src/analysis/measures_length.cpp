@@ -78,9 +78,7 @@ void fillBoundMorphemes(const SpeakerView& v, SpeakerMeasures& m) {
     for (int i : v.analysisSet) {
         bound += v.facts(i).boundMorphemes;
         clitics += v.facts(i).clitics;
-        for (const Word* w : v.facts(i).words)
-            for (const std::string& e : w->boundMorphemes)
-                endings.insert(toLowerAscii(e));
+        endings.insert(v.facts(i).endings.begin(), v.facts(i).endings.end());
     }
     m[Id::BoundMorphs] = Value::count(bound);
     m[Id::BoundClitics] = Value::count(clitics);

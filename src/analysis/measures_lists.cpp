@@ -2,6 +2,7 @@
 // verb measures that read the categories.
 #include <algorithm>
 #include <cstdint>
+#include <optional>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -17,8 +18,6 @@ namespace tavi {
 namespace {
 
 using Id = MeasureId;
-
-constexpr int kContractedVerbGroup = 7; // "/'LL,/'M,/'D,/'RE,/'S,..."
 
 // Counts of several lists or categories, with the words each has seen.
 template <size_t N> struct Tally {
@@ -36,14 +35,19 @@ template <size_t N> struct Tally {
 };
 
 // The words of an utterance in the word-list area, as surface forms and roots.
-void areaWords(const SpeakerView& v, int i, WordArea area, std::vector<std::string>& forms,
-               std::vector<std::string>& roots) {
+// The words of an utterance in the word-list area, as surface forms and
+// roots; the main body's come straight from the facts, others are built in
+// `forms` and `roots`.
+struct AreaWords {
+    const std::vector<std::string>* forms;
+    const std::vector<std::string>* roots;
+};
+
+AreaWords areaWords(const SpeakerView& v, int i, WordArea area, std::vector<std::string>& forms,
+                    std::vector<std::string>& roots) {
     const UtteranceFacts& f = v.facts(i);
-    if (area == WordArea::MainBody) {
-        forms = f.forms;
-        roots.assign(f.roots.begin(), f.roots.begin() + static_cast<long>(f.words.size()));
-        return;
-    }
+    if (area == WordArea::MainBody)
+        return {&f.forms, &f.roots};
     forms.clear();
     roots.clear();
     for (const Word& w : v.utt(i).words) {
@@ -54,6 +58,7 @@ void areaWords(const SpeakerView& v, int i, WordArea area, std::vector<std::stri
             roots.push_back(rootKey(w));
         }
     }
+    return {&forms, &roots};
 }
 
 bool phraseMatchesAt(const WordListEntry& e, const std::vector<std::string>& forms, size_t at) {
@@ -81,15 +86,6 @@ bool isVerbCategory(int c) {
     return c == GcVerb || c == GcCop || c == GcAxMod || c == GcAxOp;
 }
 
-// Verbs in one word: its own (by its most likely category) plus each
-// contracted verb form it carries ("he/'s", "I/'ll").
-int verbsIn(const Word& w, const std::vector<int>& cats) {
-    int n = !cats.empty() && isVerbCategory(cats.front()) ? 1 : 0;
-    for (const std::string& e : w.boundMorphemes)
-        n += boundMorphemeGroup(e) == kContractedVerbGroup ? 1 : 0;
-    return n;
-}
-
 } // namespace
 
 void fillWordLists(const SpeakerView& v, SpeakerMeasures& m) {
@@ -100,17 +96,18 @@ void fillWordLists(const SpeakerView& v, SpeakerMeasures& m) {
     std::vector<std::string> forms, roots;
     Tally<kWordListKinds> tally{m.wordLists};
     for (int i : o.wordListsOnAnalysisSet ? v.analysisSet : v.total) {
-        areaWords(v, i, o.wordListArea, forms, roots);
-        for (size_t k = 0; k < forms.size(); ++k) {
-            std::vector<int> kinds = o.wordLists->kindsOf(set, forms[k]);
-            if (roots[k] != forms[k])
-                for (int kind : o.wordLists->kindsOf(set, roots[k]))
-                    if (std::find(kinds.begin(), kinds.end(), kind) == kinds.end())
-                        kinds.push_back(kind);
-            for (int kind : kinds)
-                tally.add(kind, forms[k]);
+        const AreaWords words = areaWords(v, i, o.wordListArea, forms, roots);
+        const std::vector<std::string>& form = *words.forms;
+        for (size_t k = 0; k < form.size(); ++k) {
+            const std::string& root = (*words.roots)[k];
+            std::uint32_t kinds = o.wordLists->kindMask(set, form[k]);
+            if (root != form[k])
+                kinds |= o.wordLists->kindMask(set, root);
+            for (int kind = 0; kinds != 0; ++kind, kinds >>= 1)
+                if (kinds & 1u)
+                    tally.add(kind, form[k]);
         }
-        countPhrases(*o.wordLists, set, forms, tally);
+        countPhrases(*o.wordLists, set, form, tally);
     }
     for (int k = 0; k < kWordListKinds; ++k) {
         m[*measureIdByName(kStandardWordLists[k].totalColumn)] = Value::count(m.wordLists[k].total);
@@ -122,34 +119,36 @@ void fillCategoriesAndVerbs(const SpeakerView& v, SpeakerMeasures& m) {
     const GcDictionary* dictionary = v.c.options.dictionary;
     if (!dictionary)
         return;
+    const size_t roots = static_cast<size_t>(v.c.rootIds.size());
     int verbs = 0, uttsWithVerb = 0;
-    // Per root number, one bit per category in which the root was counted.
-    std::vector<std::uint32_t> counted(static_cast<size_t>(v.c.rootIds.size()), 0);
-    std::unordered_map<std::string, std::vector<int>> known; // dictionary entries by root
+    // Per root number: one bit per category in which the root was counted,
+    // and the dictionary's entry, looked up once (by the root as first written).
+    std::vector<std::uint32_t> counted(roots, 0);
+    std::vector<std::optional<std::vector<int>>> entries(roots);
     for (int i : v.analysisSet) {
         int here = 0;
         const UtteranceFacts& f = v.facts(i);
         for (size_t k = 0; k < f.words.size(); ++k) {
-            const Word* w = f.words[k];
-            if (isSkippedCategoryToken(w->text))
+            const WordTraits& t = f.traits[k];
+            if (t.skipped)
                 continue;
-            auto it = known.find(w->root);
-            if (it == known.end())
-                it = known.emplace(w->root, dictionaryCategories(w->root, *dictionary)).first;
+            const int id = f.rootIds[k];
+            if (!entries[id])
+                entries[id] = dictionaryCategories(f.words[k]->root, *dictionary);
             std::vector<int> guessed;
-            if (it->second.empty())
-                guessed = guessCategories(*w);
-            const std::vector<int>& cats = it->second.empty() ? guessed : it->second;
+            if (entries[id]->empty())
+                guessed = guessCategories(f.roots[k], t.endingGroups);
+            const std::vector<int>& cats = entries[id]->empty() ? guessed : *entries[id];
             for (int c : cats) {
                 WordCount& count = m.categories[c];
                 ++count.total;
-                if (!(counted[f.rootIds[k]] & (1u << c))) {
-                    counted[f.rootIds[k]] |= 1u << c;
+                if (!(counted[id] & (1u << c))) {
+                    counted[id] |= 1u << c;
                     ++count.types;
                     count.words.push_back(f.roots[k]);
                 }
             }
-            here += verbsIn(*w, cats);
+            here += (!cats.empty() && isVerbCategory(cats.front()) ? 1 : 0) + t.contractedVerbs;
         }
         verbs += here;
         uttsWithVerb += here > 0 ? 1 : 0;

@@ -131,34 +131,36 @@ void fillCodesAndErrors(const SpeakerView& v, SpeakerMeasures& m) {
 }
 
 void fillUtteranceLists(const SpeakerView& v, SpeakerMeasures& m) {
-    auto list = [&](int key, auto pred) {
-        for (int i : v.total)
-            if (pred(v.utt(i), v.response(i), v.facts(i)))
-                m.utteranceLists[key].push_back(i);
-    };
-    using U = const Utterance&;
-    using R = const ResponseType&;
-    using F = const UtteranceFacts&;
-    list(0, [](U, R r, F) { return r.question || r.prompt; });
-    list(1, [](U, R r, F) { return r.imitation; });
-    list(2, [](U, R r, F) { return !r.question && !r.prompt && !r.imitation; });
-    list(3, [](U, R r, F) { return r.oneWord; });
-    list(4, [](U u, R, F) { return u.intelligibility != Intelligibility::Intelligible; });
-    list(5, [](U u, R, F) { return !u.pauses.empty(); });
-    list(6, [](U, R, F f) { return f.hasOmission(); });
-    list(7, [](U u, R, F) { return !u.parentheticals.empty(); });
-    list(8, [](U u, R, F) { return u.hasComment; });
-    list(9, [](U u, R, F) { return u.hasQuotation; });
-    list(10, [](U u, R, F) { return !u.codes.empty(); });
-    list(11, [](U, R, F f) { return f.errors.total() > 0; });
-    list(12, [](U, R, F f) { return f.fluency.total() > 0; });
-    list(13, [](U, R, F f) { return f.nonmainstream.total() > 0; });
-    list(14, [](U, R, F f) { return f.codeSwitch.total() > 0; });
-    const Terminator terms[] = {Terminator::Statement, Terminator::Exclamation,
-                                Terminator::Question,  Terminator::Prompt,
-                                Terminator::Abandoned, Terminator::Interrupted};
-    for (int k = 0; k < 6; ++k)
-        list(15 + k, [t = terms[k]](U u, R, F) { return u.terminator == t; });
+    for (int i : v.total) {
+        const Utterance& u = v.utt(i);
+        const ResponseType& r = v.response(i);
+        const UtteranceFacts& f = v.facts(i);
+        const bool in[kUtteranceLists] = {r.question || r.prompt,                   // PRIP
+                                          r.imitation,                              // PIMIT
+                                          !r.question && !r.prompt && !r.imitation, // PSPON
+                                          r.oneWord,                                // PONEWD
+                                          u.intelligibility !=
+                                              Intelligibility::Intelligible,        // PUNI
+                                          !u.pauses.empty(),                        // PPAUS
+                                          f.hasOmission(),                          // POMIT
+                                          !u.parentheticals.empty(),                // PPAREN
+                                          u.hasComment,                             // PCOMMENT
+                                          u.hasQuotation,                           // PDIAL
+                                          !u.codes.empty(),                         // PCODE
+                                          f.errors.total() > 0,                     // PECODE
+                                          f.fluency.total() > 0,                    // PFLCODE
+                                          f.nonmainstream.total() > 0,              // PNMCODE
+                                          f.codeSwitch.total() > 0,                 // PCSCODE
+                                          u.terminator == Terminator::Statement,    // PSTMT
+                                          u.terminator == Terminator::Exclamation,  // PEXMK
+                                          u.terminator == Terminator::Question,     // PQUES
+                                          u.terminator == Terminator::Prompt,       // PPRMT
+                                          u.terminator == Terminator::Abandoned,    // PABAN
+                                          u.terminator == Terminator::Interrupted}; // PINTR
+        for (int k = 0; k < kUtteranceLists; ++k)
+            if (in[k])
+                m.utteranceLists[k].push_back(i);
+    }
 }
 
 } // namespace tavi

@@ -1,7 +1,10 @@
 // One pass over an utterance's words and codes.
 #include "analysis/utterance_facts.h"
 
+#include "analysis/gc_dictionary.h"
 #include "analysis/word_forms.h"
+#include "base/text.h"
+#include "transcript/bound_morphemes.h"
 
 namespace tavi {
 
@@ -27,6 +30,17 @@ void addParentheticalWords(const Utterance& u, UtteranceFacts& f) {
             f.roots.push_back(rootKey(w));
 }
 
+WordTraits traitsOf(const Word& w) {
+    WordTraits t;
+    for (const std::string& e : w.boundMorphemes) {
+        int group = boundMorphemeGroup(e);
+        t.endingGroups |= static_cast<std::uint16_t>(1u << group);
+        t.contractedVerbs += group == kContractedVerbGroup ? 1 : 0;
+    }
+    t.skipped = isSkippedCategoryToken(w.text);
+    return t;
+}
+
 void tallyCodes(const Utterance& u, const CodeMatchers& m, UtteranceFacts& f) {
     for (const Code& c : u.codes) {
         bool onWord = c.word >= 0;
@@ -48,6 +62,10 @@ void tallyCodes(const Utterance& u, const CodeMatchers& m, UtteranceFacts& f) {
 UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeMatchers& m,
                            RootIds& ids) {
     UtteranceFacts f;
+    f.words.reserve(u.words.size());
+    f.traits.reserve(u.words.size());
+    f.forms.reserve(u.words.size());
+    f.roots.reserve(u.words.size());
     f.overlap = u.hasOverlap;
     for (const Word& w : u.words) {
         f.overlap = f.overlap || w.inOverlap;
@@ -70,6 +88,9 @@ UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeM
         if (!passesWordBase(u, w, base, m.wordBase))
             continue;
         f.words.push_back(&w);
+        f.traits.push_back(traitsOf(w));
+        for (const std::string& e : w.boundMorphemes)
+            f.endings.push_back(toLowerAscii(e));
         f.forms.push_back(surfaceForm(w));
         f.roots.push_back(rootKey(w));
         f.morphemes += morphemeCount(w);

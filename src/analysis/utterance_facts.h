@@ -2,6 +2,7 @@
 // over its words and codes under the word base and the code lists.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -25,12 +26,22 @@ struct CodeTally {
     int total() const { return onWords + onUtterance; }
 };
 
+// What the category and verb counts need of a counted word, kept beside it so
+// those counts need not reach back into the word record.
+struct WordTraits {
+    std::uint16_t endingGroups = 0;   // bit g set: a present bound morpheme of group g
+    std::uint8_t contractedVerbs = 0; // present endings of the contracted verb form group
+    bool skipped = false;             // the category count skips the token
+};
+
 struct UtteranceFacts {
-    std::vector<const Word*> words; // counted main-body words, in order
-    std::vector<std::string> forms; // their surface forms (word_forms.h)
-    std::vector<std::string> roots; // their roots, then those of counted parenthetical words
-    std::vector<int> rootIds;       // the roots' numbers (RootIds)
-    int wordCount = 0;              // roots.size()
+    std::vector<const Word*> words;   // counted main-body words, in order
+    std::vector<WordTraits> traits;   // theirs, in the same order
+    std::vector<std::string> endings; // their bound morphemes, in lower case
+    std::vector<std::string> forms;   // their surface forms (word_forms.h)
+    std::vector<std::string> roots;   // their roots, then those of counted parenthetical words
+    std::vector<int> rootIds;         // the roots' numbers (RootIds)
+    int wordCount = 0;                // roots.size()
     int morphemes = 0;
     int mazeWords = 0;
     int unintelligibleMarks = 0; // main-body "X", "XX", "XXX"

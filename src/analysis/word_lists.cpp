@@ -123,6 +123,19 @@ std::vector<int> StandardWordLists::kindsOf(int set, std::string_view word) cons
     return kinds;
 }
 
+std::uint32_t StandardWordLists::kindMask(int set, std::string_view word) const {
+    std::uint32_t mask = 0;
+    const Index& ix = index_[set];
+    auto it = std::lower_bound(ix.exact.begin(), ix.exact.end(), word,
+                               [](const auto& e, std::string_view w) { return e.first < w; });
+    for (; it != ix.exact.end() && it->first == word; ++it)
+        mask |= 1u << it->second;
+    for (const auto& [prefix, kind] : ix.prefixes)
+        if (word.substr(0, prefix.size()) == prefix)
+            mask |= 1u << kind;
+    return mask;
+}
+
 bool StandardWordLists::contains(int set, int kind, std::string_view word) const {
     std::vector<int> kinds = kindsOf(set, word);
     return std::find(kinds.begin(), kinds.end(), kind) != kinds.end();

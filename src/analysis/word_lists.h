@@ -10,6 +10,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -75,6 +76,8 @@ public:
     bool contains(int set, int kind, std::string_view word) const;
     // The kinds whose one-word entries match the word, each once, ascending.
     std::vector<int> kindsOf(int set, std::string_view word) const;
+    // The same as bits: bit k set when kind k matches.
+    std::uint32_t kindMask(int set, std::string_view word) const;
     // The phrase entries of a set, with their kinds.
     const std::vector<std::pair<int, WordListEntry>>& phrases(int set) const {
         return index_[set].phrases;
