@@ -351,10 +351,72 @@ POS_CODE = {"n": "NOUN", "v": "VERB", "a": "ADJ", "s": "ADJ", "r": "AVERB"}
 SS_TYPE_POS = {"1": "n", "2": "v", "3": "a", "4": "r", "5": "a"}
 KEEP_RATIO = 0.1  # a category needs a tenth of the word's best count
 
+# WordNet's tagged counts come from adult texts, where "bear" is mostly a verb.
+# Children talk about bears: these words are nouns first in their speech.
+NOUN_FIRST = {"bear", "duck", "crow", "bat", "seal", "squash", "pepper", "pooch", "nail", "train",
+              "present"}
 
-def parse_closed():
+# Open-class words children use that WordNet lacks or lists only with a capital.
+EXTRA_OPEN = """
+else AVERB
+crunchy ADJ
+superhero NOUN
+superheroes NOUN
+sandcastle NOUN
+sandcastles NOUN
+backflip NOUN
+backflips NOUN
+bandaid NOUN
+bandaids NOUN
+babysit VERB
+babysits VERB
+babysat VERB
+babysitting VERB
+horsie NOUN
+horsies NOUN
+doggie NOUN
+doggies NOUN
+kitty NOUN
+kitties NOUN
+binky NOUN
+boohoo INTJ
+phew INTJ
+monday NOUN
+tuesday NOUN
+wednesday NOUN
+thursday NOUN
+friday NOUN
+saturday NOUN
+sunday NOUN
+mondays NOUN
+tuesdays NOUN
+wednesdays NOUN
+thursdays NOUN
+fridays NOUN
+saturdays NOUN
+sundays NOUN
+january NOUN
+february NOUN
+april NOUN
+june NOUN
+july NOUN
+september NOUN
+october NOUN
+november NOUN
+december NOUN
+christmas NOUN
+halloween NOUN
+easter NOUN
+thanksgiving NOUN
+"""
+
+# The unintelligible marks are never words.
+NEVER_KEYS = {"x", "xx", "xxx"}
+
+
+def parse_closed(table):
     closed = {}
-    for line in CLOSED.strip().splitlines():
+    for line in table.strip().splitlines():
         word, *codes = line.split()
         if word in closed:
             continue  # the first listing of a word wins
@@ -512,8 +574,9 @@ def adjective_forms(lemma, irregular):
 
 
 def build(wn):
-    closed = parse_closed()
+    closed = parse_closed(CLOSED)
     closed_lower = {w.lower() for w in closed}  # keeps WordNet's "i" (iodine) from shadowing "I"
+    extra = {w: c for w, c in parse_closed(EXTRA_OPEN).items() if w not in closed}
     counts = read_counts(wn)
     proper = proper_nouns(wn)
     irregular = {pos: read_exceptions(wn, pos) for pos in ("noun", "verb", "adj")}
@@ -524,10 +587,12 @@ def build(wn):
             if pos == "n" and lemma in proper:
                 continue
             lemma_score[(lemma, pos)] = (counts.get((lemma, pos), 0), synsets)
-    # Keep the categories that are not rare for their lemma.
     best = defaultdict(lambda: (0, 0))
     for (lemma, pos), score in lemma_score.items():
         best[lemma] = max(best[lemma], score)
+    for lemma in sorted(NOUN_FIRST):
+        best[lemma] = lemma_score[(lemma, "n")] = (best[lemma][0] + 1, best[lemma][1])
+    # Keep the categories that are not rare for their lemma.
     kept = {}
     for (lemma, pos), score in lemma_score.items():
         top = best[lemma][0]
@@ -548,14 +613,16 @@ def build(wn):
             forms = {lemma}
         code = POS_CODE[pos]
         for form in forms:
-            if form in closed or form in closed_lower:
+            if form in closed or form in closed_lower or form in NEVER_KEYS:
                 continue
             if score > entries[form].get(code, (-1, -1)):
                 entries[form][code] = score
-    lines = []
+    ordered = {}
     for form, codes in entries.items():
-        order = sorted(codes, key=lambda c: (-codes[c][0], -codes[c][1], c))
-        lines.append((form, order))
+        ordered[form] = sorted(codes, key=lambda c: (-codes[c][0], -codes[c][1], c))
+    for word, codes in extra.items():
+        ordered[word] = codes + [c for c in ordered.get(word, []) if c not in codes]
+    lines = list(ordered.items())
     for word, codes in closed.items():
         lines.append((word, codes))
     # be, have and do forms count as verbs wherever they stand; modals do not
