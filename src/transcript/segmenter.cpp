@@ -82,6 +82,7 @@ private:
     size_t readPause(size_t colon);
     void words();
     void addWord(std::u32string_view text, size_t position, bool linked, bool malformed);
+    bool isAttachedCode(size_t open) const;
     void attachCodes();
     void classify();
 
@@ -99,6 +100,8 @@ private:
     bool controls_ = false;
     size_t wordCount_ = 0;
     std::vector<size_t> codePositions_;
+    std::vector<bool> codeAttached_; // written right after a word, with no blank between
+    size_t lastCodeEnd_ = 0;         // position of the last code's "]"
     std::vector<Span> mazes_;
     std::vector<Span> overlaps_;
 };
@@ -204,9 +207,12 @@ void LineCutter::commentsAndCodes() {
                 report(128, "nested [code].");
                 buf_[i] = kBlank;
             } else if (c == U']') {
+                bool attached = isAttachedCode(start);
                 out_.codes.push_back(
                     Code{utf8(std::u32string_view(buf_).substr(start + 1, i - start - 1)), -1, -1});
                 codePositions_.push_back(start);
+                codeAttached_.push_back(attached);
+                lastCodeEnd_ = i;
                 blank(start, i);
                 inCode = false;
             } else if (cls::isSpace(c)) {
@@ -586,8 +592,17 @@ void LineCutter::addWord(std::u32string_view text, size_t position, bool linked,
     ++wordCount_;
 }
 
-// A code followed by more words belongs to the word before it; a code after
-// the last word belongs to the utterance.
+// A code touches the text before it when no blank stands between them; a code
+// written right after another attached code ("went[EW:x][EO:y]") is attached too.
+bool LineCutter::isAttachedCode(size_t open) const {
+    if (!codePositions_.empty() && lastCodeEnd_ + 1 == open)
+        return codeAttached_.back();
+    return open > 1 && !cls::isSpace(buf_[open - 1]);
+}
+
+// A code followed by more words belongs to the word before it. After the last
+// word, a code written right after that word ("falled[EO:fell].") is still the
+// word's; one set apart by a blank ("... today [EU].") belongs to the utterance.
 void LineCutter::attachCodes() {
     const std::vector<Word>& words = out_.words;
     size_t w = 0;
@@ -598,8 +613,9 @@ void LineCutter::attachCodes() {
         int before = static_cast<int>(w) - 1;
         out_.codes[c].precedingWord = before;
         bool atEnd = w == words.size();
-        out_.codes[c].word = atEnd ? -1 : before;
-        if (!atEnd && before >= 0)
+        bool onWord = before >= 0 && (!atEnd || codeAttached_[c]);
+        out_.codes[c].word = onWord ? before : -1;
+        if (onWord)
             out_.words[before].codes.push_back(static_cast<int>(c));
     }
 }

@@ -57,6 +57,7 @@ TEST(Segmentation, MazesCodesOverlapsRemarksAndPauses) {
     EXPECT_EQ(u.codes[1].text, "EU");
     EXPECT_EQ(u.codes[1].word, -1); // after the last word: the utterance's
     EXPECT_EQ(u.codes[1].precedingWord, 7);
+    EXPECT_EQ(u.words[7].codes, std::vector<int>{});
     EXPECT_TRUE(u.words[5].inOverlap);
     EXPECT_FALSE(u.words[6].inOverlap);
     EXPECT_TRUE(u.hasOverlap);
@@ -69,6 +70,23 @@ TEST(Segmentation, MazesCodesOverlapsRemarksAndPauses) {
     EXPECT_EQ(u.pauses[0].seconds, 5);
     EXPECT_TRUE(u.hasComment);
     EXPECT_FALSE(u.hasQuotation);
+}
+
+TEST(Segmentation, CodeOnTheLastWordBelongsToThatWord) {
+    // Written right after the last word: the word's error, not the utterance's.
+    Utterance attached = cut("C we eated[EO:ate][EW:x] pizza and falled[EO:fell].");
+    ASSERT_EQ(attached.codes.size(), 3u);
+    EXPECT_EQ(attached.codes[0].word, 1);
+    EXPECT_EQ(attached.codes[1].word, 1);
+    EXPECT_EQ(attached.codes[2].word, 4);
+    EXPECT_EQ(attached.words[4].codes, std::vector<int>{2});
+
+    // Set apart by a blank after the last word, or before the first: the utterance's.
+    Utterance apart = cut("C [EU] why she cry/3s [EU] [EX]?");
+    ASSERT_EQ(apart.codes.size(), 3u);
+    for (const Code& code : apart.codes)
+        EXPECT_EQ(code.word, -1);
+    EXPECT_EQ(apart.codes[1].precedingWord, 2);
 }
 
 TEST(Segmentation, Terminators) {
