@@ -82,13 +82,13 @@ bool parseFormat(const std::optional<std::string>& flag, const fs::path& out, Gr
 
 // "MLUw" chooses the first variable of that name; "SYNSMRY:MLUw" the one in
 // the group with that selection keyword.
-bool chooseByName(BatchSelections& s, const std::string& spec) {
+bool chooseByName(BatchSelections& s, const std::string& request) {
     const VariableCatalogue& c = VariableCatalogue::standard();
     std::string group;
-    std::string name = spec;
-    if (size_t colon = spec.find(':'); colon != std::string::npos) {
-        group = spec.substr(0, colon);
-        name = spec.substr(colon + 1);
+    std::string name = request;
+    if (size_t colon = request.find(':'); colon != std::string::npos) {
+        group = request.substr(0, colon);
+        name = request.substr(colon + 1);
     }
     for (int index : c.find(name)) {
         if (!group.empty() && !equalsIgnoreCase(c.groupOf(index).keyword, group))
