@@ -6,7 +6,6 @@
 #include <string>
 
 #include "analysis/measure_settings.h"
-#include "base/file_io.h"
 #include "base/text.h"
 #include "cli/args.h"
 #include "cli/cli_settings.h"
@@ -14,6 +13,7 @@
 #include "cli/stream_prompter.h"
 #include "reports/grid_writer.h"
 #include "reports/html_writer.h"
+#include "reports/report_file.h"
 #include "reports/report_grid.h"
 #include "reports/rtf_writer.h"
 #include "reports/text_writer.h"
@@ -33,17 +33,7 @@ using namespace tavi;
 std::string writeReport(const Report& report, const std::filesystem::path& path,
                         const Settings& settings) {
     const std::string ext = toLowerAscii(path.extension().string());
-    auto bytes = [&](std::string text) -> std::string {
-        switch (writeFileAtomic(path, text)) {
-        case WriteStatus::Ok:
-            return {};
-        case WriteStatus::CannotOpen:
-            return "cannot open file";
-        case WriteStatus::WriteFailed:
-            break;
-        }
-        return "cannot write to file";
-    };
+    auto bytes = [&](const std::string& text) { return saveReportBytes(path, text); };
     if (ext == ".txt")
         return bytes(reportToText(report));
     if (ext == ".rtf")

@@ -1,9 +1,7 @@
 // Grid files: byte order mark, quoting rule, atomic write.
 #include "reports/grid_writer.h"
 
-#include <system_error>
-
-#include "base/file_io.h"
+#include "reports/report_file.h"
 
 namespace tavi {
 
@@ -76,18 +74,7 @@ std::string gridFileBytes(const Grid& grid, char separator) {
 }
 
 std::string saveGrid(const Grid& grid, GridFormat format, const std::filesystem::path& path) {
-    std::error_code ec;
-    if (path.has_parent_path())
-        std::filesystem::create_directories(path.parent_path(), ec);
-    switch (writeFileAtomic(path, gridFileBytes(grid, gridSeparator(format)))) {
-    case WriteStatus::Ok:
-        return {};
-    case WriteStatus::CannotOpen:
-        return "cannot open file";
-    case WriteStatus::WriteFailed:
-        break;
-    }
-    return "cannot write to file";
+    return saveReportBytes(path, gridFileBytes(grid, gridSeparator(format)));
 }
 
 } // namespace tavi

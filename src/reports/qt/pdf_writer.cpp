@@ -8,9 +8,9 @@
 #include <QPdfWriter>
 #include <functional>
 
-#include "base/file_io.h"
 #include "base/format.h"
 #include "reports/qt/gui_application.h"
+#include "reports/report_file.h"
 
 namespace tavi::qt {
 namespace {
@@ -317,15 +317,7 @@ std::string reportsToPdf(const std::vector<const Report*>& reports, const PdfPag
 
 std::string saveReportPdf(const Report& report, const std::filesystem::path& path,
                           const PdfPageSetup& setup) {
-    switch (writeFileAtomic(path, reportsToPdf({&report}, setup))) {
-    case WriteStatus::Ok:
-        return {};
-    case WriteStatus::CannotOpen:
-        return "cannot open file";
-    case WriteStatus::WriteFailed:
-        break;
-    }
-    return "cannot write to file";
+    return saveReportBytes(path, reportsToPdf({&report}, setup));
 }
 
 } // namespace tavi::qt
