@@ -35,9 +35,15 @@ bool isInOrderSubset(const std::vector<std::string>& part, const std::vector<std
 }
 
 void classifyImitation(const Utterance& u, const Utterance& prev, ResponseType& r) {
-    std::vector<std::string> mine = mainBodyForms(u), theirs = mainBodyForms(prev);
-    if (mine.empty())
+    const int mineCount = mainBodyWordCount(u);
+    if (mineCount == 0)
         return;
+    if (mineCount > mainBodyWordCount(prev)) {
+        // Longer than the utterance before: neither an exact nor a reduced imitation.
+        r.exactImitation = r.reducedImitation = r.imitation = false;
+        return;
+    }
+    std::vector<std::string> mine = mainBodyForms(u), theirs = mainBodyForms(prev);
     r.exactImitation = mine == theirs;
     r.reducedImitation =
         !r.exactImitation && mine.size() < theirs.size() && isInOrderSubset(mine, theirs);

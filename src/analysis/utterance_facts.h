@@ -60,6 +60,8 @@ struct UtteranceFacts {
 class RootIds {
 public:
     int idOf(const std::string& root) {
+        if (auto it = ids_.find(root); it != ids_.end())
+            return it->second; // no node built for a root already numbered
         return ids_.emplace(root, static_cast<int>(ids_.size())).first->second;
     }
     int size() const { return static_cast<int>(ids_.size()); }

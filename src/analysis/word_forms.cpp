@@ -7,9 +7,18 @@ namespace tavi {
 
 namespace {
 
-// The root without the marks of a part word ("ba*") and of bound prefixes ("re\do").
-std::string plainRoot(const Word& w) {
-    std::string r = w.root;
+void lowerInPlace(std::string& s) {
+    for (char& c : s)
+        if (c >= 'A' && c <= 'Z')
+            c = static_cast<char>(c + 32);
+}
+
+// The root without the marks of a part word ("ba*") and of bound prefixes ("re\do"),
+// with room for `extra` more bytes.
+std::string plainRoot(const Word& w, size_t extra = 0) {
+    std::string r;
+    r.reserve(w.root.size() + extra);
+    r = w.root;
     if (w.incomplete && !r.empty() && r.back() == '*')
         r.pop_back();
     if (r.find('\\') != std::string::npos)
@@ -20,11 +29,18 @@ std::string plainRoot(const Word& w) {
 } // namespace
 
 std::string rootKey(const Word& w) {
-    return toLowerAscii(plainRoot(w));
+    std::string r = plainRoot(w);
+    lowerInPlace(r);
+    return r;
 }
 
 std::string surfaceForm(const Word& w) {
-    std::string s = plainRoot(w);
+    size_t extra = 0;
+    for (const std::string& m : w.boundMorphemes)
+        extra += m.size() + 1;
+    for (const std::string& c : w.clitics)
+        extra += c.size();
+    std::string s = plainRoot(w, extra);
     for (const std::string& m : w.boundMorphemes) {
         // Endings written by their grammar rather than their spelling.
         if (equalsIgnoreCase(m, "3s"))
@@ -36,7 +52,8 @@ std::string surfaceForm(const Word& w) {
     }
     for (const std::string& c : w.clitics)
         s += c;
-    return toLowerAscii(s);
+    lowerInPlace(s);
+    return s;
 }
 
 int mainBodyWordCount(const Utterance& u) {

@@ -137,8 +137,7 @@ std::uint32_t StandardWordLists::kindMask(int set, std::string_view word) const 
 }
 
 bool StandardWordLists::contains(int set, int kind, std::string_view word) const {
-    std::vector<int> kinds = kindsOf(set, word);
-    return std::find(kinds.begin(), kinds.end(), kind) != kinds.end();
+    return kind >= 0 && kind < 32 && ((kindMask(set, word) >> kind) & 1u) != 0;
 }
 
 } // namespace tavi
