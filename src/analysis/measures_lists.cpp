@@ -95,14 +95,26 @@ void fillWordLists(const SpeakerView& v, SpeakerMeasures& m) {
     const int set = o.wordListSet;
     std::vector<std::string> forms, roots;
     Tally<kWordListKinds> tally{m.wordLists};
+    // The lists of each root number, looked up once; kNotLooked until then.
+    constexpr std::uint32_t kNotLooked = ~0u;
+    std::vector<std::uint32_t> rootKinds(static_cast<size_t>(v.c.rootIds.size()), kNotLooked);
     for (int i : o.wordListsOnAnalysisSet ? v.analysisSet : v.total) {
         const AreaWords words = areaWords(v, i, o.wordListArea, forms, roots);
         const std::vector<std::string>& form = *words.forms;
+        const bool numbered = o.wordListArea == WordArea::MainBody;
         for (size_t k = 0; k < form.size(); ++k) {
             const std::string& root = (*words.roots)[k];
-            std::uint32_t kinds = o.wordLists->kindMask(set, form[k]);
+            std::uint32_t kinds = 0;
+            if (numbered) {
+                std::uint32_t& known = rootKinds[v.facts(i).rootIds[k]];
+                if (known == kNotLooked)
+                    known = o.wordLists->kindMask(set, root);
+                kinds = known;
+            } else {
+                kinds = o.wordLists->kindMask(set, root);
+            }
             if (root != form[k])
-                kinds |= o.wordLists->kindMask(set, root);
+                kinds |= o.wordLists->kindMask(set, form[k]);
             for (int kind = 0; kinds != 0; ++kind, kinds >>= 1)
                 if (kinds & 1u)
                     tally.add(kind, form[k]);
