@@ -76,6 +76,10 @@ std::optional<std::string_view> GcDictionary::lookup(std::string_view word) cons
 bool isSkippedCategoryToken(std::string_view token) {
     if (token.empty())
         return true;
+    const char first = token.front();
+    if ((first >= 'a' && first <= 'z') || (first >= 'A' && first <= 'Z') ||
+        (first >= '0' && first <= '9'))
+        return false; // the common case: none of the marks below
     size_t pos = 0;
     char32_t c = nextCodePoint(token, pos);
     static constexpr std::u32string_view kMarks =

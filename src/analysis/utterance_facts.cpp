@@ -91,8 +91,8 @@ UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeM
         f.traits.push_back(traitsOf(w));
         for (const std::string& e : w.boundMorphemes)
             f.endings.push_back(toLowerAscii(e));
-        f.forms.push_back(surfaceForm(w));
         f.roots.push_back(rootKey(w));
+        f.forms.push_back(surfaceForm(w, f.roots.back()));
         f.morphemes += morphemeCount(w);
         f.boundMorphemes += static_cast<int>(w.boundMorphemes.size());
         f.clitics += static_cast<int>(w.clitics.size());

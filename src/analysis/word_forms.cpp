@@ -13,12 +13,9 @@ void lowerInPlace(std::string& s) {
             c = static_cast<char>(c + 32);
 }
 
-// The root without the marks of a part word ("ba*") and of bound prefixes ("re\do"),
-// with room for `extra` more bytes.
-std::string plainRoot(const Word& w, size_t extra = 0) {
-    std::string r;
-    r.reserve(w.root.size() + extra);
-    r = w.root;
+// The root without the marks of a part word ("ba*") and of bound prefixes ("re\do").
+std::string plainRoot(const Word& w) {
+    std::string r = w.root;
     if (w.incomplete && !r.empty() && r.back() == '*')
         r.pop_back();
     if (r.find('\\') != std::string::npos)
@@ -35,12 +32,18 @@ std::string rootKey(const Word& w) {
 }
 
 std::string surfaceForm(const Word& w) {
+    return surfaceForm(w, rootKey(w));
+}
+
+std::string surfaceForm(const Word& w, std::string_view rootKey) {
     size_t extra = 0;
     for (const std::string& m : w.boundMorphemes)
         extra += m.size() + 1;
     for (const std::string& c : w.clitics)
         extra += c.size();
-    std::string s = plainRoot(w, extra);
+    std::string s;
+    s.reserve(rootKey.size() + extra);
+    s = rootKey;
     for (const std::string& m : w.boundMorphemes) {
         // Endings written by their grammar rather than their spelling.
         if (equalsIgnoreCase(m, "3s"))
@@ -52,7 +55,7 @@ std::string surfaceForm(const Word& w) {
     }
     for (const std::string& c : w.clitics)
         s += c;
-    lowerInPlace(s);
+    lowerInPlace(s); // the root part is lower case already
     return s;
 }
 

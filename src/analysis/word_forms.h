@@ -4,6 +4,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "transcript/utterance.h"
 
@@ -15,6 +16,8 @@ std::string rootKey(const Word& w);
 // The word as said, in lower case, marks and omitted parts dropped:
 // "do/n't" -> "don't", "dog/s" -> "dogs", "he+'s" -> "he's".
 std::string surfaceForm(const Word& w);
+// The same, built on the word's rootKey when the caller already has it.
+std::string surfaceForm(const Word& w, std::string_view rootKey);
 // One for the word plus one for each bound morpheme present (endings and
 // bound prefixes); clitics add nothing.
 inline int morphemeCount(const Word& w) {
