@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 #include "analysis/code_lists.h"
 #include "analysis/word_forms.h"
@@ -13,8 +14,9 @@ namespace tavi {
 
 namespace {
 
-std::vector<std::string> mainBodyForms(const Utterance& u) {
+std::vector<std::string> mainBodyForms(const Utterance& u, int count) {
     std::vector<std::string> forms;
+    forms.reserve(static_cast<size_t>(count));
     for (const Word& w : u.words)
         if (w.isMainBodyWord())
             forms.push_back(surfaceForm(w));
@@ -34,16 +36,18 @@ bool isInOrderSubset(const std::vector<std::string>& part, const std::vector<std
     return true;
 }
 
-void classifyImitation(const Utterance& u, const Utterance& prev, ResponseType& r) {
-    const int mineCount = mainBodyWordCount(u);
+// `mineCount` and `theirsCount`: the main-body words of `u` and of `prev`.
+void classifyImitation(const Utterance& u, int mineCount, const Utterance& prev, int theirsCount,
+                       ResponseType& r) {
     if (mineCount == 0)
         return;
-    if (mineCount > mainBodyWordCount(prev)) {
+    if (mineCount > theirsCount) {
         // Longer than the utterance before: neither an exact nor a reduced imitation.
         r.exactImitation = r.reducedImitation = r.imitation = false;
         return;
     }
-    std::vector<std::string> mine = mainBodyForms(u), theirs = mainBodyForms(prev);
+    std::vector<std::string> mine = mainBodyForms(u, mineCount),
+                             theirs = mainBodyForms(prev, theirsCount);
     r.exactImitation = mine == theirs;
     r.reducedImitation =
         !r.exactImitation && mine.size() < theirs.size() && isInOrderSubset(mine, theirs);
@@ -311,19 +315,22 @@ std::optional<int> elapsedInCut(const SegmentedTranscript& t, size_t first, size
 
 std::vector<ResponseType> classifyResponses(const SegmentedTranscript& t, const YesNoTest& yesNo) {
     std::vector<ResponseType> result(t.utterances.size());
+    int wordsBefore = 0; // main-body words of the utterance before
     for (size_t i = 0; i < t.utterances.size(); ++i) {
         const Utterance& u = t.utterances[i];
+        const int words = mainBodyWordCount(u);
+        const int prevWords = std::exchange(wordsBefore, words);
         if (u.speakerGroup > 1)
             continue;
         ResponseType& r = result[i];
-        r.oneWord = mainBodyWordCount(u) == 1;
+        r.oneWord = words == 1;
         if (i == 0 || t.utterances[i - 1].speakerGroup != 1 - u.speakerGroup)
             continue;
         const Utterance& prev = t.utterances[i - 1];
         r.question = prev.terminator == Terminator::Question;
         r.prompt = prev.terminator == Terminator::Prompt;
         r.yesNo = r.question && yesNo && firstWordIsYesNo(u, yesNo);
-        classifyImitation(u, prev, r);
+        classifyImitation(u, words, prev, prevWords, r);
     }
     return result;
 }
