@@ -1,6 +1,7 @@
 // Classifying mazes by comparing their words with the words after them.
 #include "analysis/maze_kind.h"
 
+#include <algorithm>
 #include <array>
 #include <string>
 #include <vector>
@@ -26,7 +27,9 @@ MazeKind classifyMaze(const Utterance& u, int maze, const FilledPauseTest& isFil
         if (!u.words[i].omitted && !u.words[i].unintelligible)
             mazeWords.push_back(surfaceForm(u.words[i]));
     const int last = indices.empty() ? -1 : indices.back();
-    for (size_t i = static_cast<size_t>(last + 1); i < u.words.size(); ++i)
+    // The comparisons below read no further than this many words after the maze.
+    const size_t needed = std::max<size_t>(mazeWords.size(), 1);
+    for (size_t i = static_cast<size_t>(last + 1); i < u.words.size() && after.size() < needed; ++i)
         if (u.words[i].isMainBodyWord())
             after.push_back(surfaceForm(u.words[i]));
 
