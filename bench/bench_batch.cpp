@@ -14,13 +14,13 @@
 #include <thread>
 #include <vector>
 
-#include "analysis/measure_settings.h"
 #include "base/file_io.h"
 #include "base/progress.h"
 #include "base/prompter.h"
 #include "batch/batch_run.h"
 #include "batch/variable_catalogue.h"
 #include "settings/keyword_file.h"
+#include "settings/measure_settings.h"
 
 namespace {
 
@@ -136,7 +136,7 @@ double peakMegabytes() {
 void BM_Batch(benchmark::State& state) {
     const Corpus& c = corpus();
     BatchRunOptions options;
-    resources().attach(options.measures);
+    resources().attach(options.analysis.measures);
     options.threads = static_cast<unsigned>(state.range(0));
     const VariableCatalogue& catalogue = VariableCatalogue::standard();
     const VariableGroup& smr = catalogue.groups()[2];

@@ -24,8 +24,9 @@ void takeScreenshots(tavi::app::CMainFrame& frame, tavi::app::CTAVIApp& app, con
         return;
     tavi::app::CTAVIDoc& doc = transcripts.front()->doc();
     frame.grab().save(QDir(dir).filePath(QStringLiteral("transcript.png")));
-    frame.showReport(makeReport(app, tavi::app::ReportKind::StandardMeasures, doc.lines(),
-                                doc.title().toStdString(), 0),
+    const tavi::TranscriptAnalysis analysis = analyseForReport(app, doc.lines(), 0);
+    frame.showReport(makeReport(app, tavi::app::ReportKind::StandardMeasures, analysis,
+                                doc.title().toStdString()),
                      &doc);
     frame.mdiArea().tileSubWindows();
     QApplication::processEvents();

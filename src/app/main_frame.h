@@ -9,10 +9,12 @@
 #include <QPointer>
 #include <functional>
 #include <map>
+#include <optional>
 #include <span>
 
 #include "app/command_table.h"
 #include "app/rept_doc.h"
+#include "session/analysis_session.h"
 
 class QPrinter;
 class QPlainTextEdit;
@@ -89,7 +91,8 @@ private:
     QTextEdit* activeReportEditor() const;
     // Analyze
     CTAVIDoc* analysisTarget();
-    bool acceptErrors(CTAVIFrame& frame);
+    std::optional<TranscriptAnalysis> reportAnalysis(CTAVIDoc*& doc);
+    bool acceptErrors(CTAVIFrame& frame, const std::vector<err>& problems);
     void analyzeStandardMeasures();
     void analyzeUtteranceTypes();
     // Reports

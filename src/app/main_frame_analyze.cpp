@@ -11,12 +11,6 @@
 #include "app/tavi_frame.h"
 
 namespace tavi::app {
-namespace {
-
-constexpr const char* kNoSecondSpeaker =
-    "Current transcript does not have a 2nd speaker. Speaker setting has been reset.";
-
-} // namespace
 
 // The transcript an analysis reads: the active one, or the one the active
 // report was made from. Null (after telling why) when there is none.
@@ -32,37 +26,45 @@ CTAVIDoc* CMainFrame::analysisTarget() {
     return nullptr;
 }
 
-void CMainFrame::analyzeStandardMeasures() {
-    CTAVIDoc* doc = analysisTarget();
-    if (!doc || !acceptErrors(*qobject_cast<CTAVIFrame*>(doc->parent())))
-        return;
-    const TranLines lines = doc->lines();
-    const auto speakers = mainSpeakerLabels(lines);
-    if (app_.reportSpeaker == 1 && speakers.second.empty()) {
-        app_.prompter().inform(kNoSecondSpeaker);
+// The analysis of the target transcript for a report, once: null when there
+// is no target or the person declines to go on past its errors. Tells of a
+// speaker reset.
+std::optional<TranscriptAnalysis> CMainFrame::reportAnalysis(CTAVIDoc*& doc) {
+    doc = analysisTarget();
+    if (!doc)
+        return std::nullopt;
+    TranscriptAnalysis analysis = analyseForReport(app_, doc->lines(), app_.reportSpeaker);
+    if (!acceptErrors(*qobject_cast<CTAVIFrame*>(doc->parent()), analysis.check.problems))
+        return std::nullopt;
+    if (analysis.speakerReset) {
+        app_.prompter().inform(speakerResetMessage());
         app_.reportSpeaker = 0;
     }
-    CSmrVariablesDialog dialog(app_.smrVariables, app_.reportSpeaker, speakers, app_.labelSource(),
-                               this);
+    return analysis;
+}
+
+void CMainFrame::analyzeStandardMeasures() {
+    CTAVIDoc* doc = nullptr;
+    std::optional<TranscriptAnalysis> analysis = reportAnalysis(doc);
+    if (!analysis)
+        return;
+    CSmrVariablesDialog dialog(app_.smrVariables, app_.reportSpeaker, mainSpeakerLabels(*analysis),
+                               app_.labelSource(), this);
     if (dialog.exec() != QDialog::Accepted)
         return;
     app_.smrVariables = dialog.variables();
     app_.reportSpeaker = dialog.speaker();
-    showReport(makeReport(app_, ReportKind::StandardMeasures, lines, doc->title().toStdString(),
-                          app_.reportSpeaker),
-               doc);
+    analysis->speaker = app_.reportSpeaker;
+    showReport(
+        makeReport(app_, ReportKind::StandardMeasures, *analysis, doc->title().toStdString()), doc);
 }
 
 void CMainFrame::analyzeUtteranceTypes() {
-    CTAVIDoc* doc = analysisTarget();
-    if (!doc || !acceptErrors(*qobject_cast<CTAVIFrame*>(doc->parent())))
+    CTAVIDoc* doc = nullptr;
+    std::optional<TranscriptAnalysis> analysis = reportAnalysis(doc);
+    if (!analysis)
         return;
-    const TranLines lines = doc->lines();
-    const auto speakers = mainSpeakerLabels(lines);
-    if (app_.reportSpeaker == 1 && speakers.second.empty()) {
-        app_.prompter().inform(kNoSecondSpeaker);
-        app_.reportSpeaker = 0;
-    }
+    const auto speakers = mainSpeakerLabels(*analysis);
     QStringList choices = {QString::fromStdString("1st speaker (" + speakers.first + ")")};
     if (!speakers.second.empty())
         choices << QString::fromStdString("2nd speaker (" + speakers.second + ")");
@@ -73,8 +75,8 @@ void CMainFrame::analyzeUtteranceTypes() {
     if (!ok)
         return;
     app_.reportSpeaker = static_cast<int>(choices.indexOf(chosen));
-    showReport(makeReport(app_, ReportKind::UtteranceTypes, lines, doc->title().toStdString(),
-                          app_.reportSpeaker),
+    analysis->speaker = app_.reportSpeaker;
+    showReport(makeReport(app_, ReportKind::UtteranceTypes, *analysis, doc->title().toStdString()),
                doc);
 }
 

@@ -57,9 +57,8 @@ void CMainFrame::editCheck() {
 
 // Checks the transcript before an analysis; with errors the list is shown
 // and the person may cancel. True when the analysis goes on.
-bool CMainFrame::acceptErrors(CTAVIFrame& frame) {
-    frame.view().checkNow();
-    const std::vector<err>& problems = frame.view().problems();
+bool CMainFrame::acceptErrors(CTAVIFrame& frame, const std::vector<err>& problems) {
+    frame.view().setProblems(problems);
     const bool hasErrors =
         std::any_of(problems.begin(), problems.end(), [](const err& e) { return e.isError(); });
     if (!hasErrors)

@@ -45,11 +45,11 @@ QString baseName(const CReptDoc& doc) {
 } // namespace
 
 QPageLayout CMainFrame::pdfLayout() const {
-    return printer_ ? printer_->pageLayout() : defaultPdfLayout();
+    return printer_ ? printer_->pageLayout() : qt::defaultPageLayout();
 }
 
 bool CMainFrame::writeReportPdf(const CReptDoc& doc, const QString& path) {
-    return writePdf({&doc.content().report}, path, pdfLayout());
+    return writePdf({&doc.content().report}, path, qt::pdfPageSetup(app_.settings(), pdfLayout()));
 }
 
 void CMainFrame::reportSave(bool) {
@@ -121,7 +121,7 @@ void CMainFrame::reportAddToPdfBatch() {
     std::vector<const Report*> pages;
     for (const Report& r : state.pdfBatchReports)
         pages.push_back(&r);
-    if (!writePdf(pages, state.pdfBatchPath, pdfLayout())) {
+    if (!writePdf(pages, state.pdfBatchPath, qt::pdfPageSetup(app_.settings(), pdfLayout()))) {
         state.pdfBatchReports.pop_back();
         app_.prompter().inform("Cannot write to " + state.pdfBatchPath.toStdString());
         return;

@@ -1,22 +1,16 @@
-// From transcript lines to a finished report, through the same report
-// building as `tavi report`.
+// From an open transcript to a finished report, through the same analysis
+// session and report building as `tavi report`.
 #include "app/report_runner.h"
 
+#include "analysis/selection.h"
 #include "app/tavi_app.h"
 #include "reports/html_writer.h"
 #include "reports/rtf_writer.h"
 #include "reports/text_writer.h"
 #include "reports/transcript_report.h"
-#include "transcript/checker.h"
 
 namespace tavi::app {
 namespace {
-
-CheckResult checkAndSegment(const TranLines& lines) {
-    CheckOptions options;
-    options.keepSegmentation = true;
-    return checkTranscript(lines, options);
-}
 
 std::string firstLabel(const SpeakerGroup& group) {
     return group.labels.empty() ? std::string() : group.labels.front();
@@ -24,28 +18,29 @@ std::string firstLabel(const SpeakerGroup& group) {
 
 } // namespace
 
-std::pair<std::string, std::string> mainSpeakerLabels(const TranLines& lines) {
-    const CheckResult checked = checkAndSegment(lines);
-    return {firstLabel(checked.speakers.groups[0]), firstLabel(checked.speakers.groups[1])};
+TranscriptAnalysis analyseForReport(CTAVIApp& app, const TranLines& lines, int speaker) {
+    AnalysisRequest request;
+    request.speaker = speaker;
+    return analyseTranscript(lines, app.analysisContext(), request);
 }
 
-ReportContent makeReport(CTAVIApp& app, ReportKind kind, const TranLines& lines,
-                         const std::string& name, int speaker) {
-    const CheckResult checked = checkAndSegment(lines);
+std::pair<std::string, std::string> mainSpeakerLabels(const TranscriptAnalysis& analysis) {
+    const SpeakerTable& speakers = analysis.check.segmented.speakers;
+    return {firstLabel(speakers.groups[0]), firstLabel(speakers.groups[1])};
+}
+
+ReportContent makeReport(CTAVIApp& app, ReportKind kind, const TranscriptAnalysis& analysis,
+                         const std::string& name) {
     TranscriptReportRequest request;
     request.kind = kind == ReportKind::StandardMeasures ? TranscriptReportKind::StandardMeasures
                                                         : TranscriptReportKind::UtteranceTypes;
     request.transcriptName = name;
-    request.speaker = speaker;
     request.smrVariables = app.smrVariables;
-    request.resources = &app.measureResources();
-    TranscriptReportResult result =
-        buildTranscriptReport(checked.segmented, app.settings(), request);
-    for (const std::string& message : result.messages)
+    if (std::string_view message = analysis.cutMessage(); !message.empty())
         app.prompter().inform(message);
 
     ReportContent content;
-    content.report = std::move(result.report);
+    content.report = buildTranscriptReport(analysis, app.settings(), request);
     content.title = QString::fromStdString(content.report.title);
     content.html = QString::fromStdString(reportToHtml(content.report));
     content.text = reportToText(content.report);

@@ -1,11 +1,13 @@
-// Making a single-transcript report: check the transcript, segment it,
-// select utterances by the cut and the analysis set, compute the measures and
-// build the report in every form the report window needs.
+// Making a single-transcript report in the desktop program: the transcript's
+// analysis through the analysis session, then the report in every form the
+// report window needs.
 #pragma once
 
-#include <optional>
+#include <string>
+#include <utility>
 
 #include "app/rept_doc.h"
+#include "session/analysis_session.h"
 #include "transcript/tran_line.h"
 
 namespace tavi::app {
@@ -14,13 +16,19 @@ class CTAVIApp;
 
 enum class ReportKind { StandardMeasures, UtteranceTypes };
 
-// The speaker labels of a transcript's "$" line: the 1st speaker's and the
-// 2nd speaker's first label (empty when there is none).
-std::pair<std::string, std::string> mainSpeakerLabels(const TranLines& lines);
+// The analysis of an open transcript under the settings in force, for the
+// speaker asked for (0 or 1); both main speakers are measured, so the speaker
+// may still be changed before the report is made.
+TranscriptAnalysis analyseForReport(CTAVIApp& app, const TranLines& lines, int speaker);
 
-// The report for `speaker` (0 or 1) of the transcript named `name`. A cut
-// outcome other than a complete cut is told through the app's prompter.
-ReportContent makeReport(CTAVIApp& app, ReportKind kind, const TranLines& lines,
-                         const std::string& name, int speaker);
+// The speaker labels of the transcript's "$" line: the 1st speaker's and the
+// 2nd speaker's first label (empty when there is none).
+std::pair<std::string, std::string> mainSpeakerLabels(const TranscriptAnalysis& analysis);
+
+// The report of the analysis's speaker for the transcript named `name`. The
+// transcript cut's outcome, when it is not a complete cut, is told through
+// the app's prompter.
+ReportContent makeReport(CTAVIApp& app, ReportKind kind, const TranscriptAnalysis& analysis,
+                         const std::string& name);
 
 } // namespace tavi::app

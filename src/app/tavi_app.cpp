@@ -46,10 +46,11 @@ LabelSource CTAVIApp::labelSource() const {
         [this](std::string_view key) { return settings_.labels.get(LanguageSlot::Primary, key); };
 }
 
-const MeasureResources& CTAVIApp::measureResources() {
+AnalysisContext CTAVIApp::analysisContext() {
     if (!resources_)
-        resources_ = loadMeasureResources(settings_, prompter_);
-    return *resources_;
+        resources_ =
+            std::make_shared<const MeasureResources>(loadMeasureResources(settings_, prompter_));
+    return tavi::analysisContext(settings_, resources_);
 }
 
 void CTAVIApp::addRecentFile(const QString& path) {

@@ -8,11 +8,13 @@
 #include <optional>
 #include <vector>
 
-#include "analysis/measure_settings.h"
+#include <memory>
+
 #include "app/qt_prompter.h"
 #include "reports/labels.h"
 #include "reports/report.h"
 #include "reports/standard_measures_report.h"
+#include "session/analysis_session.h"
 #include "settings/settings.h"
 #include "settings/startup_environment.h"
 
@@ -49,8 +51,9 @@ public:
 
     ReportSaveState reportSave;
     LabelSource labelSource() const;
-    // The word lists and dictionary, loaded at the first analysis.
-    const MeasureResources& measureResources();
+    // What an analysis reads under the settings in force; the word lists and
+    // dictionary are loaded at the first analysis and kept.
+    AnalysisContext analysisContext();
     SmrVariables smrVariables = SmrVariables::defaults();
     int reportSpeaker = 0; // 0 the 1st speaker, 1 the 2nd
 
@@ -66,7 +69,7 @@ private:
     QtPrompter prompter_;
     Settings settings_;
     bool ok_ = false;
-    std::optional<MeasureResources> resources_;
+    std::shared_ptr<const MeasureResources> resources_;
     QStringList recent_;
 };
 

@@ -3,29 +3,30 @@
 
 #include "base/format.h"
 #include "batch/ordered_pipeline.h"
+#include "session/analysis_session.h"
 #include "transcript/check_listing.h"
-#include "transcript/transcript_file.h"
 
 namespace tavi {
 
 namespace {
 
 struct Checked {
-    bool readable = false;
+    LoadStatus load = LoadStatus::Ok;
     std::vector<err> problems;
     int errors = 0;
     int warnings = 0;
 };
 
-Checked checkOne(const std::filesystem::path& file, CheckOptions options, int index) {
+Checked checkOne(const std::filesystem::path& file, const CheckOptions& options, int index) {
+    AnalysisContext context;
+    context.check = options;
+    context.check.transcriptIndex = index;
+    AnalysisRequest checkOnly;
+    checkOnly.measure = false;
+    TranscriptAnalysis analysis = analyseFile(file, context, checkOnly);
     Checked c;
-    LoadedTranscript t = loadTranscript(file);
-    if (!t.ok)
-        return c;
-    c.readable = true;
-    options.transcriptIndex = index;
-    options.keepSegmentation = false;
-    CheckResult r = checkTranscript(t.lines, options);
+    c.load = analysis.load;
+    CheckResult& r = analysis.check;
     c.errors = r.errorCount();
     c.warnings = r.warningCount();
     c.problems = std::move(r.problems);
@@ -44,8 +45,10 @@ BatchCheckResult checkTranscripts(const std::vector<std::filesystem::path>& file
         [&](size_t i) { return checkOne(files[i], options, static_cast<int>(i)); },
         [&](size_t i, Checked& c) {
             result.lines.push_back(files[i].string());
-            if (!c.readable) {
-                result.lines.push_back(format("%s could not be opened", files[i].c_str()));
+            if (c.load != LoadStatus::Ok) {
+                result.lines.push_back(format(
+                    c.load == LoadStatus::CannotOpen ? "%s could not be opened" : "%s corrupted",
+                    files[i].c_str()));
                 ++result.unreadable;
                 return true;
             }

@@ -9,7 +9,6 @@
 #include "base/prompter.h"
 #include "batch/batch_columns.h"
 #include "batch/ordered_pipeline.h"
-#include "transcript/transcript_file.h"
 
 namespace tavi {
 
@@ -41,20 +40,15 @@ std::string fileStem(const std::filesystem::path& file) {
 TranscriptOutcome analyse(const std::filesystem::path& path, const BatchRunOptions& options,
                           const std::vector<BatchColumn>& columns, const RunTexts& texts) {
     TranscriptOutcome out;
-    LoadedTranscript loaded = loadTranscript(path);
-    if (!loaded.ok) {
-        out.status = TranscriptOutcome::Status::CannotOpen;
+    const TranscriptAnalysis analysis = analyseFile(path, options.analysis);
+    if (analysis.load != LoadStatus::Ok) {
+        out.status = analysis.load == LoadStatus::CannotOpen ? TranscriptOutcome::Status::CannotOpen
+                                                             : TranscriptOutcome::Status::Corrupted;
         return out;
     }
-    if (loaded.text.find('\0') != std::string::npos) {
-        out.status = TranscriptOutcome::Status::Corrupted;
-        return out;
-    }
-    CheckOptions check = options.check;
-    check.keepSegmentation = true;
-    CheckResult checked = checkTranscript(loaded.lines, check);
+    const CheckResult& checked = analysis.check;
+    const MeasureResult& measured = analysis.result;
     out.hasErrors = checked.hasErrors;
-    MeasureResult measured = computeMeasures(checked.segmented, options.measures);
     out.cut = measured.selection.outcome;
 
     int speaker = options.selections.speaker;
@@ -171,16 +165,16 @@ std::optional<BatchResult> runBatch(const std::vector<std::filesystem::path>& tr
         return std::nullopt;
     }
 
-    RunTexts texts{analysisSetName(options.measures.analysisSet),
-                   wordBaseText(options.measures.wordBase),
-                   describeCut(options.measures.cut, kCutDescriptionLength)};
+    RunTexts texts{analysisSetName(options.analysis.measures.analysisSet),
+                   wordBaseText(options.analysis.measures.wordBase),
+                   describeCut(options.analysis.measures.cut, kCutDescriptionLength)};
     BatchResult result;
     result.data.title = dataGridTitle(options.selectionFile);
     for (const BatchColumn& c : columns)
         result.data.addColumn(c.heading(), 50);
     result.key = keyGrid(columns, options);
 
-    const bool cutInForce = !options.measures.cut.isEntireTranscript();
+    const bool cutInForce = !options.analysis.measures.cut.isEntireTranscript();
     const unsigned threads = threadCount(options.threads);
     bool cancelled = false;
     progress.start(static_cast<int>(transcripts.size()), "Batch");

@@ -10,10 +10,9 @@
 #include <string>
 #include <vector>
 
-#include "analysis/measures.h"
 #include "batch/batch_selections.h"
 #include "reports/grid.h"
-#include "transcript/checker.h"
+#include "session/analysis_session.h"
 
 namespace tavi {
 
@@ -22,8 +21,9 @@ class Progress;
 
 struct BatchRunOptions {
     BatchSelections selections;
-    MeasureOptions measures; // analysis set, word base, cut, window, lists
-    CheckOptions check;      // date format and header keywords
+    // Checker and measure options (date format, header keywords, analysis
+    // set, word base, cut, window, lists) and the word lists and dictionary.
+    AnalysisContext analysis;
     // The selection file the selections came from, if any: it names the grids.
     std::optional<std::filesystem::path> selectionFile;
     unsigned threads = 0; // 0: one per core

@@ -6,7 +6,6 @@
 #include <string>
 #include <vector>
 
-#include "analysis/measure_settings.h"
 #include "base/prompter.h"
 #include "base/text.h"
 #include "batch/batch_check.h"
@@ -19,6 +18,7 @@
 #include "cli/command.h"
 #include "cli/terminal_progress.h"
 #include "reports/grid_writer.h"
+#include "session/analysis_session.h"
 
 namespace {
 
@@ -119,14 +119,10 @@ bool saveOne(const Grid& grid, GridFormat format, const fs::path& path, std::ost
 
 // The analysis settings in force: analysis set, word base, cut, window, code
 // lists and the word lists and dictionary in `resources`.
-BatchRunOptions runOptions(const Settings& settings, const MeasureResources& resources) {
+BatchRunOptions runOptions(const Settings& settings, Prompter& prompter) {
     BatchRunOptions options;
     options.selections = defaultBatchSelections(settings);
-    options.measures = measureOptionsFrom(settings);
-    resources.attach(options.measures);
-    options.check.dateFormat.order =
-        settings.language.monthFirst ? DateOrder::MonthDayYear : DateOrder::DayMonthYear;
-    options.check.dateFormat.separator = settings.language.dateSeparator;
+    options.analysis = analysisContext(settings, prompter);
     return options;
 }
 
@@ -137,7 +133,7 @@ int runCheck(cli::CommandContext& ctx, const std::vector<fs::path>& files,
         ctx.err << "No transcripts selected\n";
         return cli::kExitUsage;
     }
-    BatchCheckResult r = checkTranscripts(files, options.check, options.threads);
+    BatchCheckResult r = checkTranscripts(files, options.analysis.check, options.threads);
     for (const std::string& line : r.lines)
         ctx.out << line << '\n';
     return r.errors > 0 || r.unreadable > 0 ? cli::kExitFailed : cli::kExitOk;
@@ -213,8 +209,7 @@ int run(cli::CommandContext& ctx) {
     LoadedSettings loaded = cli::loadCommandSettings(ctx, prompter);
     if (!loaded.ok)
         return cli::kExitUsage;
-    MeasureResources resources = loadMeasureResources(loaded.settings, prompter);
-    BatchRunOptions options = runOptions(loaded.settings, resources);
+    BatchRunOptions options = runOptions(loaded.settings, prompter);
     if (!applyFlags(args, options, prompter, ctx.err))
         return cli::kExitUsage;
 

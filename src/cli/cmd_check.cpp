@@ -9,7 +9,10 @@
 #include "base/format.h"
 #include "base/text.h"
 #include "cli/args.h"
+#include "cli/cli_settings.h"
 #include "cli/command.h"
+#include "cli/stream_prompter.h"
+#include "session/analysis_session.h"
 #include "transcript/check_listing.h"
 #include "transcript/checker.h"
 
@@ -100,7 +103,12 @@ int run(cli::CommandContext& ctx) {
         ctx.err << "tavi check: " << (args.ok() ? "no transcript given" : args.error()) << '\n';
         return cli::kExitUsage;
     }
-    CheckOptions options;
+    cli::StreamPrompter prompter(ctx.err, Answer::No, false);
+    LoadedSettings loaded = cli::loadCommandSettings(ctx, prompter);
+    if (!loaded.ok)
+        return cli::kExitUsage;
+    AnalysisContext context = analysisContext(loaded.settings, nullptr);
+    CheckOptions& options = context.check;
     if (auto f = args.value("--date-format"); f && !parseDateFormat(*f, options.dateFormat)) {
         ctx.err << "tavi check: unknown date format " << *f << " (use e.g. MM-DD-YY or DD.MM.YY)\n";
         return cli::kExitUsage;
@@ -108,21 +116,21 @@ int run(cli::CommandContext& ctx) {
     if (auto h = args.value("--require-header"))
         options.requiredHeader = *h;
 
+    AnalysisRequest checkOnly;
+    checkOnly.measure = false;
     std::vector<FileResult> results;
     bool unreadable = false, errors = false;
     for (const std::string& path : args.positional()) {
-        std::error_code ec;
-        std::string bytes;
-        if (std::filesystem::is_directory(path, ec) || !readFile(path, bytes)) {
-            ctx.err << "tavi check: cannot read " << path << '\n';
+        TranscriptAnalysis analysis = analyseFile(path, context, checkOnly);
+        if (analysis.load != LoadStatus::Ok) {
+            ctx.err << "tavi check: "
+                    << (analysis.load == LoadStatus::CannotOpen ? "cannot read " : "corrupted: ")
+                    << path << '\n';
             unreadable = true;
             continue;
         }
-        std::string text = decodeText(bytes).utf8;
-        std::string().swap(bytes);
-        CheckResult check = checkText(text, options);
-        errors = errors || check.hasErrors;
-        results.push_back({path, std::move(check)});
+        errors = errors || analysis.hasErrors();
+        results.push_back({path, std::move(analysis.check)});
     }
     if (args.has("--json"))
         printJson(results, ctx.out);
@@ -144,7 +152,9 @@ const cli::CommandRegistrar reg{
      "Options:\n"
      "  --json                    print one JSON array of {file, code, line, message}\n"
      "  --date-format FORMAT      date format of the DOB and DOE header lines:\n"
-     "                            MM-DD-YY (default) or DD-MM-YY, with -, . or /\n"
+     "                            MM-DD-YY or DD-MM-YY, with -, . or /; the\n"
+     "                            default is the date format of the settings\n"
+     "                            (tavi settings: LANGUAGE DATEMD/DATEDM, DATESEP)\n"
      "  --require-header KEYWORD  warn when this + header line is missing\n\n"
      "Exit status: 0 no errors, 1 a transcript has errors, 2 bad usage or a file\n"
      "that cannot be read.\n",

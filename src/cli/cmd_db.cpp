@@ -9,6 +9,7 @@
 #include "base/format.h"
 #include "base/text.h"
 #include "cli/args.h"
+#include "cli/cli_settings.h"
 #include "cli/command.h"
 #include "cli/stream_prompter.h"
 #include "database/contents_listing.h"
@@ -16,6 +17,7 @@
 #include "database/db_builder.h"
 #include "database/older_format.h"
 #include "database/sample_values.h"
+#include "session/analysis_session.h"
 
 namespace {
 
@@ -61,6 +63,7 @@ public:
     void inform(std::string_view text) override {
         flush();
         held_ = std::string(text);
+        holding_ = true;
     }
     Answer ask(std::string_view text) override {
         flush();
@@ -74,21 +77,22 @@ public:
     }
     // The held message, if it is `summary`; otherwise it goes to stderr.
     bool takeSummary(const std::string& summary) {
-        bool isSummary = held_ && *held_ == summary;
+        bool isSummary = holding_ && held_ == summary;
         if (!isSummary)
             flush();
-        held_.reset();
+        holding_ = false;
         return isSummary;
     }
     void flush() {
-        if (held_)
-            err_ << *held_ << '\n';
-        held_.reset();
+        if (holding_)
+            err_ << held_ << '\n';
+        holding_ = false;
     }
 
 private:
     std::ostream& err_;
-    std::optional<std::string> held_;
+    std::string held_; // a message held back, when `holding_`
+    bool holding_ = false;
 };
 
 int usage(cli::CommandContext& ctx, const std::string& problem) {
@@ -225,20 +229,27 @@ int add(cli::CommandContext& ctx, const cli::Args& args) {
             options.values[f] = *value;
         }
     }
-    CheckOptions check;
+    LoadedSettings loaded = cli::loadCommandSettings(ctx, prompter);
+    if (!loaded.ok) {
+        prompter.flush();
+        return cli::kExitUsage;
+    }
+    AnalysisContext context = analysisContext(loaded.settings, prompter);
+    CheckOptions& check = context.check;
     if (auto format = args.value("--date-format")) {
         if (*format == "DD-MM-YY" || *format == "DD.MM.YY" || *format == "DD/MM/YY")
             check.dateFormat.order = DateOrder::DayMonthYear;
-        else if (*format != "MM-DD-YY" && *format != "MM.DD.YY" && *format != "MM/DD/YY")
+        else if (*format == "MM-DD-YY" || *format == "MM.DD.YY" || *format == "MM/DD/YY")
+            check.dateFormat.order = DateOrder::MonthDayYear;
+        else
             return usage(ctx, "unknown date format " + *format);
         check.dateFormat.separator = (*format)[2];
     }
     options.dateOrder = check.dateFormat.order;
     std::vector<std::string> files(args.positional().begin() + 2, args.positional().end());
     NoProgress progress;
-    BuildResult result =
-        addTranscripts(*db, files, options, standardChecker(check),
-                       analysisValues(check, MeasureOptions{}), prompter, progress);
+    BuildResult result = addTranscripts(*db, files, options, standardChecker(check),
+                                        analysisValues(std::move(context)), prompter, progress);
     bool summaryHeld = prompter.takeSummary(result.summary);
     for (const std::string& line : result.listLines)
         ctx.out << line << '\n';

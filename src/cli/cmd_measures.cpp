@@ -6,15 +6,12 @@
 #include <ostream>
 #include <string>
 
-#include "analysis/measure_settings.h"
 #include "base/format.h"
 #include "cli/args.h"
-#include "cli/cli_settings.h"
+#include "cli/cli_analysis.h"
 #include "cli/command.h"
 #include "cli/stream_prompter.h"
-#include "transcript/checker.h"
 #include "transcript/time_value.h"
-#include "transcript/transcript_file.h"
 
 namespace {
 
@@ -178,7 +175,7 @@ int run(cli::CommandContext& ctx) {
                    {"--json", "--include-incomplete", "--include-unintelligible",
                     "--include-nonverbal", "--exclude-questions", "--exclude-yes-no",
                     "--exclude-prompts", "--exclude-imitations", "--exclude-one-word", "--entire",
-                    "--with-mazes"});
+                    "--with-mazes", cli::kIncludeErrors});
     if (!args.ok())
         return usage(ctx, args.error());
     if (args.positional().size() != 1)
@@ -188,10 +185,10 @@ int run(cli::CommandContext& ctx) {
         return usage(ctx, "--speaker takes 1 or 2");
 
     cli::StreamPrompter prompter(ctx.err, Answer::No, false);
-    LoadedSettings loaded = cli::loadCommandSettings(ctx, prompter);
-    if (!loaded.ok)
-        return cli::kExitFailed;
-    MeasureOptions options = measureOptionsFrom(loaded.settings);
+    std::optional<cli::CommandAnalysis> prepared = cli::prepareAnalysis(ctx, prompter);
+    if (!prepared)
+        return cli::kExitUsage;
+    MeasureOptions& options = prepared->context.measures;
     applyAnalysisSetFlags(args, options.analysisSet);
     if (std::string e = applyCutFlags(args, options.cut); !e.empty())
         return usage(ctx, e);
@@ -209,34 +206,17 @@ int run(cli::CommandContext& ctx) {
         options.wordListSet = static_cast<int>(it - std::begin(names));
     }
 
-    const std::string& path = args.positional().front();
-    LoadedTranscript transcript = loadTranscript(path);
-    if (!transcript.ok)
-        return usage(ctx, "cannot read " + path);
-    CheckOptions checkOptions;
-    checkOptions.keepSegmentation = true;
-    CheckResult check = checkTranscript(transcript.lines, checkOptions);
-    if (check.hasErrors)
-        ctx.err << "tavi measures: " << path << " has " << check.errorCount()
-                << (check.errorCount() == 1 ? " error" : " errors")
-                << "; the measures count the transcript as it stands (see tavi check)\n";
-
-    int speaker = speakerText == "2" ? 1 : 0;
-    if (speaker == 1 && !check.segmented.speakers.hasSecondSpeaker()) {
-        prompter.inform(
-            "Current transcript does not have a 2nd speaker. Speaker setting has been reset.");
-        speaker = 0;
-    }
-    MeasureResources resources = loadMeasureResources(loaded.settings, prompter);
-    resources.attach(options);
-    MeasureResult result = computeMeasures(check.segmented, options);
-    if (std::string_view message = cutOutcomeMessage(result.selection.outcome); !message.empty())
-        prompter.inform(message);
-
+    AnalysisRequest request;
+    request.speaker = speakerText == "2" ? 1 : 0;
+    cli::CommandOutcome outcome =
+        cli::analyseForCommand(ctx, "measures", args.positional().front(), prepared->context,
+                               request, args.has(cli::kIncludeErrors), prompter);
+    if (!outcome.analysis)
+        return outcome.exitStatus;
     if (args.has("--json"))
-        printJson(result.speakers[speaker], ctx.out);
+        printJson(outcome.analysis->measures(), ctx.out);
     else
-        printText(result.speakers[speaker], ctx.out);
+        printText(outcome.analysis->measures(), ctx.out);
     return cli::kExitOk;
 }
 
@@ -266,14 +246,14 @@ const cli::CommandRegistrar reg{
      "  --cut-base total|aset      utterances the cut counts (default total)\n"
      "  --with-mazes               --words counts maze words too\n"
      "  --window N                 moving-average window, 10 to 999\n"
-     "  --word-lists primary|alt1|alt2|other   standard word list set\n\n"
-     "The transcript is checked first. When it has errors, a warning goes to\n"
-     "stderr and the transcript is measured as it stands (exit status 0), as the\n"
-     "desktop program does when the user goes on past the error list. Cut\n"
-     "messages (\"Final cut marker not found - end of transcript used\" ...) go\n"
-     "to stderr too.\n\n"
-     "Exit status: 0 measured, 1 settings could not be loaded, 2 bad usage or a\n"
-     "file that cannot be read.\n",
+     "  --word-lists primary|alt1|alt2|other   standard word list set\n"
+     "  --include-errors           measure a transcript that has errors as it stands\n\n"
+     "The transcript is checked first. When it has errors, its problems go to\n"
+     "stderr and nothing is measured (exit status 1) unless --include-errors is\n"
+     "given. Cut messages (\"Final cut marker not found - end of transcript\n"
+     "used\" ...) go to stderr too.\n\n"
+     "Exit status: 0 measured, 1 the transcript has errors, 2 bad usage, settings\n"
+     "that cannot be loaded or a file that cannot be read.\n",
      run}};
 
 } // namespace

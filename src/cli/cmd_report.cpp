@@ -5,10 +5,9 @@
 #include <ostream>
 #include <string>
 
-#include "analysis/measure_settings.h"
 #include "base/text.h"
 #include "cli/args.h"
-#include "cli/cli_settings.h"
+#include "cli/cli_analysis.h"
 #include "cli/command.h"
 #include "cli/stream_prompter.h"
 #include "reports/grid_writer.h"
@@ -18,11 +17,8 @@
 #include "reports/rtf_writer.h"
 #include "reports/text_writer.h"
 #include "reports/transcript_report.h"
-#include "transcript/check_listing.h"
-#include "transcript/checker.h"
-#include "transcript/transcript_file.h"
 #ifdef TAVI_HAVE_QT
-#include "reports/qt/pdf_writer.h"
+#include "qt/page_setup.h"
 #endif
 
 namespace {
@@ -45,20 +41,16 @@ std::string writeReport(const Report& report, const std::filesystem::path& path,
     if (ext == ".tsv")
         return saveGrid(reportGrid(report), GridFormat::Tsv, path);
 #ifdef TAVI_HAVE_QT
-    if (ext == ".pdf") {
-        qt::PdfPageSetup setup; // the report printing font of the settings
-        if (!settings.printFont.faceName.empty())
-            setup.fontFamily = settings.printFont.faceName;
-        if (settings.printFont.height > 0)
-            setup.bodyPoints = settings.printFont.height;
-        return qt::saveReportPdf(report, path, setup);
-    }
+    if (ext == ".pdf")
+        return qt::saveReportPdf(report, path, qt::pdfPageSetup(settings));
+#else
+    (void)settings;
 #endif
     return "unknown report format " + ext + " (use .txt, .rtf, .pdf, .html, .csv or .tsv)";
 }
 
 int run(cli::CommandContext& ctx) {
-    cli::Args args(ctx.args, {"--speaker", "-o"}, {});
+    cli::Args args(ctx.args, {"--speaker", "-o"}, {cli::kIncludeErrors});
     const auto& positional = args.positional();
     if (!args.ok() || positional.size() != 2) {
         ctx.err << "tavi report: "
@@ -81,47 +73,28 @@ int run(cli::CommandContext& ctx) {
         ctx.err << "tavi report: --speaker takes 1 or 2\n";
         return cli::kExitUsage;
     }
-    request.speaker = speaker == "2" ? 1 : 0;
 
     cli::StreamPrompter prompter(ctx.err, Answer::No, false);
-    LoadedSettings loaded = cli::loadCommandSettings(ctx, prompter);
-    if (!loaded.ok)
+    std::optional<cli::CommandAnalysis> prepared = cli::prepareAnalysis(ctx, prompter);
+    if (!prepared)
         return cli::kExitUsage;
-    const Settings& settings = loaded.settings;
-
     const std::filesystem::path file = positional[1];
-    std::error_code ec;
-    LoadedTranscript transcript;
-    if (!std::filesystem::is_directory(file, ec))
-        transcript = loadTranscript(file.string());
-    if (!transcript.ok) {
-        ctx.err << "tavi report: cannot read " << file.string() << '\n';
-        return cli::kExitUsage;
-    }
-    CheckOptions checkOptions;
-    checkOptions.keepSegmentation = true;
-    CheckResult check = checkTranscript(transcript.lines, checkOptions);
-    if (check.hasErrors) {
-        for (const err& e : check.problems)
-            ctx.err << formatProblem(e) << '\n';
-        ctx.err << "tavi report: " << file.string()
-                << " contains errors; run tavi check and correct them first\n";
-        return cli::kExitFailed;
-    }
+    AnalysisRequest analysisRequest;
+    analysisRequest.speaker = speaker == "2" ? 1 : 0;
+    cli::CommandOutcome outcome =
+        cli::analyseForCommand(ctx, "report", file.string(), prepared->context, analysisRequest,
+                               args.has(cli::kIncludeErrors), prompter);
+    if (!outcome.analysis)
+        return outcome.exitStatus;
 
-    const MeasureResources resources = loadMeasureResources(settings, prompter);
-    request.resources = &resources;
     request.transcriptName = file.filename().string();
-
-    TranscriptReportResult result = buildTranscriptReport(check.segmented, settings, request);
-    for (const auto& message : result.messages)
-        prompter.inform(message);
+    const Report report = buildTranscriptReport(*outcome.analysis, prepared->settings, request);
     const auto output = args.value("-o");
     if (!output) {
-        ctx.out << reportToText(result.report);
+        ctx.out << reportToText(report);
         return cli::kExitOk;
     }
-    if (std::string problem = writeReport(result.report, *output, settings); !problem.empty()) {
+    if (std::string problem = writeReport(report, *output, prepared->settings); !problem.empty()) {
         ctx.err << "tavi report: " << *output << ": " << problem << '\n';
         return problem.rfind("unknown", 0) == 0 ? cli::kExitUsage : cli::kExitFailed;
     }
@@ -139,10 +112,14 @@ const cli::CommandRegistrar reg{
      "chooses the format: .txt, .rtf, .pdf, .html, .csv or .tsv (the last two write\n"
      "the report's lines and tables as cells).\n\n"
      "Options:\n"
-     "  --speaker 1|2   the 1st (default) or 2nd speaker of the transcript\n"
-     "  -o FILE         write the report to FILE\n\n"
+     "  --speaker 1|2      the 1st (default) or 2nd speaker of the transcript\n"
+     "  -o FILE            write the report to FILE\n"
+     "  --include-errors   report on a transcript that has errors as it stands\n\n"
+     "A transcript with errors is refused: its problems go to stderr and the\n"
+     "exit status is 1, unless --include-errors is given.\n\n"
      "Exit status: 0 written, 1 the transcript has errors or the file could not be\n"
-     "written, 2 bad usage or an unreadable transcript.\n",
+     "written, 2 bad usage, settings that cannot be loaded or an unreadable\n"
+     "transcript.\n",
      run}};
 
 } // namespace

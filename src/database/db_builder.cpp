@@ -7,6 +7,7 @@
 #include "base/text.h"
 #include "database/db_fields.h"
 #include "database/db_messages.h"
+#include "session/analysis_session.h"
 #include "transcript/transcript_file.h"
 
 namespace tavi::db {
@@ -122,7 +123,13 @@ private:
 } // namespace
 
 TranscriptChecker standardChecker(CheckOptions options) {
-    return [options](const TranLines& lines) { return checkTranscript(lines, options).hasErrors; };
+    AnalysisContext context;
+    context.check = std::move(options);
+    return [context = std::move(context)](const TranLines& lines) {
+        AnalysisRequest checkOnly;
+        checkOnly.measure = false;
+        return analyseTranscript(lines, context, checkOnly).hasErrors();
+    };
 }
 
 BuildOptions buildOptionsFromHeader(const DescriptiveHeader& info) {

@@ -20,12 +20,11 @@ std::uint16_t small(std::int32_t n) {
 
 } // namespace
 
-SampleValuesFiller analysisValues(CheckOptions check, MeasureOptions measures) {
-    check.keepSegmentation = true;
-    return [check, measures](const TranLines& lines, int speaker, sd2& record) {
-        CheckResult checked = checkTranscript(lines, check);
-        MeasureResult result = computeMeasures(checked.segmented, measures);
-        const SpeakerMeasures& m = result.speakers[speaker == 2 ? 1 : 0];
+SampleValuesFiller analysisValues(AnalysisContext context) {
+    return [context = std::move(context)](const TranLines& lines, int speaker, sd2& record) {
+        const TranscriptAnalysis analysis = analyseTranscript(lines, context);
+        const CheckResult& checked = analysis.check;
+        const SpeakerMeasures& m = analysis.result.speakers[speaker == 2 ? 1 : 0];
         SetValues set{countOf(m[MeasureId::NTW]), countOf(m[MeasureId::TotASetUt]),
                       checked.elapsedSeconds};
         record.setCount = 1;

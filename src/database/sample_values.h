@@ -5,13 +5,13 @@
 // equated by length without recalculating it.
 #pragma once
 
-#include "analysis/measures.h"
 #include "database/db_builder.h"
-#include "transcript/checker.h"
+#include "session/analysis_session.h"
 
 namespace tavi::db {
 
-// Fills the first analysis set's values of a record (set count 1).
-SampleValuesFiller analysisValues(CheckOptions check, MeasureOptions measures);
+// Fills the first analysis set's values of a record (set count 1), analysing
+// the transcript under the context's settings (analysis set, word base, cut).
+SampleValuesFiller analysisValues(AnalysisContext context);
 
 } // namespace tavi::db

@@ -32,26 +32,12 @@ MeasureSource measureSource(const SpeakerMeasures& measures) {
     };
 }
 
-TranscriptReportResult buildTranscriptReport(const SegmentedTranscript& transcript,
-                                             const Settings& settings,
-                                             const TranscriptReportRequest& request) {
-    TranscriptReportResult result;
-    int speaker = request.speaker == 1 ? 1 : 0;
-    if (speaker == 1 && !transcript.speakers.hasSecondSpeaker()) {
-        result.messages.emplace_back(
-            "Current transcript does not have a 2nd speaker. Speaker setting has been reset.");
-        speaker = 0;
-    }
-    MeasureOptions options = measureOptionsFrom(settings);
-    if (request.resources)
-        request.resources->attach(options);
-    const MeasureResult measured = computeMeasures(transcript, options);
-    if (const std::string_view message = cutOutcomeMessage(measured.selection.outcome);
-        !message.empty())
-        result.messages.emplace_back(message);
-
+Report buildTranscriptReport(const TranscriptAnalysis& analysis, const Settings& settings,
+                             const TranscriptReportRequest& request) {
+    const int speaker = analysis.speaker;
+    const SegmentedTranscript& transcript = analysis.check.segmented;
     const LabelSource labels = labelSource(settings.labels, request.slot);
-    const SpeakerMeasures& record = measured.speakers[static_cast<size_t>(speaker)];
+    const SpeakerMeasures& record = analysis.measures();
     const MeasureSource values = measureSource(record);
     TranscriptReportContext context;
     context.transcriptName = request.transcriptName;
@@ -67,10 +53,9 @@ TranscriptReportResult buildTranscriptReport(const SegmentedTranscript& transcri
 
     context.pausesUntimed = record.pausesUntimed;
     context.somePausesUntimed = record.somePausesUntimed;
-    result.report = request.kind == TranscriptReportKind::StandardMeasures
-                        ? buildStandardMeasuresReport(context, values, request.smrVariables, labels)
-                        : buildUtteranceTypesReport(context, values, labels);
-    return result;
+    return request.kind == TranscriptReportKind::StandardMeasures
+               ? buildStandardMeasuresReport(context, values, request.smrVariables, labels)
+               : buildUtteranceTypesReport(context, values, labels);
 }
 
 } // namespace tavi

@@ -52,7 +52,7 @@ struct LanguageSettings {
     std::array<LanguageSlotOptions, kLanguageSlotCount> slots;
     std::string otherName;    // "OTHERNAME": the name of the other language
     bool monthFirst = true;   // "DATEMD" (true) or "DATEDM"
-    char dateSeparator = '/'; // "DATESEP": one of "-", ".", "/"
+    char dateSeparator = '-'; // "DATESEP": one of "-", ".", "/"
     std::string reportLabels; // "RLABELS", kept as written
     std::string plusLabels;   // "PLABELS", kept as written
 

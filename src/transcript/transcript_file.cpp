@@ -24,6 +24,14 @@ LoadedTranscript loadTranscript(const std::filesystem::path& path) {
     return decodeTranscript(bytes);
 }
 
+bool readTranscriptText(const std::filesystem::path& path, std::string& text) {
+    std::string bytes;
+    if (!readFile(path, bytes))
+        return false;
+    text = decodeText(bytes).utf8;
+    return true;
+}
+
 TranLines splitTranscriptLines(std::string_view text) {
     std::vector<std::string_view> parts = splitLines(text);
     TranLines lines;

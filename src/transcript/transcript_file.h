@@ -24,6 +24,10 @@ struct LoadedTranscript {
 // are not valid UTF-8 are read as Windows-1252.
 LoadedTranscript loadTranscript(const std::filesystem::path& path);
 
+// The whole text of a transcript file as UTF-8 (decoded as above), without
+// cutting it into lines; false when the file cannot be read.
+bool readTranscriptText(const std::filesystem::path& path, std::string& text);
+
 // The same for bytes already in memory.
 LoadedTranscript decodeTranscript(std::string_view bytes);
 

@@ -110,7 +110,7 @@ TEST(BatchRun, RowsMatchTheSingleTranscriptMeasures) {
         CheckOptions check;
         check.keepSegmentation = true;
         CheckResult checked = checkTranscript(loadTranscript(files[f]).lines, check);
-        MeasureResult single = computeMeasures(checked.segmented, options.measures);
+        MeasureResult single = computeMeasures(checked.segmented, options.analysis.measures);
         for (int speaker = 0; speaker < 2; ++speaker) {
             const std::vector<std::string>& row = result->data.rows[f * 2 + speaker];
             EXPECT_EQ(row[1], std::to_string(speaker + 1));
@@ -174,8 +174,8 @@ TEST(BatchRun, NothingToRun) {
 
 TEST(BatchRun, CancelStopsTheRunAndMissingCutMarkersAreAsked) {
     BatchRunOptions options = optionsWith({"TotNumUt"});
-    options.measures.cut.startType = TranscriptCut::FromCode;
-    options.measures.cut.startCode = "START";
+    options.analysis.measures.cut.startType = TranscriptCut::FromCode;
+    options.analysis.measures.cut.startCode = "START";
     test::RecordingPrompter prompter;
     prompter.answers = {Answer::No, Answer::Cancel};
     NoProgress progress;

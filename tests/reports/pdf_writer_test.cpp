@@ -10,7 +10,7 @@
 
 #include "base/file_io.h"
 #include "fake_inputs.h"
-#include "reports/qt/pdf_writer.h"
+#include "qt/pdf_writer.h"
 #include "reports/standard_measures_report.h"
 #include "reports/utterance_types_report.h"
 

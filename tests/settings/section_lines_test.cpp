@@ -125,7 +125,7 @@ TEST(SectionLines, LanguageAndTimingAndFontsRoundTrip) {
         readBack({"LANGUAGE ugcalt2_yes", "LANGUAGE DATESEP x", "LANGUAGE UCNOWHERE_YES"},
                  applyLanguageLine);
     EXPECT_TRUE(read.slots[2].ugc);
-    EXPECT_EQ(read.dateSeparator, '/');
+    EXPECT_EQ(read.dateSeparator, '-');
     LanguageSettings expected;
     expected.slots[2].ugc = true;
     EXPECT_EQ(read, expected);

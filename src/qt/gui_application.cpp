@@ -1,5 +1,5 @@
 // The one GUI application object of a command-line run.
-#include "reports/qt/gui_application.h"
+#include "qt/gui_application.h"
 
 #include <QCoreApplication>
 #include <QGuiApplication>

@@ -1,5 +1,5 @@
 // Page layout of reports: blocks measured once, placed on pages, then drawn.
-#include "reports/qt/pdf_writer.h"
+#include "qt/pdf_writer.h"
 
 #include <QBuffer>
 #include <QFont>
@@ -9,7 +9,7 @@
 #include <functional>
 
 #include "base/format.h"
-#include "reports/qt/gui_application.h"
+#include "qt/gui_application.h"
 #include "reports/report_file.h"
 
 namespace tavi::qt {

@@ -1,7 +1,7 @@
-// Measure options from the settings record, and the run-time resources the
-// measures read (standard word lists, grammatical-category dictionary). The
-// desktop program, `tavi measures` and the batch all build their options here,
-// so one transcript gives the same measures everywhere.
+// Checker and measure options from the settings record, and the run-time
+// resources the measures read (standard word lists, grammatical-category
+// dictionary). Every front end builds its options here (through the analysis
+// session), so one transcript gives the same problems and measures everywhere.
 #pragma once
 
 #include <memory>
@@ -11,10 +11,15 @@
 #include "analysis/measures.h"
 #include "analysis/word_lists.h"
 #include "settings/settings.h"
+#include "transcript/checker.h"
 
 namespace tavi {
 
 class Prompter;
+
+// The date format of the "DOB" and "DOE" header lines ("DATEMD"/"DATEDM",
+// "DATESEP") and the header keywords of the primary label slot.
+CheckOptions checkOptionsFrom(const Settings& settings);
 
 // The analysis set, word base, cut and window in force, the code lists
 // ("OMITERR", "FLUENCY", "NONMAINSTREAM", "CODESWITCH" lines holding

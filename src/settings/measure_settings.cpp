@@ -1,5 +1,5 @@
-// Building measure options and resources from the settings.
-#include "analysis/measure_settings.h"
+// Building checker and measure options and resources from the settings.
+#include "settings/measure_settings.h"
 
 #include "base/prompter.h"
 #include "base/text.h"
@@ -46,6 +46,20 @@ void applyWordListSettings(const Settings& s, MeasureOptions& o) {
 }
 
 } // namespace
+
+CheckOptions checkOptionsFrom(const Settings& s) {
+    CheckOptions o;
+    o.dateFormat.order = s.language.monthFirst ? DateOrder::MonthDayYear : DateOrder::DayMonthYear;
+    o.dateFormat.separator = s.language.dateSeparator;
+    auto keyword = [&](std::string_view key, std::string& field) {
+        if (const std::string& text = s.labels.get(LanguageSlot::Primary, key); !text.empty())
+            field = text;
+    };
+    keyword("PL_PLUSDOB", o.dobKeyword);
+    keyword("PL_PLUSDOE", o.doeKeyword);
+    keyword("PL_PLUSCA", o.caKeyword);
+    return o;
+}
 
 MeasureOptions measureOptionsFrom(const Settings& s) {
     MeasureOptions o;
