@@ -3,9 +3,9 @@
 // tallies on the way; the header checks run at the end.
 #include "transcript/checker.h"
 
-#include "base/format.h"
 #include "base/text.h"
 #include "transcript/char_class.h"
+#include "transcript/comments_and_codes.h"
 #include "transcript/err_list.h"
 #include "transcript/header_checks.h"
 #include "transcript/header_line.h"
@@ -62,10 +62,9 @@ struct Checker::State final : ProblemSink {
     int firstUtteranceLine = 0;
     std::array<int, 128> asciiGroup{}; // identifier -> group + 1, for ASCII letters
 
-    void report(int code, std::string message) {
-        list.report(code, line, options.transcriptIndex, std::move(message));
+    void problem(Problem id, std::string message) override {
+        list.report(errCode(id), line, options.transcriptIndex, std::move(message));
     }
-    void problem(int code, std::string message) override { report(code, std::move(message)); }
     void pause(const Pause& p) override;
 
     void check(std::string_view text);
@@ -100,7 +99,7 @@ void Checker::State::check(std::string_view text) {
         return;
     }
     if (kind == LineKind::Invalid) {
-        report(109, "Invalid identifier (" + shown(firstChar(text)) + ")");
+        report(Problem::InvalidLineIdentifier, shown(firstChar(text)));
         return;
     }
     if (kind == LineKind::Utterance) {
@@ -132,70 +131,34 @@ void Checker::State::check(std::string_view text) {
 // The comment and code check of identifier lines: comments and codes are
 // blanked; codes are collected (or, on the "$" line, reported).
 void Checker::State::codesAndComments(std::string& text, std::vector<std::string>* codes) {
-    bool inComment = false, inCode = false;
-    size_t start = 0;
-    auto blank = [&](size_t from, size_t to) {
-        for (size_t k = from; k <= to && k < text.size(); ++k)
-            text[k] = ' ';
-    };
-    for (size_t i = 1; i < text.size(); ++i) {
-        char c = text[i];
-        if (inComment) {
-            if (c == '{') {
-                report(137, "nested {comment}.");
-            } else if (c == '}') {
-                blank(start, i);
-                inComment = false;
+    struct Visitor {
+        State& state;
+        std::string& text;
+        std::vector<std::string>* codes;
+        void problem(Problem id, std::string message) { state.problem(id, std::move(message)); }
+        void comment(size_t, size_t) {}
+        void code(size_t open, size_t close) {
+            if (codes) {
+                codes->push_back(text.substr(open + 1, close - open - 1));
+            } else {
+                state.report(Problem::CodeOnSpeakerLine);
+                state.codeOnSpeakerLine = true;
             }
-        } else if (inCode) {
-            if (c == '[') {
-                report(128, "nested [code].");
-                text[i] = ' ';
-            } else if (c == ']') {
-                if (codes) {
-                    codes->push_back(text.substr(start + 1, i - start - 1));
-                } else {
-                    report(130, "[] not allowed on speaker label line ($).");
-                    codeOnSpeakerLine = true;
-                }
-                blank(start, i);
-                inCode = false;
-            } else if (isBlank(c)) {
-                report(127, "[code] contains blank space.");
-            } else if (c == '@' || c == '=') {
-                report(-5, format("%c is not a legal [code] character.", c));
-            }
-        } else if (c == '{' || c == '[') {
-            (c == '{' ? inComment : inCode) = true;
-            start = i;
-        } else if (c == '}') {
-            report(138, "unmatched {comment}.");
-            text[i] = ' ';
-        } else if (c == ']') {
-            report(126, "unmatched [code].");
-            text[i] = ' ';
         }
-    }
-    if (inComment) {
-        report(138, "unmatched {comment}.");
-        blank(start, text.size());
-    }
-    if (inCode) {
-        report(126, "unmatched [code].");
-        blank(start, text.size());
-    }
+    } visitor{*this, text, codes};
+    scanCommentsAndCodes(text, text.size(), visitor);
 }
 
 void Checker::State::speakerLine(std::string& text) {
     if (speakerLineSeen) {
-        report(102, "more than one $ label line.");
+        report(Problem::SecondSpeakerLine);
         return;
     }
     speakerLineSeen = true;
     bool faulty = codeOnSpeakerLine;
     ParsedSpeakerLine parsed = parseSpeakerLine(std::string_view(text).substr(1));
     for (SpeakerLineProblem& p : parsed.problems)
-        report(p.code, std::move(p.message));
+        problem(p.id, std::move(p.message));
     faulty = faulty || !parsed.problems.empty();
     result.speakers = parsed.table;
     result.segmented.speakers = parsed.table;
@@ -223,12 +186,12 @@ void Checker::State::utteranceLine(std::string_view text) {
     char32_t id = firstChar(text);
     int group = -1;
     if (result.speakerState == SpeakerTableState::NotYetSeen) {
-        report(101, "$ label line not found before 1st utterance.");
+        report(Problem::SpeakerLineMissing);
         result.speakerState = SpeakerTableState::Bad;
     } else {
         group = lookUpSpeaker(id);
         if (group < 0 && result.speakerState == SpeakerTableState::Good)
-            report(109, "invalid identifier (" + shown(id) + ").");
+            report(Problem::UnknownSpeaker, shown(id));
     }
     if (group < 0)
         group = 2;
@@ -257,7 +220,7 @@ void Checker::State::pause(const Pause& p) {
     }
     noteTimedPause(p.seconds, tally);
     if (p.seconds >= 61)
-        report(-8, "within-utterance pause time is 1 minute or longer.");
+        report(Problem::LongUtterancePause);
 }
 
 void Checker::State::noteTimedPause(int seconds, PauseTally& tally) {
@@ -279,25 +242,25 @@ void Checker::State::timingLine(std::string_view text, const std::vector<std::st
     if (entry)
         entry->codes = codes;
     if (!t.valid) {
-        report(132, "illegal timing.");
+        report(Problem::IllegalTiming);
         return;
     }
     if (!t.given) {
-        report(133, "missing timing.");
+        report(Problem::MissingTiming);
         return;
     }
     std::vector<TimingEntry>& timings = result.timings;
     if (timings.empty() && seenUtteranceOrPause) {
-        report(-4, "initial starting time not set (0:00 assumed).");
+        report(Problem::NoStartingTime);
         timings.push_back({0, 0, 0});
     }
     int seconds = t.elapsed();
     if (!timings.empty()) {
         const TimingEntry& last = timings.back();
         if (seconds < last.seconds)
-            report(131, "time is decreasing.");
+            report(Problem::TimeDecreasing);
         else if (seconds == last.seconds && result.utteranceCount > last.utterancesSeen)
-            report(131, "time is not increasing.");
+            report(Problem::TimeNotIncreasing);
     }
     timings.push_back({seconds, result.utteranceCount, line});
     if (entry)
@@ -315,7 +278,7 @@ void Checker::State::pauseLine(std::string_view text, int kind,
         entry->seconds = 0;
     }
     if (!t.valid) {
-        report(135, "illegal pause time.");
+        report(Problem::IllegalPauseTime);
         return;
     }
     PauseTally& tally = result.pauses.pauseLines[kind];
@@ -333,7 +296,7 @@ void Checker::State::sectionLine(std::string_view text) {
     std::vector<atbeginend>& sections = result.segmented.sections;
     if (equalsIgnoreCase(word, "begin")) {
         if (sectionOpen) {
-            report(110, "more than one @begin line without an @end line.");
+            report(Problem::BeginWithoutEnd);
             return;
         }
         sectionOpen = true;
@@ -348,13 +311,13 @@ void Checker::State::sectionLine(std::string_view text) {
             unmatchedEndUsed = true;
             sections.push_back({firstUtteranceLine != 0 ? firstUtteranceLine : line, line});
         } else {
-            report(110, "more than one @end line without an @begin line.");
+            report(Problem::EndWithoutBegin);
             return;
         }
         if (options.keepSegmentation)
             addEntry(EntryKind::End);
     } else {
-        report(110, "illegal @begin or @end entry.");
+        report(Problem::IllegalSectionLine);
     }
 }
 
@@ -363,14 +326,12 @@ void Checker::State::finish() {
     HeaderCheckOptions headerOptions{options.dateFormat, options.dobKeyword, options.doeKeyword,
                                      options.caKeyword, options.requiredHeader};
     result.ageMonths = checkHeaders(
-        result.segmented.headers, headerOptions, [this](int code, int at, std::string message) {
-            list.report(code, at, options.transcriptIndex, std::move(message));
+        result.segmented.headers, headerOptions, [this](Problem id, int at, std::string message) {
+            list.report(errCode(id), at, options.transcriptIndex, std::move(message));
         });
     const PauseTallies& p = result.pauses;
     if (p.firstTimedLine != 0 && p.firstUntimedLine != 0)
-        report(-7, format("some pauses are timed (see line %d) and some are not timed (see "
-                          "line %d)",
-                          p.firstTimedLine, p.firstUntimedLine));
+        report(Problem::MixedPauseTiming, p.firstTimedLine, p.firstUntimedLine);
     if (!result.timings.empty())
         result.elapsedSeconds = result.timings.back().seconds - result.timings.front().seconds;
     long long pauseSeconds = 0;
@@ -379,7 +340,7 @@ void Checker::State::finish() {
     for (const PauseTally& t : p.withinUtterance)
         pauseSeconds += t.timedSeconds;
     if (result.elapsedSeconds > 0 && pauseSeconds >= result.elapsedSeconds)
-        report(136, "pause time exceeds elapsed time");
+        report(Problem::PauseExceedsElapsed);
     result.hasErrors = list.hasErrors();
     result.hasWarnings = list.hasWarnings();
     result.problems = list.records();

@@ -92,7 +92,10 @@ std::optional<int> readAge(std::string_view text) {
 }
 
 int checkHeaders(const std::vector<HeaderLine>& headers, const HeaderCheckOptions& options,
-                 const HeaderReport& report) {
+                 const HeaderReport& reportTo) {
+    auto report = [&]<class... A>(ProblemRef<A...> p, int line, const A&... args) {
+        reportTo(p.id, line, problemText(p, args...));
+    };
     auto find = [&](const std::string& keyword) -> const HeaderLine* {
         for (const HeaderLine& h : headers)
             if (equalsIgnoreCase(h.keyword, keyword))
@@ -100,7 +103,7 @@ int checkHeaders(const std::vector<HeaderLine>& headers, const HeaderCheckOption
         return nullptr;
     };
     if (!options.required.empty() && !find(options.required))
-        report(-3, 1, "missing + " + options.required + ": header line.");
+        report(Problem::MissingHeader, 1, options.required);
 
     const std::string formatText = options.dateFormat.text();
     auto readDateLine = [&](const HeaderLine* h, const std::string& keyword, Date& date) -> bool {
@@ -108,11 +111,9 @@ int checkHeaders(const std::vector<HeaderLine>& headers, const HeaderCheckOption
             return false;
         DateStatus status = readDate(h->value, options.dateFormat, date);
         if (status == DateStatus::Unreadable)
-            report(-1, h->line, "incorrect + " + keyword + ": header line format.");
+            report(Problem::HeaderFormat, h->line, keyword);
         else if (status == DateStatus::WrongFormat)
-            report(-1, h->line,
-                   "incorrect + " + keyword + ": header line format (current date format is " +
-                       formatText + ").");
+            report(Problem::HeaderDateFormat, h->line, keyword, formatText);
         return status == DateStatus::Ok;
     };
     const HeaderLine* dobLine = find(options.dob);
@@ -124,9 +125,7 @@ int checkHeaders(const std::vector<HeaderLine>& headers, const HeaderCheckOption
     if (haveDob && haveDoe) {
         long long months = monthsBetween(dob, doe);
         if (months < 0 || months > kMaxAgeMonths)
-            report(-1, dobLine->line,
-                   "incorrect + " + options.dob + ": or + " + options.doe +
-                       ": header line formats (current date format is " + formatText + ").");
+            report(Problem::HeaderDatesApart, dobLine->line, options.dob, options.doe, formatText);
         else
             age = static_cast<int>(months);
     }
@@ -135,14 +134,12 @@ int checkHeaders(const std::vector<HeaderLine>& headers, const HeaderCheckOption
         return age;
     std::optional<int> ca = readAge(caLine->value);
     if (!ca || *ca > kMaxAgeMonths) {
-        report(-1, caLine->line, "incorrect + " + options.ca + ": header line format.");
+        report(Problem::HeaderFormat, caLine->line, options.ca);
         return age;
     }
     if (age >= 0 && *ca != age)
-        report(-2, caLine->line,
-               "+ " + options.ca +
-                   ": header line contains incorrect age (current date format for +" + options.dob +
-                   " and +" + options.doe + " is " + formatText + ").");
+        report(Problem::AgeMismatch, caLine->line, options.ca, options.dob, options.doe,
+               formatText);
     return *ca;
 }
 

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "transcript/date_format.h"
+#include "transcript/problems.h"
 #include "transcript/segmented_transcript.h"
 
 namespace tavi {
@@ -22,7 +23,7 @@ struct HeaderCheckOptions {
     std::string required; // empty: none required
 };
 
-using HeaderReport = std::function<void(int code, int line, std::string message)>;
+using HeaderReport = std::function<void(Problem id, int line, std::string message)>;
 
 // Runs the checks and returns the age in months (the "CA" value when it is
 // readable, else the age from the dates), or -1 when there is none.

@@ -8,10 +8,10 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "base/format.h"
 #include "base/text.h"
 #include "transcript/char_class.h"
 #include "transcript/code_points.h"
+#include "transcript/comments_and_codes.h"
 #include "transcript/word_split.h"
 
 namespace tavi {
@@ -59,9 +59,9 @@ public:
     void run();
 
 private:
-    void report(int code, const char* message) {
+    template <class... A> void report(ProblemRef<A...> p, const A&... args) {
         if (sink_)
-            sink_->problem(code, message);
+            sink_->report(p, args...);
     }
     void blank(size_t first, size_t last) {
         for (size_t i = first; i <= last && i < end_; ++i)
@@ -108,7 +108,7 @@ private:
 
 void LineCutter::run() {
     if (buf_.size() < 2 || !(cls::isSpace(buf_[1]) || cls::isTerminator(buf_[1]))) {
-        report(120, "speaker id is not followed by blank space.");
+        report(Problem::NoBlankAfterSpeaker);
         out_.hasTerminator = false;
         out_.words.clear();
         return;
@@ -118,9 +118,9 @@ void LineCutter::run() {
     if (anyPresent(kCodeOrComment))
         commentsAndCodes();
     if (missingTerminator_)
-        report(108, "missing end of utterance punctuation.");
+        report(Problem::MissingTerminator);
     else if (textAfterEnd_)
-        report(112, "characters found after end of utterance.");
+        report(Problem::TextAfterTerminator);
     if (nonAscii_ || anyPresent(kParenOrQuote))
         parentheticals();
     if (anyPresent(kMazeOrOverlap))
@@ -190,60 +190,23 @@ void LineCutter::notePresentCharacters() {
 }
 
 void LineCutter::commentsAndCodes() {
-    bool inComment = false, inCode = false;
-    size_t start = 0;
-    for (size_t i = 1; i < end_; ++i) {
-        char32_t c = buf_[i];
-        if (inComment) {
-            if (c == U'{') {
-                report(137, "nested {comment}.");
-            } else if (c == U'}') {
-                blank(start, i);
-                inComment = false;
-                out_.hasComment = true;
-            }
-        } else if (inCode) {
-            if (c == U'[') {
-                report(128, "nested [code].");
-                buf_[i] = kBlank;
-            } else if (c == U']') {
-                bool attached = isAttachedCode(start);
-                out_.codes.push_back(
-                    Code{utf8(std::u32string_view(buf_).substr(start + 1, i - start - 1)), -1, -1});
-                codePositions_.push_back(start);
-                codeAttached_.push_back(attached);
-                lastCodeEnd_ = i;
-                blank(start, i);
-                inCode = false;
-            } else if (cls::isSpace(c)) {
-                report(127, "[code] contains blank space.");
-            } else if (c == U'@' || c == U'=') {
-                if (sink_)
-                    sink_->problem(
-                        -5, format("%c is not a legal [code] character.", static_cast<char>(c)));
-            }
-        } else if (c == U'{') {
-            inComment = true;
-            start = i;
-        } else if (c == U'}') {
-            report(138, "unmatched {comment}.");
-            buf_[i] = kBlank;
-        } else if (c == U'[') {
-            inCode = true;
-            start = i;
-        } else if (c == U']') {
-            report(126, "unmatched [code].");
-            buf_[i] = kBlank;
+    struct Visitor {
+        LineCutter& cut;
+        void problem(Problem id, std::string message) {
+            if (cut.sink_)
+                cut.sink_->problem(id, std::move(message));
         }
-    }
-    if (inComment) {
-        report(138, "unmatched {comment}.");
-        blank(start, end_ - 1);
-    }
-    if (inCode) {
-        report(126, "unmatched [code].");
-        blank(start, end_ - 1);
-    }
+        void comment(size_t, size_t) { cut.out_.hasComment = true; }
+        void code(size_t open, size_t close) {
+            bool attached = cut.isAttachedCode(open);
+            cut.out_.codes.push_back(Code{
+                utf8(std::u32string_view(cut.buf_).substr(open + 1, close - open - 1)), -1, -1});
+            cut.codePositions_.push_back(open);
+            cut.codeAttached_.push_back(attached);
+            cut.lastCodeEnd_ = close;
+        }
+    } visitor{*this};
+    scanCommentsAndCodes(buf_, end_, visitor);
 }
 
 // "((" ... "))": the inner text is kept as a parenthetical remark and blanked
@@ -259,7 +222,7 @@ void LineCutter::parentheticals() {
         bool pairNext = i + 1 < end_ && buf_[i + 1] == c;
         if (c == U'(' && pairNext) {
             if (isOpen) {
-                report(124, "nested ((parenthetical remarks)).");
+                report(Problem::NestedParenthetical);
                 blank(i, i + 1);
             } else {
                 isOpen = true;
@@ -277,7 +240,7 @@ void LineCutter::parentheticals() {
                 continue;
             }
             if (mazeDepth == 0) {
-                report(125, "unmatched ((parenthetical)).");
+                report(Problem::UnmatchedParenthetical);
                 blank(i, i + 1);
                 i += 2;
                 continue;
@@ -291,7 +254,7 @@ void LineCutter::parentheticals() {
             } else if (inner > 0) {
                 --inner;
             } else {
-                report(124, "incorrect nesting of (mazes) and ((parenthetical remarks)).");
+                report(Problem::MazeInParenthetical);
                 buf_[i] = kBlank;
             }
         } else if (cls::isSeparator(c)) {
@@ -303,7 +266,7 @@ void LineCutter::parentheticals() {
         ++i;
     }
     if (isOpen) {
-        report(125, "unmatched ((parenthetical)).");
+        report(Problem::UnmatchedParenthetical);
         blank(open, open + 1);
         for (size_t k = open + 2; k < end_; ++k)
             if (cls::isSeparator(buf_[k]))
@@ -329,7 +292,7 @@ void LineCutter::mazesAndOverlaps() {
         switch (buf_[i]) {
         case U'(':
             if (mazeOpen) {
-                report(124, "nested (maze).");
+                report(Problem::NestedMaze);
                 buf_[i] = kBlank;
             } else {
                 mazeOpen = true;
@@ -338,7 +301,7 @@ void LineCutter::mazesAndOverlaps() {
             break;
         case U')':
             if (!mazeOpen) {
-                report(125, "unmatched (maze).");
+                report(Problem::UnmatchedMaze);
             } else {
                 mazes_.push_back({maze, i});
                 buf_[maze] = kBlank;
@@ -348,7 +311,7 @@ void LineCutter::mazesAndOverlaps() {
             break;
         case U'<':
             if (overlapOpen) {
-                report(139, "nested <overlap>.");
+                report(Problem::NestedOverlap);
                 buf_[i] = kBlank;
             } else {
                 overlapOpen = true;
@@ -357,7 +320,7 @@ void LineCutter::mazesAndOverlaps() {
             break;
         case U'>':
             if (!overlapOpen) {
-                report(140, "unmatched <overlap>.");
+                report(Problem::UnmatchedOverlap);
             } else {
                 overlaps_.push_back({overlap, i});
                 buf_[overlap] = kBlank;
@@ -370,11 +333,11 @@ void LineCutter::mazesAndOverlaps() {
         }
     }
     if (mazeOpen) {
-        report(125, "unmatched (maze).");
+        report(Problem::UnmatchedMaze);
         buf_[maze] = kBlank;
     }
     if (overlapOpen) {
-        report(140, "unmatched <overlap>.");
+        report(Problem::UnmatchedOverlap);
         buf_[overlap] = kBlank;
     }
     out_.hasOverlap = !overlaps_.empty();
@@ -409,11 +372,10 @@ void LineCutter::pausesAndCharacters() {
         if (c == U':') {
             i = readPause(i);
         } else if (cls::isTerminator(c)) {
-            report(112, "characters found after end of utterance");
+            report(Problem::TerminatorInUtterance);
             buf_[i] = kBlank;
         } else if ((cls::isLineIdentifier(c) && c != U'+') || cls::isControl(c)) {
-            if (sink_)
-                sink_->problem(118, "utterance contains invalid character (" + shown(c) + ").");
+            report(Problem::InvalidCharacter, shown(c));
             buf_[i] = kBlank;
         }
     }
@@ -453,7 +415,7 @@ size_t LineCutter::readPause(size_t colon) {
         if (sink_)
             sink_->pause(pause);
     } else {
-        report(134, "illegal within-utterance pause time.");
+        report(Problem::IllegalUtterancePause);
     }
     blank(first, last - 1);
     return last - 1;
@@ -470,8 +432,8 @@ void LineCutter::words() {
     bool linkMalformed = false;
     std::string linkShown; // the pieces as written, for messages
     auto closeLink = [&](bool complete) {
-        if (!complete && sink_)
-            sink_->problem(143, "unmatched word link (" + linkShown + ").");
+        if (!complete)
+            report(Problem::UnmatchedWordLink, linkShown);
         if (!complete && !scratch_.empty() && scratch_.back() == U'_')
             scratch_.pop_back();
         addWord(scratch_, linkPosition, complete, linkMalformed);
@@ -492,7 +454,7 @@ void LineCutter::words() {
         bool opens = piece.size() > 1 && piece.back() == U'_';
         bool continues = piece.size() > 1 && piece.front() == U'_';
         if (piece == U"_") {
-            report(143, "unattached word link character (_)");
+            report(Problem::LoneWordLink);
             continue;
         }
         bool malformed = anyPresent(kLink) && !wellFormedLinkPiece(piece, !continues, !opens);
@@ -508,7 +470,7 @@ void LineCutter::words() {
             closeLink(false);
         if (continues) {
             if (sink_)
-                sink_->problem(143, "unmatched word link (" + utf8(piece) + ").");
+                report(Problem::UnmatchedWordLink, utf8(piece));
             piece.remove_prefix(1);
             ++start;
         }
@@ -565,7 +527,7 @@ Word& LineCutter::nextWordSlot() {
 
 void LineCutter::addWord(std::u32string_view text, size_t position, bool linked, bool malformed) {
     if (malformed && sink_)
-        sink_->problem(143, "incorrect format for linked word (" + utf8(text) + ").");
+        report(Problem::MalformedLinkedWord, utf8(text));
     linked = linked || malformed;
     if (checkOnly_) {
         if (!linked && isPlainWord(text))

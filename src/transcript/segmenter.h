@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "transcript/problems.h"
 #include "transcript/segmented_transcript.h"
 #include "transcript/tran_line.h"
 #include "transcript/utterance.h"
@@ -18,7 +19,10 @@ namespace tavi {
 class ProblemSink {
 public:
     virtual ~ProblemSink() = default;
-    virtual void problem(int code, std::string message) = 0;
+    virtual void problem(Problem id, std::string message) = 0;
+    template <class... A> void report(ProblemRef<A...> p, const A&... args) {
+        problem(p.id, problemText(p, args...));
+    }
     // A within-utterance pause, at the moment it is read (the checker tallies it).
     virtual void pause(const Pause&) {}
 };

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 
-#include "base/format.h"
 #include "base/text.h"
 #include "transcript/char_class.h"
 
@@ -61,31 +60,31 @@ char32_t firstCodePoint(std::string_view s) {
 
 ParsedSpeakerLine parseSpeakerLine(std::string_view text) {
     ParsedSpeakerLine result;
+    auto report = [&]<class... A>(ProblemRef<A...> p, const A&... args) {
+        result.problems.push_back({p.id, problemText(p, args...)});
+    };
     std::vector<std::string_view> groups = splitGroups(text);
     std::vector<char32_t> firstLetters;
     for (size_t g = 0; g < groups.size(); ++g) {
         if (g == 3) {
-            result.problems.push_back({103, format("more than %d speaker groups.", 3)});
+            report(Problem::TooManySpeakerGroups);
             break;
         }
         std::vector<std::string_view> labels = splitLabels(groups[g]);
         if (labels.empty()) {
-            result.problems.push_back({104, "missing speaker label."});
+            report(Problem::MissingSpeakerLabel);
             continue;
         }
         for (std::string_view label : labels) {
             result.table.groups[g].labels.emplace_back(label);
             char32_t first = firstCodePoint(label);
             if (!cls::isWordChar(first)) {
-                result.problems.push_back(
-                    {106, "speaker (" + std::string(label) +
-                              ") does not begin with a legal word character."});
+                report(Problem::SpeakerLabelStart, label);
                 continue;
             }
             char32_t folded = cls::foldCase(first);
             if (std::find(firstLetters.begin(), firstLetters.end(), folded) != firstLetters.end()) {
-                result.problems.push_back(
-                    {105, "1st letter of speaker label (" + toUtf8(first) + ") not unique."});
+                report(Problem::SpeakerLetterNotUnique, toUtf8(first));
             } else if (firstLetters.size() < kMaxFirstLetters) {
                 firstLetters.push_back(folded);
             }

@@ -7,12 +7,13 @@
 #include <string_view>
 #include <vector>
 
+#include "transcript/problems.h"
 #include "transcript/segmented_transcript.h"
 
 namespace tavi {
 
 struct SpeakerLineProblem {
-    int code = 0;
+    Problem id;
     std::string message;
 };
 

@@ -20,9 +20,9 @@ public:
     bool run();
 
 private:
-    void report(int code, const char* message) {
+    template <class... A> void report(ProblemRef<A...> p, const A&... args) {
         if (sink_)
-            sink_->problem(code, message);
+            sink_->report(p, args...);
     }
     bool plainWord();
     void checkRootIdentification();
@@ -43,7 +43,7 @@ bool WordSplitter::run() {
     if (plainWord())
         return true;
     if (w_.starts_with(U'+')) {
-        report(-6, "+ should not be used to mark unbound clitics (ignored).");
+        report(Problem::UnboundCliticMark);
         w_.remove_prefix(1);
         if (w_.empty())
             return false;
@@ -91,7 +91,7 @@ void WordSplitter::checkRootIdentification() {
         word_.rootIdentification = utf8(root);
     }
     if (bad)
-        report(119, "bad root identification format (|).");
+        report(Problem::RootIdentificationFormat);
 }
 
 // "*" and "%" after the first character.
@@ -102,22 +102,22 @@ void WordSplitter::checkMarks() {
         if (c == U'*' && before != U'/' && before != U'+') {
             char32_t after = i + 1 < w_.size() ? w_[i + 1] : 0;
             if (after == U'/')
-                report(117, "bad omitted bound morpheme form (use /*).");
+                report(Problem::OmittedBoundMorphemeForm);
             else if (after == U'+')
-                report(141, "bad omitted bound clitic form (use +*).");
+                report(Problem::OmittedBoundCliticForm);
             else if (w_[0] == U'*')
-                report(114, "incomplete word cannot begin with *.");
+                report(Problem::IncompleteWordStar);
             else if (after == 0)
                 word_.incomplete = true;
         } else if (c == U'%' && before != U'|') {
-            report(115, "% may only be used at the beginning of a word.");
+            report(Problem::MisplacedPercent);
         }
     }
 }
 
 void WordSplitter::splitStem(std::u32string_view stem, char32_t nextMark) {
     if (stem.empty()) {
-        report(121, "missing word root");
+        report(Problem::MissingRoot);
         return;
     }
     if (stem.starts_with(U'*')) {
@@ -125,9 +125,9 @@ void WordSplitter::splitStem(std::u32string_view stem, char32_t nextMark) {
         stem.remove_prefix(1);
         if (stem.empty()) {
             if (nextMark == U'+')
-                report(141, "bad omitted clitic form (use +*).");
+                report(Problem::OmittedCliticForm);
             else
-                report(116, "bad omitted word form (missing word).");
+                report(Problem::OmittedWordForm);
             word_.root = "*@";
             return;
         }
@@ -136,7 +136,7 @@ void WordSplitter::splitStem(std::u32string_view stem, char32_t nextMark) {
         word_.idiosyncratic = true;
         stem.remove_prefix(1);
         if (stem.empty()) {
-            report(115, "bad idiosyncratic form (missing word).");
+            report(Problem::IdiosyncraticWithoutWord);
             return;
         }
     }
@@ -148,9 +148,9 @@ void WordSplitter::splitStem(std::u32string_view stem, char32_t nextMark) {
             size_t cut = prefixes.find(U'\\');
             std::u32string_view prefix = prefixes.substr(0, cut);
             if (prefix.empty())
-                report(123, "missing bound morpheme (prefix).");
+                report(Problem::MissingPrefix);
             else if (!legalEnding(prefix))
-                report(123, "illegal bound morpheme (prefix).");
+                report(Problem::IllegalPrefix);
             else
                 word_.prefixes.push_back(utf8(prefix));
             if (cut == std::u32string_view::npos)
@@ -158,12 +158,12 @@ void WordSplitter::splitStem(std::u32string_view stem, char32_t nextMark) {
             prefixes.remove_prefix(cut + 1);
         }
         if (slash + 1 == stem.size())
-            report(121, "missing word root");
+            report(Problem::MissingRoot);
     }
     assignUtf8(word_.root, stem);
     std::u32string_view root = slash == std::u32string_view::npos ? stem : stem.substr(slash + 1);
     if (!root.empty() && !legalRoot(root))
-        report(122, "illegal word.");
+        report(Problem::IllegalWord);
     word_.unintelligible = !word_.omitted && isUnintelligibleMark(root);
 }
 
@@ -180,11 +180,17 @@ void WordSplitter::splitEndings(std::u32string_view rest) {
         if (omitted)
             ending.remove_prefix(1);
         if (ending.empty()) {
-            report(123, bound ? "missing bound morpheme." : "missing clitic.");
+            if (bound)
+                report(Problem::MissingBoundMorpheme);
+            else
+                report(Problem::MissingClitic);
             continue;
         }
         if (!legalEnding(ending)) {
-            report(123, bound ? "illegal bound morpheme." : "illegal bound clitic.");
+            if (bound)
+                report(Problem::IllegalBoundMorpheme);
+            else
+                report(Problem::IllegalClitic);
             continue;
         }
         std::vector<std::string>& list =
