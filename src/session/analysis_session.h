@@ -65,7 +65,7 @@ struct TranscriptAnalysis {
     std::vector<std::string> messages() const;
 };
 
-// "Current transcript does not have a 2nd speaker. Speaker setting has been reset."
+// What is said when the 2nd speaker is asked for and the transcript has none.
 std::string_view speakerResetMessage();
 
 // Analyses transcript lines (the desktop program's open document).
