@@ -76,26 +76,33 @@ QAction* CMainFrame::action(const QString& id) const {
     return it == actions_.end() ? nullptr : it->second;
 }
 
-void CMainFrame::on(const char* id, std::function<void()> run, std::function<bool()> enabled) {
-    commands_[QString::fromLatin1(id)] = {std::move(run), std::move(enabled)};
+QAction* CMainFrame::action(CommandId id) const {
+    const auto it = commandActions_.find(id);
+    return it == commandActions_.end() ? nullptr : it->second;
 }
 
+void CMainFrame::on(CommandId id, std::function<void()> run, std::function<bool()> enabled) {
+    commands_.add(id, std::move(run), std::move(enabled));
+}
+
+// A command is offered when it is marked working and has a handler; the
+// desktop tests make sure the two agree.
 QAction* CMainFrame::makeAction(const MenuEntry& entry) {
-    const QString id = QString::fromLatin1(entry.id);
+    const CommandId command = entry.command;
+    const QString id = QString::fromLatin1(commandName(command));
     auto* act = new QAction(QString::fromUtf8(entry.text), this);
     act->setObjectName(id);
     const auto [prompt, tip] = promptAndTip(entry);
     if (*entry.shortcut)
         act->setShortcut(QKeySequence(QString::fromLatin1(entry.shortcut)));
-    if (commands_.count(id)) {
+    if (commandStatus(command) == CommandStatus::Working && commands_.has(command)) {
         act->setStatusTip(prompt);
         act->setToolTip(tip);
-        connect(act, &QAction::triggered, this, [this, id] {
+        connect(act, &QAction::triggered, this, [this, command] {
             updateCommands();
-            const Command& c = commands_[id];
-            if (!c.enabled || c.enabled())
-                c.run();
+            commands_.run(command);
         });
+        commandActions_[command] = act;
     } else {
         act->setStatusTip(notAvailablePrompt(prompt));
         act->setToolTip(notAvailablePrompt(tip));
@@ -128,7 +135,7 @@ void CMainFrame::buildMenus() {
             break;
         case EntryKind::Heading: {
             QAction* label = current->addAction(QString::fromUtf8(entry.text));
-            label->setObjectName(QString::fromLatin1(entry.id));
+            label->setObjectName(QString::fromLatin1(entry.name));
             label->setEnabled(false);
             QFont bold = label->font();
             bold.setBold(true);
@@ -141,7 +148,7 @@ void CMainFrame::buildMenus() {
             break;
         case EntryKind::RecentFiles:
             recentAnchor_ = current->addSeparator();
-            recentAnchor_->setObjectName(QString::fromLatin1(entry.id));
+            recentAnchor_->setObjectName(QString::fromLatin1(entry.name));
             recentAnchor_->setVisible(false);
             connect(current, &QMenu::aboutToShow, this, &CMainFrame::refreshRecentFiles);
             break;
@@ -165,9 +172,9 @@ QMenu* CMainFrame::makeContextMenu(std::span<const MenuEntry> table) {
             menu->addSeparator();
             continue;
         }
-        QAction* target = action(QString::fromLatin1(entry.id));
+        QAction* target = action(QString::fromLatin1(entryName(entry)));
         QAction* item = menu->addAction(QString::fromUtf8(entry.text));
-        item->setObjectName(QString::fromLatin1(entry.id));
+        item->setObjectName(QString::fromLatin1(entryName(entry)));
         item->setEnabled(target && target->isEnabled());
         if (target) {
             item->setStatusTip(target->statusTip());
@@ -178,12 +185,8 @@ QMenu* CMainFrame::makeContextMenu(std::span<const MenuEntry> table) {
 }
 
 void CMainFrame::updateCommands() {
-    for (auto& [id, act] : actions_) {
-        const auto it = commands_.find(id);
-        if (it == commands_.end())
-            continue;
-        act->setEnabled(!it->second.enabled || it->second.enabled());
-    }
+    for (auto& [id, act] : commandActions_)
+        act->setEnabled(commands_.enabled(id));
 }
 
 void CMainFrame::refreshRecentFiles() {

@@ -11,6 +11,7 @@
 #include <map>
 #include <span>
 
+#include "app/command_registry.h"
 #include "app/command_table.h"
 #include "app/rept_doc.h"
 
@@ -36,6 +37,9 @@ public:
     QMdiArea& mdiArea() { return *mdi_; }
     // The action of a command of the main menu by its identifier.
     QAction* action(const QString& id) const;
+    QAction* action(CommandId id) const;
+    // Every command's handler.
+    const CommandRegistry& commands() const { return commands_; }
     // The texts of the status-bar prompt for commands not built yet.
     static QString notAvailablePrompt(const QString& prompt);
 
@@ -58,15 +62,10 @@ protected:
     void closeEvent(QCloseEvent* e) override;
 
 private:
-    struct Command {
-        std::function<void()> run;
-        std::function<bool()> enabled; // empty: always
-    };
-
     void buildMenus();
     QAction* makeAction(const MenuEntry& entry);
     void registerCommands();
-    void on(const char* id, std::function<void()> run, std::function<bool()> enabled = {});
+    void on(CommandId id, std::function<void()> run, std::function<bool()> enabled = {});
     void refreshRecentFiles();
     void refreshWindowList();
     void addFrame(QMdiSubWindow* frame);
@@ -117,8 +116,9 @@ private:
 
     CTAVIApp& app_;
     QMdiArea* mdi_;
-    std::map<QString, Command> commands_;
+    CommandRegistry commands_;
     std::map<QString, QAction*> actions_;
+    std::map<CommandId, QAction*> commandActions_;
     QAction* recentAnchor_ = nullptr;
     QList<QAction*> recentActions_;
     QMenu* windowMenu_ = nullptr;
