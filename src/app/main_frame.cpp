@@ -312,7 +312,7 @@ CTAVIFrame* CMainFrame::openTranscript(const QString& path) {
     }
     app_.addRecentFile(absolute);
     frame->view().moveCursor(QTextCursor::Start);
-    frame->view().checkNow();
+    frame->doc().checkNow();
     return frame;
 }
 

@@ -75,12 +75,12 @@ TEST_F(ReportTest, CheckListsProblemsInLineOrderAndGoesToTheirLines) {
     EXPECT_TRUE(list.item(0)->text().startsWith("E108 on entry 3: "))
         << list.item(0)->text().toStdString();
     int previous = 0;
-    for (const err& e : f->view().problems()) {
+    for (const err& e : f->doc().problems()) {
         EXPECT_GE(e.line, previous);
         previous = e.line;
     }
     dialog->goToRow(list.count() - 1);
-    EXPECT_EQ(f->view().textCursor().blockNumber() + 1, f->view().problems().back().line);
+    EXPECT_EQ(f->view().textCursor().blockNumber() + 1, f->doc().problems().back().line);
     dialog->close();
 
     // Before an analysis the same list asks whether to go on; Cancel stops it.
