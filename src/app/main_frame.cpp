@@ -8,6 +8,7 @@
 #include <QStatusBar>
 #include <vector>
 
+#include "app/child_frame.h"
 #include "app/rept_doc.h"
 #include "app/rept_frame.h"
 #include "app/rept_view.h"
@@ -242,6 +243,10 @@ QMdiSubWindow* CMainFrame::currentWindow() const {
     return current_ && mdi_->subWindowList().contains(current_.data()) ? current_.data() : nullptr;
 }
 
+CChildFrame* CMainFrame::activeChild() const {
+    return qobject_cast<CChildFrame*>(currentWindow());
+}
+
 CTAVIFrame* CMainFrame::activeTranscriptFrame() const {
     return qobject_cast<CTAVIFrame*>(currentWindow());
 }
@@ -266,9 +271,14 @@ QList<CReptFrame*> CMainFrame::reportFrames() const {
     return frames;
 }
 
-void CMainFrame::addFrame(QMdiSubWindow* frame) {
+// Every document window: its context menu, and the menus refreshed when
+// what they depend on changes.
+void CMainFrame::addFrame(CChildFrame* frame) {
     mdi_->addSubWindow(frame);
     connect(frame, &QObject::destroyed, this, &CMainFrame::updateCommands, Qt::QueuedConnection);
+    connect(frame, &CChildFrame::commandsChanged, this, &CMainFrame::updateCommands);
+    connect(frame, &CChildFrame::contextMenuWanted, this,
+            [this, frame](QPoint at) { makeContextMenu(frame->contextTable())->popup(at); });
     frame->resize(mdi_->size() * 0.8);
     frame->show();
     mdi_->setActiveSubWindow(frame);
@@ -278,14 +288,7 @@ void CMainFrame::addFrame(QMdiSubWindow* frame) {
 
 CTAVIFrame* CMainFrame::newTranscript(const QString& text) {
     auto* doc = new CTAVIDoc(app_, ++untitledCount_);
-    auto* frame = new CTAVIFrame(doc, [this](CTAVIFrame& f) { return saveTranscript(f, false); });
-    connect(&frame->view(), &CTAVIView::contextMenuWanted, this,
-            [this](QPoint at) { makeContextMenu(transcriptContextTable())->popup(at); });
-    connect(doc, &CTAVIDoc::backupFailed, this, [this](const QString& path) {
-        app_.prompter().inform(backupFailedMessage(path.toStdString()));
-    });
-    connect(doc->document(), &QTextDocument::undoAvailable, this, &CMainFrame::updateCommands);
-    connect(doc->document(), &QTextDocument::redoAvailable, this, &CMainFrame::updateCommands);
+    auto* frame = new CTAVIFrame(doc);
     addFrame(frame);
     applyFonts();
     if (!text.isEmpty()) {
@@ -318,22 +321,26 @@ CTAVIFrame* CMainFrame::openTranscript(const QString& path) {
 
 CReptFrame* CMainFrame::showReport(ReportContent content, CTAVIDoc* source) {
     auto* doc = new CReptDoc(std::move(content), source);
-    auto* frame = new CReptFrame(doc);
-    connect(&frame->view(), &CReptView::contextMenuWanted, this,
-            [this](QPoint at) { makeContextMenu(reportContextTable())->popup(at); });
+    auto* frame = new CReptFrame(doc, app_, [this] { return pdfLayout(); });
     addFrame(frame);
     applyFonts();
     return frame;
 }
 
+// Every changed document is offered for saving before any window closes;
+// one "Cancel" keeps them all open.
 void CMainFrame::closeEvent(QCloseEvent* e) {
-    for (CTAVIFrame* f : transcriptFrames())
-        if (!f->queryClose()) {
+    QList<CChildFrame*> children;
+    for (QMdiSubWindow* w : mdi_->subWindowList())
+        if (auto* child = qobject_cast<CChildFrame*>(w))
+            children << child;
+    for (CChildFrame* child : children)
+        if (!child->maybeSave()) {
             e->ignore();
             return;
         }
-    for (CTAVIFrame* f : transcriptFrames())
-        f->doc().document()->setModified(false);
+    for (CChildFrame* child : children)
+        child->closeWithoutAsking();
     mdi_->closeAllSubWindows();
     e->accept();
 }

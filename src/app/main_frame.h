@@ -17,11 +17,11 @@
 
 class QPrinter;
 class QPlainTextEdit;
-class QTextEdit;
 
 namespace tavi::app {
 
 class CTAVIApp;
+class CChildFrame;
 class CTAVIDoc;
 class CTAVIFrame;
 class CReptFrame;
@@ -46,6 +46,8 @@ public:
     // The window commands act on: the active one, or the last active one
     // while a dialog or another program has the focus.
     QMdiSubWindow* currentWindow() const;
+    // The current window when it is a transcript or a report.
+    CChildFrame* activeChild() const;
     CTAVIFrame* activeTranscriptFrame() const;
     CReptFrame* activeReportFrame() const;
     QList<CTAVIFrame*> transcriptFrames() const;
@@ -68,12 +70,11 @@ private:
     void on(CommandId id, std::function<void()> run, std::function<bool()> enabled = {});
     void refreshRecentFiles();
     void refreshWindowList();
-    void addFrame(QMdiSubWindow* frame);
+    void addFrame(CChildFrame* frame);
 
     // File
     void fileNew();
     void fileOpen();
-    bool saveTranscript(CTAVIFrame& frame, bool askName);
     void fileSave(bool askName);
     void fileClose();
     void filePrint();
@@ -85,17 +86,12 @@ private:
     void editCheck();
     void editInsertFromList(int kind);
     QPlainTextEdit* activeEditor() const;
-    QTextEdit* activeReportEditor() const;
     // Analyze
     CTAVIDoc* analysisTarget();
     bool acceptErrors(CTAVIFrame& frame);
     void analyzeStandardMeasures();
     void analyzeUtteranceTypes();
     // Reports
-    void reportSave(bool askFormat);
-    void reportAddToPdfBatch();
-    void reportClosePdfBatch();
-    bool writeReportPdf(const CReptDoc& doc, const QString& path);
     QPageLayout pdfLayout() const;
     // Link
     void linkTranscripts();

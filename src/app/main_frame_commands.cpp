@@ -3,6 +3,7 @@
 // the others stay in their menus, disabled, marked as not available yet.
 #include <QApplication>
 
+#include "app/child_frame.h"
 #include "app/main_frame.h"
 #include "app/rept_doc.h"
 #include "app/rept_frame.h"
@@ -18,7 +19,8 @@ void CMainFrame::registerCommands() {
     using enum CommandId;
     auto transcript = [this] { return activeTranscriptFrame() != nullptr; };
     auto report = [this] { return activeReportFrame() != nullptr; };
-    auto document = [this] { return currentWindow() != nullptr; };
+    auto window = [this] { return currentWindow() != nullptr; };
+    auto document = [this] { return activeChild() != nullptr; };
     auto analysable = [this] { return activeTranscriptFrame() || activeReportFrame(); };
     auto editor = [this](auto test) {
         return [this, test] {
@@ -31,7 +33,7 @@ void CMainFrame::registerCommands() {
     on(ID_FILE_NEW, [this] { fileNew(); });
     on(ID_FILE_OPEN, [this] { fileOpen(); });
     on(
-        ID_FILE_CLOSE, [this] { fileClose(); }, document);
+        ID_FILE_CLOSE, [this] { fileClose(); }, window);
     on(
         ID_FILE_SAVE, [this] { fileSave(false); }, document);
     on(
@@ -40,10 +42,14 @@ void CMainFrame::registerCommands() {
         ID_FILE_PRINT, [this] { filePrint(); }, document);
     on(ID_FILE_PRINT_SETUP, [this] { filePrintSetup(); });
     on(
-        ID_FILE_ADD_PDF_BATCH, [this] { reportAddToPdfBatch(); }, report);
+        ID_FILE_ADD_PDF_BATCH, [this] { activeReportFrame()->addToPdfBatch(); }, report);
     on(
-        ID_FILE_CLOSE_PDF_BATCH, [this] { reportClosePdfBatch(); },
-        [this] { return app_.reportSave.pdfBatchCount > 0; });
+        ID_FILE_CLOSE_PDF_BATCH,
+        [this] {
+            closePdfBatch(app_);
+            updateCommands();
+        },
+        [this] { return app_.reportSave.batchOpen(); });
     on(ID_FILE_PDF_SETUP, [this] { pdfPrinterSetup(); });
     on(ID_APP_EXIT, [this] { close(); });
 
@@ -75,26 +81,12 @@ void CMainFrame::registerCommands() {
     on(
         ID_EDIT_CUT, [this] { activeEditor()->cut(); }, transcript);
     on(
-        ID_EDIT_COPY,
-        [this] {
-            if (QPlainTextEdit* e = activeEditor())
-                e->copy();
-            else if (QTextEdit* r = activeReportEditor())
-                r->copy();
-        },
-        document);
+        ID_EDIT_COPY, [this] { activeChild()->copy(); }, document);
     on(
         ID_EDIT_PASTE, [this] { activeEditor()->paste(); },
         editor([](QPlainTextEdit& e) { return e.canPaste(); }));
     on(
-        ID_EDIT_SELECT_ALL,
-        [this] {
-            if (QPlainTextEdit* e = activeEditor())
-                e->selectAll();
-            else if (QTextEdit* r = activeReportEditor())
-                r->selectAll();
-        },
-        document);
+        ID_EDIT_SELECT_ALL, [this] { activeChild()->selectAll(); }, document);
 
     // Link
     on(
@@ -127,7 +119,7 @@ void CMainFrame::registerCommands() {
 
     // Window
     on(
-        ID_WINDOW_CLOSE_ALL, [this] { closeAll(false); }, document);
+        ID_WINDOW_CLOSE_ALL, [this] { closeAll(false); }, window);
     on(
         ID_WINDOW_CLOSE_REPORTS, [this] { closeAll(true); },
         [this] { return !reportFrames().isEmpty(); });
@@ -141,11 +133,6 @@ void CMainFrame::registerCommands() {
 
 QPlainTextEdit* CMainFrame::activeEditor() const {
     CTAVIFrame* f = activeTranscriptFrame();
-    return f ? &f->view() : nullptr;
-}
-
-QTextEdit* CMainFrame::activeReportEditor() const {
-    CReptFrame* f = activeReportFrame();
     return f ? &f->view() : nullptr;
 }
 
