@@ -308,14 +308,11 @@ CTAVIFrame* CMainFrame::openTranscript(const QString& path) {
     CTAVIFrame* frame = newTranscript(QString());
     --untitledCount_;
     QString error;
-    if (!frame->doc().load(absolute, error)) {
+    if (!frame->load(absolute, error)) {
         frame->close();
         app_.prompter().inform(error.toStdString());
         return nullptr;
     }
-    app_.addRecentFile(absolute);
-    frame->view().moveCursor(QTextCursor::Start);
-    frame->doc().checkNow();
     return frame;
 }
 

@@ -1,4 +1,4 @@
-// Caption, saving and closing of a transcript window.
+// Caption, loading, saving and closing of a transcript window.
 #include "app/tavi_frame.h"
 
 #include <QFileDialog>
@@ -38,6 +38,15 @@ void CTAVIFrame::updateCaption() {
             linkedCaption(caption.toStdString(), other->title().toStdString()));
     setWindowTitle(caption + QStringLiteral("[*]"));
     setWindowModified(doc_->isModified());
+}
+
+bool CTAVIFrame::load(const QString& path, QString& error) {
+    if (!doc_->load(path, error))
+        return false;
+    doc_->app().addRecentFile(doc_->path());
+    view_->moveCursor(QTextCursor::Start);
+    doc_->checkNow();
+    return true;
 }
 
 bool CTAVIFrame::save(bool askName) {

@@ -19,6 +19,9 @@ public:
     CTAVIView& view() { return *view_; }
     void updateCaption();
 
+    // Reads a transcript file into the window's (new) document, shows its
+    // start and checks it; false with `error` set when it cannot be read.
+    bool load(const QString& path, QString& error);
     // Saves under the document's name; asks for one with `askName` or when
     // the document has none. Failures are told to the person.
     bool save(bool askName) override;
