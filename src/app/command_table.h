@@ -1,12 +1,207 @@
 // The main menu and the two context menus as data: one table of entries that
-// the frame turns into menus and actions. Each entry keeps the command's
-// object name (its identifier), the menu text with its mnemonic, the
-// accelerator, and the status-bar prompt and tip ("prompt\ntip").
+// the frame turns into menus and actions. Each command has an identifier from
+// one list, which also says whether the command works in this build; each
+// entry keeps the menu text with its mnemonic, the accelerator, and the
+// status-bar prompt and tip ("prompt\ntip").
 #pragma once
 
+#include <optional>
 #include <span>
+#include <string>
+#include <string_view>
+#include <vector>
 
 namespace tavi::app {
+
+enum class CommandStatus { Working, Unavailable };
+
+// Every command of the main menu, in menu order, with its status. A working
+// command must have a handler in the frame; an unavailable one stays in its
+// menu, disabled, marked as not available yet. The desktop tests hold the
+// list, the menu table and the frame's handlers to each other.
+// clang-format off
+#define TAVI_COMMANDS(X) \
+    X(ID_FILE_NEW, Working) \
+    X(ID_FILE_OPEN, Working) \
+    X(ID_FILE_IMPORT_CHAT, Unavailable) \
+    X(ID_FILE_IMPORT_CP, Unavailable) \
+    X(ID_FILE_CLOSE, Working) \
+    X(ID_FILE_SAVE, Working) \
+    X(ID_FILE_SAVE_AS, Working) \
+    X(ID_FILE_PRINT, Working) \
+    X(ID_FILE_PRINT_SETUP, Working) \
+    X(ID_FILE_ADD_PDF_BATCH, Working) \
+    X(ID_FILE_CLOSE_PDF_BATCH, Working) \
+    X(ID_FILE_PDF_SETUP, Working) \
+    X(ID_APP_EXIT, Working) \
+    X(ID_EDIT_FIND_REPLACE, Working) \
+    X(ID_EDIT_GOTO_ENTRY, Working) \
+    X(ID_EDIT_CHECK, Working) \
+    X(ID_EDIT_UNDO, Working) \
+    X(ID_EDIT_REDO, Working) \
+    X(ID_EDIT_CUT, Working) \
+    X(ID_EDIT_COPY, Working) \
+    X(ID_EDIT_PASTE, Working) \
+    X(ID_EDIT_SELECT_ALL, Working) \
+    X(ID_EDIT_INSERT_CODE, Working) \
+    X(ID_EDIT_INSERT_TEXT, Working) \
+    X(ID_EDIT_INSERT_SYMBOL, Working) \
+    X(ID_EDIT_DELETE_CODE, Unavailable) \
+    X(ID_EDIT_IDENTIFY_ROOTS, Unavailable) \
+    X(ID_EDIT_INSERT_SI, Unavailable) \
+    X(ID_TEMPLATE_NSS, Unavailable) \
+    X(ID_TEMPLATE_ESS, Unavailable) \
+    X(ID_TEMPLATE_PSS, Unavailable) \
+    X(ID_TEMPLATE_CQ, Unavailable) \
+    X(ID_TEMPLATE_FCB, Unavailable) \
+    X(ID_TEMPLATE_ONQ, Unavailable) \
+    X(ID_TEMPLATE_ONC, Unavailable) \
+    X(ID_EDIT_INSERT_GC, Unavailable) \
+    X(ID_ANAL_SMR, Working) \
+    X(ID_ANAL_PERF, Unavailable) \
+    X(ID_ANAL_UTT_TYPES, Working) \
+    X(ID_ANAL_SUL, Unavailable) \
+    X(ID_ANAL_NSS, Unavailable) \
+    X(ID_ANAL_ESS, Unavailable) \
+    X(ID_ANAL_PSS, Unavailable) \
+    X(ID_ANAL_ONQ, Unavailable) \
+    X(ID_ANAL_CQ, Unavailable) \
+    X(ID_ANAL_SYNTAX, Unavailable) \
+    X(ID_ANAL_DIST, Unavailable) \
+    X(ID_ANAL_BM, Unavailable) \
+    X(ID_ANAL_CLITIC, Unavailable) \
+    X(ID_ANAL_SI, Unavailable) \
+    X(ID_ANAL_SEMANTICS, Unavailable) \
+    X(ID_ANAL_WR, Unavailable) \
+    X(ID_ANAL_SWL, Unavailable) \
+    X(ID_ANAL_GC, Unavailable) \
+    X(ID_ANAL_GCL, Unavailable) \
+    X(ID_ANAL_DISCOURSE, Unavailable) \
+    X(ID_ANAL_TURNS, Unavailable) \
+    X(ID_ANAL_FACILITY, Unavailable) \
+    X(ID_ANAL_MAZES, Unavailable) \
+    X(ID_ANAL_ERRORS, Unavailable) \
+    X(ID_ANAL_OMITERR, Unavailable) \
+    X(ID_ANAL_CODES, Unavailable) \
+    X(ID_ANAL_WC, Unavailable) \
+    X(ID_ANAL_UC, Unavailable) \
+    X(ID_ANAL_FLUENCY, Unavailable) \
+    X(ID_ANAL_NONMAINSTREAM, Unavailable) \
+    X(ID_ANAL_CODESWITCH, Unavailable) \
+    X(ID_ANAL_CUSTOM_PDF, Unavailable) \
+    X(ID_DB_SELECT, Unavailable) \
+    X(ID_DB_SMR, Unavailable) \
+    X(ID_DB_PERF, Unavailable) \
+    X(ID_DB_QUICK, Unavailable) \
+    X(ID_DB_GOALS, Unavailable) \
+    X(ID_DB_LENGTH, Unavailable) \
+    X(ID_DB_NSS, Unavailable) \
+    X(ID_DB_ESS, Unavailable) \
+    X(ID_DB_PSS, Unavailable) \
+    X(ID_DB_ONQ, Unavailable) \
+    X(ID_DB_CQ, Unavailable) \
+    X(ID_DB_SYNTAX, Unavailable) \
+    X(ID_DB_DIST, Unavailable) \
+    X(ID_DB_SI, Unavailable) \
+    X(ID_DB_SEMANTICS, Unavailable) \
+    X(ID_DB_GC, Unavailable) \
+    X(ID_DB_DISCOURSE, Unavailable) \
+    X(ID_DB_TURNS, Unavailable) \
+    X(ID_DB_FACILITY, Unavailable) \
+    X(ID_DB_MAZES, Unavailable) \
+    X(ID_DB_ERRORS, Unavailable) \
+    X(ID_DB_EXPLORE_WC, Unavailable) \
+    X(ID_DB_EXPLORE_PLUS, Unavailable) \
+    X(ID_DB_CUSTOM_PDF, Unavailable) \
+    X(ID_EXPLORE_LIST, Unavailable) \
+    X(ID_EXPLORE_FIND, Unavailable) \
+    X(ID_EXPLORE_INSERT, Unavailable) \
+    X(ID_EXPLORE_DELETE, Unavailable) \
+    X(ID_EXPLORE_SAVE, Unavailable) \
+    X(ID_LINK_LINK, Working) \
+    X(ID_LINK_UNLINK, Working) \
+    X(ID_TOOLS_RDF, Unavailable) \
+    X(ID_EMULT_LIST, Unavailable) \
+    X(ID_EMULT_FIND, Unavailable) \
+    X(ID_EMULT_INSERT, Unavailable) \
+    X(ID_EMULT_DELETE, Unavailable) \
+    X(ID_EMULT_SAVE, Unavailable) \
+    X(ID_TOOLS_GENVOC, Unavailable) \
+    X(ID_TOOLS_GENBM, Unavailable) \
+    X(ID_TOOLS_GENCODES, Unavailable) \
+    X(ID_TOOLS_CHECK, Unavailable) \
+    X(ID_TOOLS_BUILD_DB, Unavailable) \
+    X(ID_SETUP_ASET, Working) \
+    X(ID_SETUP_WBASE, Working) \
+    X(ID_SETUP_TCUT, Working) \
+    X(ID_LOC_TRAN, Working) \
+    X(ID_LOC_REPT, Working) \
+    X(ID_LOC_DB, Working) \
+    X(ID_LOC_ALTDB, Working) \
+    X(ID_LOC_LIST, Working) \
+    X(ID_LOC_RIF, Working) \
+    X(ID_LOC_BATCH, Working) \
+    X(ID_LOC_BACKUP, Working) \
+    X(ID_LISTS_SWL, Unavailable) \
+    X(ID_LISTS_CODES, Unavailable) \
+    X(ID_LISTS_TEXT, Unavailable) \
+    X(ID_LISTS_SYMBOLS, Unavailable) \
+    X(ID_EDSET_SI, Unavailable) \
+    X(ID_EDSET_RIF_EDIT, Unavailable) \
+    X(ID_EDSET_RIF_SETTINGS, Unavailable) \
+    X(ID_EDSET_BACKUP, Working) \
+    X(ID_ANSET_TIMING, Unavailable) \
+    X(ID_ANSET_MATTR, Working) \
+    X(ID_ANSET_PCSD, Unavailable) \
+    X(ID_ANSET_DEFDB, Unavailable) \
+    X(ID_SETUP_LANGUAGE, Unavailable) \
+    X(ID_FONT_DISPTRAN, Working) \
+    X(ID_FONT_DISPREPT, Working) \
+    X(ID_FONT_PRT, Working) \
+    X(ID_NET_CLIENT, Unavailable) \
+    X(ID_NET_PDF, Unavailable) \
+    X(ID_NETLOC_TRAN, Unavailable) \
+    X(ID_NETLOC_REPT, Unavailable) \
+    X(ID_NETLOC_DB, Unavailable) \
+    X(ID_NETLOC_ALTDB, Unavailable) \
+    X(ID_NETLOC_LIST, Unavailable) \
+    X(ID_NETLOC_RIF, Unavailable) \
+    X(ID_NETLOC_BATCH, Unavailable) \
+    X(ID_NETLOC_BACKUP, Unavailable) \
+    X(ID_NETLOC_INIDIR, Unavailable) \
+    X(ID_NETFONT_DISPTRAN, Unavailable) \
+    X(ID_NETFONT_DISPREPT, Unavailable) \
+    X(ID_NETFONT_PRT, Unavailable) \
+    X(ID_WINDOW_CLOSE_ALL, Working) \
+    X(ID_WINDOW_CLOSE_REPORTS, Working) \
+    X(ID_HELP_FINDER, Working) \
+    X(ID_CONTEXT_HELP, Working) \
+    X(ID_HELP_BOOK, Unavailable) \
+    X(ID_HELP_GRAPHS, Unavailable) \
+    X(ID_HELP_ONLINE, Unavailable) \
+    X(ID_HELP_ACROBAT, Unavailable) \
+    X(ID_HELP_README, Working) \
+    X(ID_APP_ABOUT, Working)
+// clang-format on
+
+enum class CommandId : int {
+#define TAVI_COMMAND_ENUM(id, status) id,
+    TAVI_COMMANDS(TAVI_COMMAND_ENUM)
+#undef TAVI_COMMAND_ENUM
+};
+
+inline constexpr int kCommandCount = 0
+#define TAVI_COMMAND_COUNT(id, status) +1
+    TAVI_COMMANDS(TAVI_COMMAND_COUNT)
+#undef TAVI_COMMAND_COUNT
+    ;
+
+// The identifier as the menus' object names spell it, e.g. "ID_FILE_NEW".
+const char* commandName(CommandId id);
+CommandStatus commandStatus(CommandId id);
+std::optional<CommandId> commandByName(std::string_view name);
+// Every identifier, in list order.
+std::span<const CommandId> allCommands();
 
 enum class EntryKind {
     Menu,        // opens a submenu; closed by the next EndMenu
@@ -20,10 +215,14 @@ enum class EntryKind {
 struct MenuEntry {
     EntryKind kind;
     const char* text = "";     // with "&" before the mnemonic, "&&" for "&"
-    const char* id = "";       // the command's object name, e.g. "ID_FILE_NEW"
+    CommandId command{};       // Item: the command
+    const char* name = "";     // Heading, RecentFiles: the object name
     const char* shortcut = ""; // e.g. "Ctrl+N", empty for none
     const char* prompt = "";   // status-bar prompt, "\n", short tip; empty: from the text
 };
+
+// The object name of an entry: the command's name for an item.
+const char* entryName(const MenuEntry& entry);
 
 // The main menu bar, menus in their order.
 std::span<const MenuEntry> mainMenuTable();
@@ -34,5 +233,19 @@ std::span<const MenuEntry> reportContextTable();
 // Right-button menu of the problem list: the transcript menu without the entry
 // number, checking and link commands.
 std::span<const MenuEntry> plainContextTable();
+
+// A menu text as shown: the "&" mnemonic markers removed, "&&" read as "&".
+std::string plainMenuText(std::string_view text);
+
+// One command of the main menu as `tavi-gui --commands` lists it.
+struct CommandLine {
+    CommandId id;
+    std::string path; // the menu texts from the top, plain, joined by " > "
+    CommandStatus status;
+};
+// The main menu's commands in menu order.
+std::vector<CommandLine> commandInventory();
+// The inventory as text: "ID<TAB>menu path<TAB>working|unavailable" lines.
+std::string commandInventoryText();
 
 } // namespace tavi::app

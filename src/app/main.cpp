@@ -1,12 +1,18 @@
 // The desktop program: the application state and its main frame. With
 // "--screenshot DIR" it opens the transcripts given, makes the Standard
 // Measures Report of the first one, writes pictures of the windows to DIR
-// and ends (tools/screenshots.sh runs it under Xvfb for the README).
+// and ends (tools/screenshots.sh runs it under Xvfb for the README). With
+// "--commands" it lists the menu commands and ends, before any window system
+// is needed.
 #include <QApplication>
 #include <QDir>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QTimer>
+#include <cstdio>
+#include <cstring>
+
+#include "app/command_table.h"
 
 #include "app/main_frame.h"
 #include "app/report_runner.h"
@@ -36,6 +42,11 @@ void takeScreenshots(tavi::app::CMainFrame& frame, tavi::app::CTAVIApp& app, con
 } // namespace
 
 int main(int argc, char** argv) {
+    for (int i = 1; i < argc; ++i)
+        if (std::strcmp(argv[i], "--commands") == 0) {
+            std::fputs(tavi::app::commandInventoryText().c_str(), stdout);
+            return std::fflush(stdout) == 0 ? 0 : 1;
+        }
     QApplication qapp(argc, argv);
     QApplication::setApplicationName(QStringLiteral("TAVI"));
     QApplication::setApplicationVersion(QStringLiteral(TAVI_VERSION));

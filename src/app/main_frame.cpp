@@ -8,6 +8,7 @@
 #include <QStatusBar>
 #include <vector>
 
+#include "app/child_frame.h"
 #include "app/rept_doc.h"
 #include "app/rept_frame.h"
 #include "app/rept_view.h"
@@ -76,26 +77,33 @@ QAction* CMainFrame::action(const QString& id) const {
     return it == actions_.end() ? nullptr : it->second;
 }
 
-void CMainFrame::on(const char* id, std::function<void()> run, std::function<bool()> enabled) {
-    commands_[QString::fromLatin1(id)] = {std::move(run), std::move(enabled)};
+QAction* CMainFrame::action(CommandId id) const {
+    const auto it = commandActions_.find(id);
+    return it == commandActions_.end() ? nullptr : it->second;
 }
 
+void CMainFrame::on(CommandId id, std::function<void()> run, std::function<bool()> enabled) {
+    commands_.add(id, std::move(run), std::move(enabled));
+}
+
+// A command is offered when it is marked working and has a handler; the
+// desktop tests make sure the two agree.
 QAction* CMainFrame::makeAction(const MenuEntry& entry) {
-    const QString id = QString::fromLatin1(entry.id);
+    const CommandId command = entry.command;
+    const QString id = QString::fromLatin1(commandName(command));
     auto* act = new QAction(QString::fromUtf8(entry.text), this);
     act->setObjectName(id);
     const auto [prompt, tip] = promptAndTip(entry);
     if (*entry.shortcut)
         act->setShortcut(QKeySequence(QString::fromLatin1(entry.shortcut)));
-    if (commands_.count(id)) {
+    if (commandStatus(command) == CommandStatus::Working && commands_.has(command)) {
         act->setStatusTip(prompt);
         act->setToolTip(tip);
-        connect(act, &QAction::triggered, this, [this, id] {
+        connect(act, &QAction::triggered, this, [this, command] {
             updateCommands();
-            const Command& c = commands_[id];
-            if (!c.enabled || c.enabled())
-                c.run();
+            commands_.run(command);
         });
+        commandActions_[command] = act;
     } else {
         act->setStatusTip(notAvailablePrompt(prompt));
         act->setToolTip(notAvailablePrompt(tip));
@@ -128,7 +136,7 @@ void CMainFrame::buildMenus() {
             break;
         case EntryKind::Heading: {
             QAction* label = current->addAction(QString::fromUtf8(entry.text));
-            label->setObjectName(QString::fromLatin1(entry.id));
+            label->setObjectName(QString::fromLatin1(entry.name));
             label->setEnabled(false);
             QFont bold = label->font();
             bold.setBold(true);
@@ -141,7 +149,7 @@ void CMainFrame::buildMenus() {
             break;
         case EntryKind::RecentFiles:
             recentAnchor_ = current->addSeparator();
-            recentAnchor_->setObjectName(QString::fromLatin1(entry.id));
+            recentAnchor_->setObjectName(QString::fromLatin1(entry.name));
             recentAnchor_->setVisible(false);
             connect(current, &QMenu::aboutToShow, this, &CMainFrame::refreshRecentFiles);
             break;
@@ -165,9 +173,9 @@ QMenu* CMainFrame::makeContextMenu(std::span<const MenuEntry> table) {
             menu->addSeparator();
             continue;
         }
-        QAction* target = action(QString::fromLatin1(entry.id));
+        QAction* target = action(QString::fromLatin1(entryName(entry)));
         QAction* item = menu->addAction(QString::fromUtf8(entry.text));
-        item->setObjectName(QString::fromLatin1(entry.id));
+        item->setObjectName(QString::fromLatin1(entryName(entry)));
         item->setEnabled(target && target->isEnabled());
         if (target) {
             item->setStatusTip(target->statusTip());
@@ -178,12 +186,8 @@ QMenu* CMainFrame::makeContextMenu(std::span<const MenuEntry> table) {
 }
 
 void CMainFrame::updateCommands() {
-    for (auto& [id, act] : actions_) {
-        const auto it = commands_.find(id);
-        if (it == commands_.end())
-            continue;
-        act->setEnabled(!it->second.enabled || it->second.enabled());
-    }
+    for (auto& [id, act] : commandActions_)
+        act->setEnabled(commands_.enabled(id));
 }
 
 void CMainFrame::refreshRecentFiles() {
@@ -239,6 +243,10 @@ QMdiSubWindow* CMainFrame::currentWindow() const {
     return current_ && mdi_->subWindowList().contains(current_.data()) ? current_.data() : nullptr;
 }
 
+CChildFrame* CMainFrame::activeChild() const {
+    return qobject_cast<CChildFrame*>(currentWindow());
+}
+
 CTAVIFrame* CMainFrame::activeTranscriptFrame() const {
     return qobject_cast<CTAVIFrame*>(currentWindow());
 }
@@ -263,9 +271,14 @@ QList<CReptFrame*> CMainFrame::reportFrames() const {
     return frames;
 }
 
-void CMainFrame::addFrame(QMdiSubWindow* frame) {
+// Every document window: its context menu, and the menus refreshed when
+// what they depend on changes.
+void CMainFrame::addFrame(CChildFrame* frame) {
     mdi_->addSubWindow(frame);
     connect(frame, &QObject::destroyed, this, &CMainFrame::updateCommands, Qt::QueuedConnection);
+    connect(frame, &CChildFrame::commandsChanged, this, &CMainFrame::updateCommands);
+    connect(frame, &CChildFrame::contextMenuWanted, this,
+            [this, frame](QPoint at) { makeContextMenu(frame->contextTable())->popup(at); });
     frame->resize(mdi_->size() * 0.8);
     frame->show();
     mdi_->setActiveSubWindow(frame);
@@ -275,14 +288,7 @@ void CMainFrame::addFrame(QMdiSubWindow* frame) {
 
 CTAVIFrame* CMainFrame::newTranscript(const QString& text) {
     auto* doc = new CTAVIDoc(app_, ++untitledCount_);
-    auto* frame = new CTAVIFrame(doc, [this](CTAVIFrame& f) { return saveTranscript(f, false); });
-    connect(&frame->view(), &CTAVIView::contextMenuWanted, this,
-            [this](QPoint at) { makeContextMenu(transcriptContextTable())->popup(at); });
-    connect(doc, &CTAVIDoc::backupFailed, this, [this](const QString& path) {
-        app_.prompter().inform(backupFailedMessage(path.toStdString()));
-    });
-    connect(doc->document(), &QTextDocument::undoAvailable, this, &CMainFrame::updateCommands);
-    connect(doc->document(), &QTextDocument::redoAvailable, this, &CMainFrame::updateCommands);
+    auto* frame = new CTAVIFrame(doc);
     addFrame(frame);
     applyFonts();
     if (!text.isEmpty()) {
@@ -302,35 +308,36 @@ CTAVIFrame* CMainFrame::openTranscript(const QString& path) {
     CTAVIFrame* frame = newTranscript(QString());
     --untitledCount_;
     QString error;
-    if (!frame->doc().load(absolute, error)) {
+    if (!frame->load(absolute, error)) {
         frame->close();
         app_.prompter().inform(error.toStdString());
         return nullptr;
     }
-    app_.addRecentFile(absolute);
-    frame->view().moveCursor(QTextCursor::Start);
-    frame->view().checkNow();
     return frame;
 }
 
 CReptFrame* CMainFrame::showReport(ReportContent content, CTAVIDoc* source) {
     auto* doc = new CReptDoc(std::move(content), source);
-    auto* frame = new CReptFrame(doc);
-    connect(&frame->view(), &CReptView::contextMenuWanted, this,
-            [this](QPoint at) { makeContextMenu(reportContextTable())->popup(at); });
+    auto* frame = new CReptFrame(doc, app_, [this] { return pdfLayout(); });
     addFrame(frame);
     applyFonts();
     return frame;
 }
 
+// Every changed document is offered for saving before any window closes;
+// one "Cancel" keeps them all open.
 void CMainFrame::closeEvent(QCloseEvent* e) {
-    for (CTAVIFrame* f : transcriptFrames())
-        if (!f->queryClose()) {
+    QList<CChildFrame*> children;
+    for (QMdiSubWindow* w : mdi_->subWindowList())
+        if (auto* child = qobject_cast<CChildFrame*>(w))
+            children << child;
+    for (CChildFrame* child : children)
+        if (!child->maybeSave()) {
             e->ignore();
             return;
         }
-    for (CTAVIFrame* f : transcriptFrames())
-        f->doc().document()->setModified(false);
+    for (CChildFrame* child : children)
+        child->closeWithoutAsking();
     mdi_->closeAllSubWindows();
     e->accept();
 }

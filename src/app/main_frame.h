@@ -12,17 +12,18 @@
 #include <optional>
 #include <span>
 
+#include "app/command_registry.h"
 #include "app/command_table.h"
 #include "app/rept_doc.h"
 #include "session/analysis_session.h"
 
 class QPrinter;
 class QPlainTextEdit;
-class QTextEdit;
 
 namespace tavi::app {
 
 class CTAVIApp;
+class CChildFrame;
 class CTAVIDoc;
 class CTAVIFrame;
 class CReptFrame;
@@ -38,12 +39,17 @@ public:
     QMdiArea& mdiArea() { return *mdi_; }
     // The action of a command of the main menu by its identifier.
     QAction* action(const QString& id) const;
+    QAction* action(CommandId id) const;
+    // Every command's handler.
+    const CommandRegistry& commands() const { return commands_; }
     // The texts of the status-bar prompt for commands not built yet.
     static QString notAvailablePrompt(const QString& prompt);
 
     // The window commands act on: the active one, or the last active one
     // while a dialog or another program has the focus.
     QMdiSubWindow* currentWindow() const;
+    // The current window when it is a transcript or a report.
+    CChildFrame* activeChild() const;
     CTAVIFrame* activeTranscriptFrame() const;
     CReptFrame* activeReportFrame() const;
     QList<CTAVIFrame*> transcriptFrames() const;
@@ -60,23 +66,17 @@ protected:
     void closeEvent(QCloseEvent* e) override;
 
 private:
-    struct Command {
-        std::function<void()> run;
-        std::function<bool()> enabled; // empty: always
-    };
-
     void buildMenus();
     QAction* makeAction(const MenuEntry& entry);
     void registerCommands();
-    void on(const char* id, std::function<void()> run, std::function<bool()> enabled = {});
+    void on(CommandId id, std::function<void()> run, std::function<bool()> enabled = {});
     void refreshRecentFiles();
     void refreshWindowList();
-    void addFrame(QMdiSubWindow* frame);
+    void addFrame(CChildFrame* frame);
 
     // File
     void fileNew();
     void fileOpen();
-    bool saveTranscript(CTAVIFrame& frame, bool askName);
     void fileSave(bool askName);
     void fileClose();
     void filePrint();
@@ -88,7 +88,6 @@ private:
     void editCheck();
     void editInsertFromList(int kind);
     QPlainTextEdit* activeEditor() const;
-    QTextEdit* activeReportEditor() const;
     // Analyze
     CTAVIDoc* analysisTarget();
     std::optional<TranscriptAnalysis> reportAnalysis(CTAVIDoc*& doc);
@@ -96,10 +95,6 @@ private:
     void analyzeStandardMeasures();
     void analyzeUtteranceTypes();
     // Reports
-    void reportSave(bool askFormat);
-    void reportAddToPdfBatch();
-    void reportClosePdfBatch();
-    bool writeReportPdf(const CReptDoc& doc, const QString& path);
     QPageLayout pdfLayout() const;
     // Link
     void linkTranscripts();
@@ -120,8 +115,9 @@ private:
 
     CTAVIApp& app_;
     QMdiArea* mdi_;
-    std::map<QString, Command> commands_;
+    CommandRegistry commands_;
     std::map<QString, QAction*> actions_;
+    std::map<CommandId, QAction*> commandActions_;
     QAction* recentAnchor_ = nullptr;
     QList<QAction*> recentActions_;
     QMenu* windowMenu_ = nullptr;

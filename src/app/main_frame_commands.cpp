@@ -1,8 +1,9 @@
 // Which function serves each command of the menus, and when it can be chosen.
-// Commands not listed here stay in their menus, disabled, marked as not
-// available yet.
+// Every command marked working in the command list has its handler here;
+// the others stay in their menus, disabled, marked as not available yet.
 #include <QApplication>
 
+#include "app/child_frame.h"
 #include "app/main_frame.h"
 #include "app/rept_doc.h"
 #include "app/rept_frame.h"
@@ -15,9 +16,11 @@
 namespace tavi::app {
 
 void CMainFrame::registerCommands() {
+    using enum CommandId;
     auto transcript = [this] { return activeTranscriptFrame() != nullptr; };
     auto report = [this] { return activeReportFrame() != nullptr; };
-    auto document = [this] { return currentWindow() != nullptr; };
+    auto window = [this] { return currentWindow() != nullptr; };
+    auto document = [this] { return activeChild() != nullptr; };
     auto analysable = [this] { return activeTranscriptFrame() || activeReportFrame(); };
     auto editor = [this](auto test) {
         return [this, test] {
@@ -27,125 +30,109 @@ void CMainFrame::registerCommands() {
     };
 
     // File
-    on("ID_FILE_NEW", [this] { fileNew(); });
-    on("ID_FILE_OPEN", [this] { fileOpen(); });
+    on(ID_FILE_NEW, [this] { fileNew(); });
+    on(ID_FILE_OPEN, [this] { fileOpen(); });
     on(
-        "ID_FILE_CLOSE", [this] { fileClose(); }, document);
+        ID_FILE_CLOSE, [this] { fileClose(); }, window);
     on(
-        "ID_FILE_SAVE", [this] { fileSave(false); }, document);
+        ID_FILE_SAVE, [this] { fileSave(false); }, document);
     on(
-        "ID_FILE_SAVE_AS", [this] { fileSave(true); }, document);
+        ID_FILE_SAVE_AS, [this] { fileSave(true); }, document);
     on(
-        "ID_FILE_PRINT", [this] { filePrint(); }, document);
-    on("ID_FILE_PRINT_SETUP", [this] { filePrintSetup(); });
+        ID_FILE_PRINT, [this] { filePrint(); }, document);
+    on(ID_FILE_PRINT_SETUP, [this] { filePrintSetup(); });
     on(
-        "ID_FILE_ADD_PDF_BATCH", [this] { reportAddToPdfBatch(); }, report);
+        ID_FILE_ADD_PDF_BATCH, [this] { activeReportFrame()->addToPdfBatch(); }, report);
     on(
-        "ID_FILE_CLOSE_PDF_BATCH", [this] { reportClosePdfBatch(); },
-        [this] { return app_.reportSave.pdfBatchCount > 0; });
-    on("ID_FILE_PDF_SETUP", [this] { pdfPrinterSetup(); });
-    on("ID_APP_EXIT", [this] { close(); });
+        ID_FILE_CLOSE_PDF_BATCH,
+        [this] {
+            closePdfBatch(app_);
+            updateCommands();
+        },
+        [this] { return app_.reportSave.batchOpen(); });
+    on(ID_FILE_PDF_SETUP, [this] { pdfPrinterSetup(); });
+    on(ID_APP_EXIT, [this] { close(); });
 
     // Analyze
     on(
-        "ID_ANAL_SMR", [this] { analyzeStandardMeasures(); }, analysable);
+        ID_ANAL_SMR, [this] { analyzeStandardMeasures(); }, analysable);
     on(
-        "ID_ANAL_UTT_TYPES", [this] { analyzeUtteranceTypes(); }, analysable);
+        ID_ANAL_UTT_TYPES, [this] { analyzeUtteranceTypes(); }, analysable);
 
     // Edit
     on(
-        "ID_EDIT_FIND_REPLACE", [this] { editFindReplace(); }, transcript);
+        ID_EDIT_FIND_REPLACE, [this] { editFindReplace(); }, transcript);
     on(
-        "ID_EDIT_CHECK", [this] { editCheck(); }, transcript);
+        ID_EDIT_CHECK, [this] { editCheck(); }, transcript);
     on(
-        "ID_EDIT_INSERT_CODE", [this] { editInsertFromList(0); }, transcript);
+        ID_EDIT_INSERT_CODE, [this] { editInsertFromList(0); }, transcript);
     on(
-        "ID_EDIT_INSERT_TEXT", [this] { editInsertFromList(1); }, transcript);
+        ID_EDIT_INSERT_TEXT, [this] { editInsertFromList(1); }, transcript);
     on(
-        "ID_EDIT_INSERT_SYMBOL", [this] { editInsertFromList(2); }, transcript);
+        ID_EDIT_INSERT_SYMBOL, [this] { editInsertFromList(2); }, transcript);
     on(
-        "ID_EDIT_GOTO_ENTRY", [this] { editGoToEntry(); }, transcript);
+        ID_EDIT_GOTO_ENTRY, [this] { editGoToEntry(); }, transcript);
     on(
-        "ID_EDIT_UNDO", [this] { activeEditor()->undo(); },
+        ID_EDIT_UNDO, [this] { activeEditor()->undo(); },
         editor([](QPlainTextEdit& e) { return e.document()->isUndoAvailable(); }));
     on(
-        "ID_EDIT_REDO", [this] { activeEditor()->redo(); },
+        ID_EDIT_REDO, [this] { activeEditor()->redo(); },
         editor([](QPlainTextEdit& e) { return e.document()->isRedoAvailable(); }));
     on(
-        "ID_EDIT_CUT", [this] { activeEditor()->cut(); }, transcript);
+        ID_EDIT_CUT, [this] { activeEditor()->cut(); }, transcript);
     on(
-        "ID_EDIT_COPY",
-        [this] {
-            if (QPlainTextEdit* e = activeEditor())
-                e->copy();
-            else if (QTextEdit* r = activeReportEditor())
-                r->copy();
-        },
-        document);
+        ID_EDIT_COPY, [this] { activeChild()->copy(); }, document);
     on(
-        "ID_EDIT_PASTE", [this] { activeEditor()->paste(); },
+        ID_EDIT_PASTE, [this] { activeEditor()->paste(); },
         editor([](QPlainTextEdit& e) { return e.canPaste(); }));
     on(
-        "ID_EDIT_SELECT_ALL",
-        [this] {
-            if (QPlainTextEdit* e = activeEditor())
-                e->selectAll();
-            else if (QTextEdit* r = activeReportEditor())
-                r->selectAll();
-        },
-        document);
+        ID_EDIT_SELECT_ALL, [this] { activeChild()->selectAll(); }, document);
 
     // Link
     on(
-        "ID_LINK_LINK", [this] { linkTranscripts(); },
+        ID_LINK_LINK, [this] { linkTranscripts(); },
         [this] { return activeTranscriptFrame() && transcriptFrames().size() >= 2; });
     on(
-        "ID_LINK_UNLINK", [this] { unlinkTranscripts(); },
+        ID_LINK_UNLINK, [this] { unlinkTranscripts(); },
         [this] {
             CTAVIFrame* f = activeTranscriptFrame();
             return f && f->doc().linkedWith();
         });
 
     // Setup
-    on("ID_SETUP_ASET", [this] { setupAnalysisSet(); });
-    on("ID_SETUP_WBASE", [this] { setupWordBase(); });
-    on("ID_SETUP_TCUT", [this] { setupTranscriptCut(); });
-    on("ID_ANSET_MATTR", [this] { setupMovingAverage(); });
-    on("ID_EDSET_BACKUP", [this] { setupBackups(); });
-    const std::pair<const char*, const char*> folders[] = {
-        {"ID_LOC_TRAN", "TRANDIR"},   {"ID_LOC_REPT", "REPORTDIR"},
-        {"ID_LOC_DB", "DBASEDIR"},    {"ID_LOC_ALTDB", "ALTDBASEDIR"},
-        {"ID_LOC_LIST", "LISTDIR"},   {"ID_LOC_RIF", "HASHFILEDIR"},
-        {"ID_LOC_BATCH", "BATCHDIR"}, {"ID_LOC_BACKUP", "BACKUPDIR"}};
+    on(ID_SETUP_ASET, [this] { setupAnalysisSet(); });
+    on(ID_SETUP_WBASE, [this] { setupWordBase(); });
+    on(ID_SETUP_TCUT, [this] { setupTranscriptCut(); });
+    on(ID_ANSET_MATTR, [this] { setupMovingAverage(); });
+    on(ID_EDSET_BACKUP, [this] { setupBackups(); });
+    const std::pair<CommandId, const char*> folders[] = {
+        {ID_LOC_TRAN, "TRANDIR"},      {ID_LOC_REPT, "REPORTDIR"},  {ID_LOC_DB, "DBASEDIR"},
+        {ID_LOC_ALTDB, "ALTDBASEDIR"}, {ID_LOC_LIST, "LISTDIR"},    {ID_LOC_RIF, "HASHFILEDIR"},
+        {ID_LOC_BATCH, "BATCHDIR"},    {ID_LOC_BACKUP, "BACKUPDIR"}};
     for (const auto& [id, keyword] : folders) {
         const QString key = QString::fromLatin1(keyword);
         on(id, [this, key] { setupFolder(key); });
     }
-    on("ID_FONT_DISPTRAN", [this] { setupFont(0); });
-    on("ID_FONT_DISPREPT", [this] { setupFont(1); });
-    on("ID_FONT_PRT", [this] { setupFont(2); });
+    on(ID_FONT_DISPTRAN, [this] { setupFont(0); });
+    on(ID_FONT_DISPREPT, [this] { setupFont(1); });
+    on(ID_FONT_PRT, [this] { setupFont(2); });
 
     // Window
     on(
-        "ID_WINDOW_CLOSE_ALL", [this] { closeAll(false); }, document);
+        ID_WINDOW_CLOSE_ALL, [this] { closeAll(false); }, window);
     on(
-        "ID_WINDOW_CLOSE_REPORTS", [this] { closeAll(true); },
+        ID_WINDOW_CLOSE_REPORTS, [this] { closeAll(true); },
         [this] { return !reportFrames().isEmpty(); });
 
     // Help
-    on("ID_HELP_FINDER", [this] { showHelpDocument(QStringLiteral("docs/measures.md")); });
-    on("ID_CONTEXT_HELP", [this] { showHelpDocument(QStringLiteral("docs/measures.md")); });
-    on("ID_HELP_README", [this] { showHelpDocument(QStringLiteral("README.md")); });
-    on("ID_APP_ABOUT", [this] { showAbout(); });
+    on(ID_HELP_FINDER, [this] { showHelpDocument(QStringLiteral("docs/measures.md")); });
+    on(ID_CONTEXT_HELP, [this] { showHelpDocument(QStringLiteral("docs/measures.md")); });
+    on(ID_HELP_README, [this] { showHelpDocument(QStringLiteral("README.md")); });
+    on(ID_APP_ABOUT, [this] { showAbout(); });
 }
 
 QPlainTextEdit* CMainFrame::activeEditor() const {
     CTAVIFrame* f = activeTranscriptFrame();
-    return f ? &f->view() : nullptr;
-}
-
-QTextEdit* CMainFrame::activeReportEditor() const {
-    CReptFrame* f = activeReportFrame();
     return f ? &f->view() : nullptr;
 }
 

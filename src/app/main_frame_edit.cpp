@@ -44,8 +44,8 @@ namespace tavi::app {
 
 void CMainFrame::editCheck() {
     CTAVIFrame* frame = activeTranscriptFrame();
-    frame->view().checkNow();
-    const std::vector<err>& problems = frame->view().problems();
+    frame->doc().checkNow();
+    const std::vector<err>& problems = frame->doc().problems();
     if (problems.empty()) {
         app_.prompter().inform(checkSummary(0, 0));
         return;
@@ -58,7 +58,7 @@ void CMainFrame::editCheck() {
 // Checks the transcript before an analysis; with errors the list is shown
 // and the person may cancel. True when the analysis goes on.
 bool CMainFrame::acceptErrors(CTAVIFrame& frame, const std::vector<err>& problems) {
-    frame.view().setProblems(problems);
+    frame.doc().setProblems(problems);
     const bool hasErrors =
         std::any_of(problems.begin(), problems.end(), [](const err& e) { return e.isError(); });
     if (!hasErrors)

@@ -4,16 +4,11 @@
 #include <QPrintDialog>
 #include <QPrinter>
 
+#include "app/child_frame.h"
 #include "app/doc_template.h"
 #include "app/main_frame.h"
 #include "app/new_transcript_dialog.h"
-#include "app/rept_doc.h"
-#include "app/rept_frame.h"
-#include "app/rept_view.h"
 #include "app/tavi_app.h"
-#include "app/tavi_doc.h"
-#include "app/tavi_frame.h"
-#include "app/tavi_view.h"
 
 namespace tavi::app {
 namespace {
@@ -38,33 +33,9 @@ void CMainFrame::fileOpen() {
         openTranscript(path);
 }
 
-bool CMainFrame::saveTranscript(CTAVIFrame& frame, bool askName) {
-    CTAVIDoc& doc = frame.doc();
-    QString path = doc.path();
-    if (askName || path.isEmpty()) {
-        const QString suggested =
-            path.isEmpty() ? app_.transcriptDir() + QLatin1Char('/') + doc.title() + ".tvi" : path;
-        path = QFileDialog::getSaveFileName(this, QStringLiteral("Save As"), suggested,
-                                            transcriptFilter());
-        if (path.isEmpty())
-            return false;
-        if (QFileInfo(path).suffix().isEmpty())
-            path += templateField(kTranscriptTemplate, TemplateField::FilterExt);
-    }
-    QString error;
-    if (!doc.save(path, error)) {
-        app_.prompter().inform(error.toStdString());
-        return false;
-    }
-    app_.addRecentFile(path);
-    return true;
-}
-
 void CMainFrame::fileSave(bool askName) {
-    if (CTAVIFrame* f = activeTranscriptFrame())
-        saveTranscript(*f, askName);
-    else if (activeReportFrame())
-        reportSave(true);
+    if (CChildFrame* child = activeChild())
+        child->save(askName);
 }
 
 void CMainFrame::fileClose() {
@@ -85,10 +56,8 @@ void CMainFrame::filePrint() {
     QPrintDialog dialog(printer_.get(), this);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    if (CTAVIFrame* f = activeTranscriptFrame())
-        f->view().print(printer_.get());
-    else if (CReptFrame* r = activeReportFrame())
-        r->view().print(printer_.get());
+    if (CChildFrame* child = activeChild())
+        child->print(printer_.get());
 }
 
 } // namespace tavi::app

@@ -7,27 +7,32 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include "reports/save_state.h"
+
 namespace tavi::app {
 
 CSaveReportTypeRTF::CSaveReportTypeRTF(int choice, bool displayAfterSaving, bool batchOpen,
                                        QWidget* parent)
-    : QDialog(parent), choices_(new QButtonGroup(this)),
-      display_(new QCheckBox(QStringLiteral("Display report after saving"))) {
-    setWindowTitle(QStringLiteral("Save report as"));
+    : QDialog(parent), choices_(new QButtonGroup(this)), display_(new QCheckBox) {
+    SaveDialogTexts texts = saveDialogTexts(tavi::ReportKind::RichText, batchOpen);
+    // While a batch is open its choice closes the batch, and reads as the
+    // grid reports' dialog does then.
+    if (batchOpen)
+        texts.choices.back() = saveDialogTexts(tavi::ReportKind::Grid, true).choices.back();
+    setWindowTitle(QString::fromStdString(texts.title));
     setObjectName(QStringLiteral("CSaveReportTypeRTF"));
+    display_->setText(QString::fromStdString(texts.displayAfterSaving));
     auto* layout = new QVBoxLayout(this);
-    const QString texts[] = {
-        QStringLiteral("PDF - Portable Document Format"),
-        QStringLiteral("RTF - Rich Text Format (Word)"), QStringLiteral("TXT - Text File"),
-        batchOpen ? QStringLiteral("Close PDF &Batch") : QStringLiteral("Begin PDF Batch")};
     const char* names[] = {"choicePdf", "choiceRtf", "choiceTxt", "choiceBatch"};
-    for (int i = 0; i < 4; ++i) {
-        auto* button = new QRadioButton(texts[i]);
+    const int count = static_cast<int>(texts.choices.size());
+    for (int i = 0; i < count; ++i) {
+        auto* button =
+            new QRadioButton(QString::fromStdString(texts.choices[static_cast<std::size_t>(i)]));
         button->setObjectName(QString::fromLatin1(names[i]));
         choices_->addButton(button, i);
         layout->addWidget(button);
     }
-    const int start = choice >= 0 && choice < 4 ? choice : SavePdf;
+    const int start = choice >= 0 && choice < count ? choice : 0;
     choices_->button(start)->setChecked(true);
     display_->setObjectName(QStringLiteral("displayAfterSaving"));
     display_->setChecked(displayAfterSaving);

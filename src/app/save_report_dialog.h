@@ -1,5 +1,6 @@
 // The dialog "Save report as" of a rich-text report (`CSaveReportTypeRTF`):
-// the format, or the PDF batch, and "Display report after saving".
+// the format, or the PDF batch, and "Display report after saving". The
+// choices are numbered as `RichTextSaveChoice`.
 #pragma once
 
 #include <QDialog>
@@ -9,12 +10,11 @@ class QCheckBox;
 
 namespace tavi::app {
 
-enum SaveChoice { SavePdf = 0, SaveRtf = 1, SaveTxt = 2, SavePdfBatch = 3 };
-
 class CSaveReportTypeRTF final : public QDialog {
     Q_OBJECT
 public:
     // `batchOpen` shows "Close PDF &Batch" in place of "Begin PDF Batch".
+    // `choice` is the one checked at first.
     CSaveReportTypeRTF(int choice, bool displayAfterSaving, bool batchOpen,
                        QWidget* parent = nullptr);
     int choice() const;

@@ -13,22 +13,13 @@
 #include "app/qt_prompter.h"
 #include "reports/labels.h"
 #include "reports/report.h"
+#include "reports/save_state.h"
 #include "reports/standard_measures_report.h"
 #include "session/analysis_session.h"
 #include "settings/settings.h"
 #include "settings/startup_environment.h"
 
 namespace tavi::app {
-
-// Program-wide state of saving reports: the last chosen format (negative: not
-// chosen yet), "Display report after saving", and the open PDF batch.
-struct ReportSaveState {
-    int lastFormat = -1;
-    bool displayAfterSaving = false;
-    int pdfBatchCount = 0;
-    QString pdfBatchPath;
-    std::vector<Report> pdfBatchReports; // the reports of the open batch
-};
 
 class CTAVIApp {
 public:
@@ -49,6 +40,7 @@ public:
     QString sharedDataDir() const { return folder(settings_.folders.sharedData); }
     QString setupDir() const { return folder(settings_.folders.setup); }
 
+    // Saving reports: the last format and the PDF batch, for the whole run.
     ReportSaveState reportSave;
     LabelSource labelSource() const;
     // What an analysis reads under the settings in force; the word lists and

@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QPlainTextDocumentLayout>
 
+#include "app/core_bridge.h"
 #include "app/doc_template.h"
 #include "app/tavi_app.h"
 #include "transcript/transcript_file.h"
@@ -15,6 +16,10 @@ CTAVIDoc::CTAVIDoc(CTAVIApp& app, int untitledNumber, QObject* parent)
     : QObject(parent), app_(app), untitledNumber_(untitledNumber) {
     text_.setDocumentLayout(new QPlainTextDocumentLayout(&text_));
     connect(&text_, &QTextDocument::contentsChange, this, &CTAVIDoc::countEdit);
+    checkTimer_.setSingleShot(true);
+    checkTimer_.setInterval(kCheckDelayMs);
+    connect(&text_, &QTextDocument::contentsChanged, &checkTimer_, qOverload<>(&QTimer::start));
+    connect(&checkTimer_, &QTimer::timeout, this, &CTAVIDoc::checkNow);
 }
 
 QString CTAVIDoc::title() const {
@@ -104,6 +109,28 @@ void CTAVIDoc::countEdit(int, int removed, int added) {
     QString error;
     if (!writeTo(backupPath(), error))
         Q_EMIT backupFailed(backupPath());
+}
+
+void CTAVIDoc::checkNow() {
+    checkTimer_.stop();
+    if (!checkerAvailable())
+        return;
+    problems_ = checkTranscript(app_, lines());
+    Q_EMIT problemsChanged();
+}
+
+void CTAVIDoc::setProblems(std::vector<err> problems) {
+    checkTimer_.stop();
+    problems_ = std::move(problems);
+    Q_EMIT problemsChanged();
+}
+
+QString CTAVIDoc::problemText(int line) const {
+    QStringList rows;
+    for (const err& e : problems_)
+        if (e.line == line)
+            rows << QString::fromStdString(e.message);
+    return rows.join(QLatin1Char('\n'));
 }
 
 } // namespace tavi::app

@@ -1,11 +1,16 @@
 // The transcript document: the text of one ".tvi" file, its name, its
-// automatic backups and its link to a second transcript.
+// automatic backups, its link to a second transcript, and the checker's
+// problems, found again a moment after typing stops.
 #pragma once
 
 #include <QObject>
 #include <QPointer>
 #include <QString>
 #include <QTextDocument>
+#include <QTimer>
+#include <vector>
+
+#include "transcript/err.h"
 
 #include "transcript/tran_line.h"
 
@@ -16,6 +21,9 @@ class CTAVIApp;
 class CTAVIDoc final : public QObject {
     Q_OBJECT
 public:
+    // How long after the last change the checker runs again.
+    static constexpr int kCheckDelayMs = 800;
+
     // A new, untitled document named from the template ("Tran1", "Tran2", ...).
     CTAVIDoc(CTAVIApp& app, int untitledNumber, QObject* parent = nullptr);
 
@@ -45,8 +53,19 @@ public:
     CTAVIDoc* linkedWith() const { return linked_; }
     void setLinkedWith(CTAVIDoc* other);
 
+    // The checker's problems from its last run, in line order.
+    const std::vector<err>& problems() const { return problems_; }
+    // The messages of the problems on a 1-based line, one per row.
+    QString problemText(int line) const;
+    // Runs the checker now instead of waiting for the pause in typing.
+    void checkNow();
+    // Takes problems found by an analysis of the current text, so the lines
+    // are marked without checking again.
+    void setProblems(std::vector<err> problems);
+
 Q_SIGNALS:
     void titleChanged();
+    void problemsChanged();
     void backupFailed(const QString& backupPath);
 
 private:
@@ -60,6 +79,8 @@ private:
     int edits_ = 0;
     bool loading_ = false;
     QPointer<CTAVIDoc> linked_;
+    QTimer checkTimer_;
+    std::vector<err> problems_;
 };
 
 } // namespace tavi::app

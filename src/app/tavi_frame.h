@@ -1,37 +1,43 @@
 // The transcript's child window in the frame: holds the document and its
-// view, keeps the caption ("%s LINKED WITH %s" for a linked pair) and asks
-// whether to save a changed transcript before it closes.
+// view, keeps the caption ("%s LINKED WITH %s" for a linked pair), saves the
+// transcript and asks whether to save a changed one before it closes.
 #pragma once
 
-#include <QMdiSubWindow>
-#include <functional>
+#include "app/child_frame.h"
 
 namespace tavi::app {
 
 class CTAVIDoc;
 class CTAVIView;
 
-class CTAVIFrame final : public QMdiSubWindow {
+class CTAVIFrame final : public CChildFrame {
     Q_OBJECT
 public:
-    // `save` saves the document (asking for a name when it has none) and
-    // returns whether it was saved.
-    CTAVIFrame(CTAVIDoc* doc, std::function<bool(CTAVIFrame&)> save, QWidget* parent = nullptr);
+    explicit CTAVIFrame(CTAVIDoc* doc, QWidget* parent = nullptr);
 
     CTAVIDoc& doc() { return *doc_; }
     CTAVIView& view() { return *view_; }
     void updateCaption();
-    // Asks "Save changes to %s?" for a changed document; false when the
-    // person cancels or the save fails.
-    bool queryClose();
+
+    // Reads a transcript file into the window's (new) document, shows its
+    // start and checks it; false with `error` set when it cannot be read.
+    bool load(const QString& path, QString& error);
+    // Saves under the document's name; asks for one with `askName` or when
+    // the document has none. Failures are told to the person.
+    bool save(bool askName) override;
+    void print(QPrinter* printer) override;
+    void copy() override;
+    void selectAll() override;
+    std::span<const MenuEntry> contextTable() const override;
+    // Asks "Save changes to %s?" for a changed document.
+    bool maybeSave() override;
 
 protected:
-    void closeEvent(QCloseEvent* e) override;
+    void closing() override;
 
 private:
     CTAVIDoc* doc_;
     CTAVIView* view_;
-    std::function<bool(CTAVIFrame&)> save_;
 };
 
 } // namespace tavi::app

@@ -6,7 +6,6 @@
 #include <QTextBlock>
 #include <QToolTip>
 
-#include "app/core_bridge.h"
 #include "app/notation_highlighter.h"
 #include "app/tavi_doc.h"
 
@@ -16,10 +15,8 @@ CTAVIView::CTAVIView(CTAVIDoc& doc, QWidget* parent)
     : QPlainTextEdit(parent), doc_(doc), highlighter_(new NotationHighlighter(doc.document())) {
     setDocument(doc.document());
     setLineWrapMode(QPlainTextEdit::WidgetWidth);
-    checkTimer_.setSingleShot(true);
-    checkTimer_.setInterval(kCheckDelayMs);
-    connect(document(), &QTextDocument::contentsChanged, &checkTimer_, qOverload<>(&QTimer::start));
-    connect(&checkTimer_, &QTimer::timeout, this, &CTAVIView::checkNow);
+    connect(&doc_, &CTAVIDoc::problemsChanged, this, &CTAVIView::markProblemLines);
+    markProblemLines();
 }
 
 void CTAVIView::goToLine(int line) {
@@ -32,22 +29,9 @@ void CTAVIView::goToLine(int line) {
     setFocus();
 }
 
-void CTAVIView::setProblems(std::vector<err> problems) {
-    problems_ = std::move(problems);
-    markProblemLines();
-}
-
-QString CTAVIView::problemText(int line) const {
-    QStringList rows;
-    for (const err& e : problems_)
-        if (e.line == line)
-            rows << QString::fromStdString(e.message);
-    return rows.join(QLatin1Char('\n'));
-}
-
 void CTAVIView::markProblemLines() {
     QList<QTextEdit::ExtraSelection> marks;
-    for (const err& e : problems_) {
+    for (const err& e : doc_.problems()) {
         const QTextBlock block = document()->findBlockByNumber(e.line - 1);
         if (!block.isValid())
             continue;
@@ -69,7 +53,7 @@ bool CTAVIView::event(QEvent* e) {
         auto* help = static_cast<QHelpEvent*>(e);
         const QPoint inViewport = viewport()->mapFromGlobal(help->globalPos());
         const int line = cursorForPosition(inViewport).blockNumber() + 1;
-        const QString text = problemText(line);
+        const QString text = doc_.problemText(line);
         if (text.isEmpty())
             QToolTip::hideText();
         else
@@ -81,12 +65,6 @@ bool CTAVIView::event(QEvent* e) {
 
 void CTAVIView::contextMenuEvent(QContextMenuEvent* e) {
     Q_EMIT contextMenuWanted(e->globalPos());
-}
-
-void CTAVIView::checkNow() {
-    checkTimer_.stop();
-    if (checkerAvailable())
-        setProblems(checkTranscript(doc_.app(), doc_.lines()));
 }
 
 } // namespace tavi::app

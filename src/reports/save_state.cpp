@@ -23,6 +23,8 @@ SaveDialogTexts saveDialogTexts(ReportKind kind, bool batchOpen) {
 }
 
 FileChoice richTextFileChoice(RichTextSaveChoice choice) {
+    if (choice == RichTextSaveChoice::Pdf)
+        return {"PDF file (*.PDF)|*.PDF|", ".pdf"};
     if (choice == RichTextSaveChoice::Rtf)
         return {"RTF file (*.RTF)|*.RTF|", ".rtf"};
     return {"Text file (*.TXT)|*.TXT|", ".txt"};
@@ -36,15 +38,21 @@ int ReportSaveState::initialChoice(ReportKind kind, bool countTable) const {
     return 0;
 }
 
-std::string ReportSaveState::reportAddedToBatch() {
-    ++batchCount_;
-    return format("Report %d has been added to the PDF file", batchCount_);
+std::string ReportSaveState::reportAddedToBatch(Report report) {
+    batch_.push_back(std::move(report));
+    return format("Report %d has been added to the PDF file", batchCount());
+}
+
+void ReportSaveState::dropLastFromBatch() {
+    if (!batch_.empty())
+        batch_.pop_back();
 }
 
 bool ReportSaveState::closeBatch() {
-    if (batchCount_ == 0)
+    if (batch_.empty())
         return false;
-    batchCount_ = 0;
+    batch_.clear();
+    batchPath_.clear();
     lastFormat_ = 0;
     return true;
 }

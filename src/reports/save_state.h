@@ -1,12 +1,15 @@
 // What the desktop program remembers about saving reports during one run:
 // the last chosen format, "Display report after saving", and the PDF batch
-// (its counter and file). Also the texts of the two "Save report as" dialogs.
+// (its file and the reports in it). Also the texts of the two "Save report
+// as" dialogs.
 #pragma once
 
 #include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "reports/report.h"
 
 namespace tavi {
 
@@ -28,10 +31,13 @@ struct SaveDialogTexts {
 // "Close PDF &Batch" while a batch is open) or `CSaveReportTypeRTF`.
 SaveDialogTexts saveDialogTexts(ReportKind kind, bool batchOpen);
 
-// File-dialog filter and extension of a rich-text report's file choice.
+// File-dialog filter and extension of a rich-text report's file choice
+// (PDF, RTF or TXT).
 struct FileChoice {
     std::string filter;    // "RTF file (*.RTF)|*.RTF|"
     std::string extension; // ".rtf"
+    // The filter's first part, as a file dialog shows it: "RTF file (*.RTF)".
+    std::string shownFilter() const { return filter.substr(0, filter.find('|')); }
 };
 FileChoice richTextFileChoice(RichTextSaveChoice choice);
 
@@ -46,12 +52,19 @@ public:
     bool displayAfterSaving() const { return display_; }
     void setDisplayAfterSaving(bool on) { display_ = on; }
 
-    bool batchOpen() const { return batchCount_ > 0; }
-    int batchCount() const { return batchCount_; }
-    // Counts a report added to the PDF batch; returns
+    bool batchOpen() const { return !batch_.empty(); }
+    int batchCount() const { return static_cast<int>(batch_.size()); }
+    // The batch file, chosen when the first report is added.
+    const std::filesystem::path& batchPath() const { return batchPath_; }
+    void setBatchPath(std::filesystem::path path) { batchPath_ = std::move(path); }
+    // The reports of the open batch, in the order they were added.
+    const std::vector<Report>& batchReports() const { return batch_; }
+    // Adds a report to the PDF batch; returns
     // "Report %d has been added to the PDF file".
-    std::string reportAddedToBatch();
-    // "Close PDF &Batch": with reports in the batch, resets the counter and the
+    std::string reportAddedToBatch(Report report);
+    // Takes back the report added last (its file could not be written).
+    void dropLastFromBatch();
+    // "Close PDF &Batch": with reports in the batch, empties it, resets the
     // format to zero and returns true (the caller finishes the file); with
     // none, does nothing and returns false.
     bool closeBatch();
@@ -59,7 +72,8 @@ public:
 private:
     int lastFormat_ = -1; // not chosen yet
     bool display_ = false;
-    int batchCount_ = 0;
+    std::filesystem::path batchPath_;
+    std::vector<Report> batch_;
 };
 
 // The PDF batch file in the reports folder: the first report's transcript

@@ -1,5 +1,6 @@
 // Checking a transcript and making, saving and collecting its reports through
 // the real menus and dialogs.
+#include <QClipboard>
 #include <QFile>
 #include <QListWidget>
 #include <QProcess>
@@ -75,12 +76,12 @@ TEST_F(ReportTest, CheckListsProblemsInLineOrderAndGoesToTheirLines) {
     EXPECT_TRUE(list.item(0)->text().startsWith("E108 on entry 3: "))
         << list.item(0)->text().toStdString();
     int previous = 0;
-    for (const err& e : f->view().problems()) {
+    for (const err& e : f->doc().problems()) {
         EXPECT_GE(e.line, previous);
         previous = e.line;
     }
     dialog->goToRow(list.count() - 1);
-    EXPECT_EQ(f->view().textCursor().blockNumber() + 1, f->view().problems().back().line);
+    EXPECT_EQ(f->view().textCursor().blockNumber() + 1, f->doc().problems().back().line);
     dialog->close();
 
     // Before an analysis the same list asks whether to go on; Cancel stops it.
@@ -110,7 +111,7 @@ TEST_F(ReportTest, StandardMeasuresReportSavesAsPdfAndRtfAndFollowsTheAnalysisSe
     // The format chosen last is offered first next time.
     whenModal([](QWidget* w) {
         auto* dialog = qobject_cast<CSaveReportTypeRTF*>(w);
-        EXPECT_EQ(dialog->choice(), SavePdf);
+        EXPECT_EQ(dialog->choice(), static_cast<int>(RichTextSaveChoice::Pdf));
         dialog->findChild<QRadioButton*>("choiceRtf")->setChecked(true);
         dialog->accept();
     });
@@ -144,7 +145,7 @@ TEST_F(ReportTest, PdfBatchCollectsReportsAndCloses) {
     });
     run("ID_FILE_SAVE");
     EXPECT_FALSE(action("ID_FILE_CLOSE_PDF_BATCH")->isEnabled());
-    EXPECT_EQ(app->reportSave.pdfBatchCount, 0);
+    EXPECT_EQ(app->reportSave.batchCount(), 0);
 
     chooseFile(tempPath("second_Reports.pdf")); // a new batch asks for its file again
     pressOnMessage("OK");
@@ -156,7 +157,60 @@ TEST_F(ReportTest, PdfBatchCollectsReportsAndCloses) {
     const QString pdf = pdfText(tempPath("second_Reports.pdf"));
     EXPECT_EQ(pdf.count("TRANSCRIPT LENGTH"), 2);
     run("ID_FILE_CLOSE_PDF_BATCH");
-    EXPECT_EQ(app->reportSave.pdfBatchCount, 0);
+    EXPECT_EQ(app->reportSave.batchCount(), 0);
+}
+
+// Select All, Copy, Save and Print go to the active window, whichever kind it
+// is; a help window is no document and takes none of them.
+TEST_F(ReportTest, FileAndEditCommandsGoToTheActiveWindowOfEitherKind) {
+    CReptFrame* report = standardMeasuresReport();
+    ASSERT_NE(report, nullptr);
+    run("ID_EDIT_SELECT_ALL");
+    EXPECT_TRUE(report->view().textCursor().hasSelection());
+    run("ID_EDIT_COPY");
+    EXPECT_TRUE(QApplication::clipboard()->text().contains("TRANSCRIPT LENGTH"));
+
+    CTAVIFrame* transcript = frame->transcriptFrames().front();
+    frame->mdiArea().setActiveSubWindow(transcript);
+    run("ID_EDIT_SELECT_ALL");
+    EXPECT_EQ(transcript->view().textCursor().selectedText().size(),
+              transcript->doc().document()->toPlainText().size());
+    EXPECT_FALSE(report->view().textCursor().selectedText().isEmpty()) << "left as it was";
+
+    // Save As of a transcript asks for its name; of a report, for its format.
+    chooseFile(tempPath("copy.tvi"));
+    run("ID_FILE_SAVE_AS");
+    EXPECT_EQ(transcript->doc().title(), "copy.tvi");
+    frame->mdiArea().setActiveSubWindow(report);
+    saveActiveReport("choiceTxt", tempPath("report.txt"));
+    EXPECT_TRUE(fileBytes(tempPath("report.txt")).contains("TRANSCRIPT LENGTH"));
+    EXPECT_EQ(report->windowTitle(), "report.txt");
+
+    run("ID_HELP_README");
+    EXPECT_EQ(frame->currentWindow()->objectName(), "CHelpFrame");
+    frame->updateCommands();
+    for (const char* id :
+         {"ID_FILE_SAVE", "ID_FILE_SAVE_AS", "ID_FILE_PRINT", "ID_EDIT_COPY", "ID_EDIT_SELECT_ALL"})
+        EXPECT_FALSE(action(id)->isEnabled()) << id;
+    EXPECT_TRUE(action("ID_FILE_CLOSE")->isEnabled());
+}
+
+// Closing the program offers each changed transcript once; one "Cancel"
+// keeps every window open.
+TEST_F(ReportTest, ClosingTheProgramAsksForEachChangedTranscriptOnce) {
+    ASSERT_NE(standardMeasuresReport(), nullptr);
+    CTAVIFrame* park = frame->transcriptFrames().front();
+    park->view().moveCursor(QTextCursor::End);
+    park->view().insertPlainText(QStringLiteral("C That's all.\n"));
+    pressOnMessage("Cancel");
+    EXPECT_FALSE(frame->close());
+    settle();
+    EXPECT_EQ(frame->mdiArea().subWindowList().size(), 2);
+    pressOnMessage("No");
+    EXPECT_TRUE(frame->close());
+    settle();
+    EXPECT_EQ(messages, QStringList({"Save changes to park.tvi?", "Save changes to park.tvi?"}));
+    EXPECT_TRUE(frame->mdiArea().subWindowList().isEmpty());
 }
 
 TEST_F(ReportTest, ReportOfAClosedTranscriptSaysItIsNoLongerAvailable) {

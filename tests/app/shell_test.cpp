@@ -171,16 +171,16 @@ TEST_F(ShellTest, ProblemLinesAreMarkedAfterAPauseInTyping) {
         GTEST_SKIP() << "the checker reports nothing yet";
     CTAVIFrame* f = frame->openTranscript(dataFile("park.tvi"));
     ASSERT_NE(f, nullptr);
-    EXPECT_TRUE(f->view().problems().empty());
+    EXPECT_TRUE(f->doc().problems().empty());
     f->view().goToLine(8);
     f->view().moveCursor(QTextCursor::EndOfBlock);
     QTest::keyClick(&f->view(), Qt::Key_Backspace); // the terminator
-    EXPECT_TRUE(f->view().problems().empty());      // not on every key
-    QTest::qWait(CTAVIView::kCheckDelayMs + 300);
-    ASSERT_FALSE(f->view().problems().empty());
-    EXPECT_EQ(f->view().problems().front().line, 8);
-    EXPECT_FALSE(f->view().problemText(8).isEmpty());
-    EXPECT_EQ(f->view().extraSelections().size(), f->view().problems().size());
+    EXPECT_TRUE(f->doc().problems().empty());       // not on every key
+    QTest::qWait(CTAVIDoc::kCheckDelayMs + 300);
+    ASSERT_FALSE(f->doc().problems().empty());
+    EXPECT_EQ(f->doc().problems().front().line, 8);
+    EXPECT_FALSE(f->doc().problemText(8).isEmpty());
+    EXPECT_EQ(f->view().extraSelections().size(), f->doc().problems().size());
 }
 
 TEST_F(ShellTest, HelpShowsTheReadmeAndWindowMenuClosesReportsOnly) {

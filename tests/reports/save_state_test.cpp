@@ -20,17 +20,32 @@ TEST(ReportSaveState, FirstSaveOffersTheFirstChoiceOrCsvForCountTablesThenTheLas
     EXPECT_TRUE(state.displayAfterSaving());
 }
 
-TEST(ReportSaveState, PdfBatchCountsReportsAndClosingAnEmptyBatchDoesNothing) {
+Report titled(const char* title) {
+    Report r;
+    r.title = title;
+    return r;
+}
+
+TEST(ReportSaveState, PdfBatchKeepsItsReportsAndClosingAnEmptyBatchDoesNothing) {
     ReportSaveState state;
     state.remember(3);
     EXPECT_FALSE(state.closeBatch());
     EXPECT_EQ(state.lastFormat(), 3) << "closing an empty batch changes nothing";
-    EXPECT_EQ(state.reportAddedToBatch(), "Report 1 has been added to the PDF file");
-    EXPECT_EQ(state.reportAddedToBatch(), "Report 2 has been added to the PDF file");
+    state.setBatchPath("/r/Story1_Reports.pdf");
+    EXPECT_EQ(state.reportAddedToBatch(titled("First")), "Report 1 has been added to the PDF file");
+    EXPECT_EQ(state.reportAddedToBatch(titled("Lost")), "Report 2 has been added to the PDF file");
+    state.dropLastFromBatch(); // its file could not be written
+    EXPECT_EQ(state.reportAddedToBatch(titled("Second")),
+              "Report 2 has been added to the PDF file");
     EXPECT_TRUE(state.batchOpen());
+    ASSERT_EQ(state.batchReports().size(), 2u);
+    EXPECT_EQ(state.batchReports()[0].title, "First");
+    EXPECT_EQ(state.batchReports()[1].title, "Second");
     EXPECT_EQ(saveDialogTexts(ReportKind::Grid, state.batchOpen()).choices[4], "Close PDF &Batch");
     EXPECT_TRUE(state.closeBatch());
     EXPECT_EQ(state.batchCount(), 0);
+    EXPECT_TRUE(state.batchReports().empty());
+    EXPECT_TRUE(state.batchPath().empty());
     EXPECT_EQ(state.lastFormat(), 0);
     EXPECT_EQ(saveDialogTexts(ReportKind::Grid, state.batchOpen()).choices[4], "Begin PDF Batch");
 }
@@ -49,6 +64,8 @@ TEST(ReportSaveState, DialogTextsFileChoicesAndBatchFileName) {
     EXPECT_EQ(grid.choices[3], "TXT - Tab Delimited Text");
     EXPECT_EQ(richTextFileChoice(RichTextSaveChoice::Rtf).filter, "RTF file (*.RTF)|*.RTF|");
     EXPECT_EQ(richTextFileChoice(RichTextSaveChoice::Txt).extension, ".txt");
+    EXPECT_EQ(richTextFileChoice(RichTextSaveChoice::Pdf).shownFilter(), "PDF file (*.PDF)");
+    EXPECT_EQ(richTextFileChoice(RichTextSaveChoice::Rtf).shownFilter(), "RTF file (*.RTF)");
     EXPECT_EQ(pdfBatchPath("/r", "Story1.tvi"), std::filesystem::path("/r/Story1_Reports.pdf"));
     EXPECT_EQ(pdfBatchPath("/r", ""), std::filesystem::path("/r/TAVI_Reports.pdf"));
 }
