@@ -18,6 +18,7 @@
 #include "cli/command.h"
 #include "cli/terminal_progress.h"
 #include "reports/grid_writer.h"
+#include "reports/report_file.h"
 #include "session/analysis_session.h"
 
 namespace {
@@ -50,7 +51,7 @@ private:
     void print(std::string_view text, const char* answer) {
         if (clearLine_)
             err_ << "\r\033[K";
-        err_ << text << answer << '\n';
+        err_ << "tavi batch: " << text << answer << '\n';
     }
     std::ostream& err_;
     bool includeErrors_;
@@ -109,14 +110,6 @@ std::vector<std::string> splitCommas(const std::string& list) {
     return parts;
 }
 
-bool saveOne(const Grid& grid, GridFormat format, const fs::path& path, std::ostream& err) {
-    std::string problem = saveGrid(grid, format, path);
-    if (problem.empty())
-        return true;
-    err << problem << ": " << path.string() << '\n';
-    return false;
-}
-
 // The analysis settings in force: analysis set, word base, cut, window, code
 // lists and the word lists and dictionary in `resources`.
 BatchRunOptions runOptions(const Settings& settings, Prompter& prompter) {
@@ -130,7 +123,7 @@ BatchRunOptions runOptions(const Settings& settings, Prompter& prompter) {
 int runCheck(cli::CommandContext& ctx, const std::vector<fs::path>& files,
              const BatchRunOptions& options) {
     if (files.empty()) {
-        ctx.err << "No transcripts selected\n";
+        ctx.err << "tavi batch: No transcripts selected\n";
         return cli::kExitUsage;
     }
     BatchCheckResult r = checkTranscripts(files, options.analysis.check, options.threads);
@@ -222,9 +215,16 @@ int run(cli::CommandContext& ctx) {
     std::optional<BatchResult> result = runBatch(files, options, prompter, progress);
     if (!result)
         return cli::kExitFailed;
-    bool saved = saveOne(result->data, format, *out, ctx.err) &&
-                 saveOne(result->key, format, keyFilePath(*out), ctx.err);
-    return saved ? cli::kExitOk : cli::kExitFailed;
+    const char separator = gridSeparator(format);
+    const fs::path keyFile = keyFilePath(*out);
+    const std::string problem = saveReportFiles({{*out, gridFileBytes(result->data, separator)},
+                                                 {keyFile, gridFileBytes(result->key, separator)}});
+    if (!problem.empty()) {
+        ctx.err << "tavi batch: " << problem << ": " << *out << " (and " << keyFile.string()
+                << "); neither was replaced\n";
+        return cli::kExitFailed;
+    }
+    return cli::kExitOk;
 }
 
 const cli::CommandRegistrar reg{{

@@ -70,7 +70,7 @@ struct FileResult {
     CheckResult check;
 };
 
-void printText(const std::vector<FileResult>& results, std::ostream& out) {
+void printText(const std::vector<FileResult>& results, int unreadable, std::ostream& out) {
     int errors = 0, warnings = 0;
     for (const FileResult& r : results) {
         if (results.size() > 1)
@@ -80,7 +80,16 @@ void printText(const std::vector<FileResult>& results, std::ostream& out) {
         errors += r.check.errorCount();
         warnings += r.check.warningCount();
     }
-    out << checkSummary(errors, warnings) << '\n';
+    if (unreadable == 0) {
+        out << checkSummary(errors, warnings) << '\n';
+        return;
+    }
+    // Never a clean result for a transcript that was not read.
+    if (!results.empty())
+        out << checkSummary(errors, warnings) << " (in the transcripts that could be read)\n";
+    out << (unreadable == 1 ? std::string("1 transcript could not be read.")
+                            : format("%d transcripts could not be read.", unreadable))
+        << '\n';
 }
 
 void printJson(const std::vector<FileResult>& results, std::ostream& out) {
@@ -119,14 +128,15 @@ int run(cli::CommandContext& ctx) {
     AnalysisRequest checkOnly;
     checkOnly.measure = false;
     std::vector<FileResult> results;
-    bool unreadable = false, errors = false;
+    int unreadable = 0;
+    bool errors = false;
     for (const std::string& path : args.positional()) {
         TranscriptAnalysis analysis = analyseFile(path, context, checkOnly);
         if (analysis.load != LoadStatus::Ok) {
             ctx.err << "tavi check: "
                     << (analysis.load == LoadStatus::CannotOpen ? "cannot read " : "corrupted: ")
                     << path << '\n';
-            unreadable = true;
+            ++unreadable;
             continue;
         }
         errors = errors || analysis.hasErrors();
@@ -135,8 +145,8 @@ int run(cli::CommandContext& ctx) {
     if (args.has("--json"))
         printJson(results, ctx.out);
     else
-        printText(results, ctx.out);
-    if (unreadable)
+        printText(results, unreadable, ctx.out);
+    if (unreadable > 0)
         return cli::kExitUsage;
     return errors ? cli::kExitFailed : cli::kExitOk;
 }

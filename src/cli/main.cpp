@@ -1,6 +1,7 @@
 // `tavi`: every analysis of the desktop program, for scripts and pipelines.
 #include <algorithm>
 #include <iostream>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -86,6 +87,11 @@ int runMain(int argc, char** argv) {
         CommandContext context{std::move(rest), std::cout, std::cerr, settingsDir};
         try {
             return c.run(context);
+        } catch (const std::bad_alloc&) {
+            std::cerr << "tavi " << name
+                      << ": not enough memory for this work; nothing was written. Close other "
+                         "programs or split the transcript, and try again\n";
+            return kExitFailed;
         } catch (const std::exception& e) {
             std::cerr << "tavi " << name << ": " << e.what() << '\n';
             return kExitFailed;

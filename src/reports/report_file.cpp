@@ -5,11 +5,10 @@
 
 namespace tavi {
 
-std::string saveReportBytes(const std::filesystem::path& path, std::string_view bytes) {
-    std::error_code ec;
-    if (path.has_parent_path())
-        std::filesystem::create_directories(path.parent_path(), ec);
-    switch (writeFileAtomic(path, bytes)) {
+namespace {
+
+std::string message(WriteStatus status) {
+    switch (status) {
     case WriteStatus::Ok:
         return {};
     case WriteStatus::CannotOpen:
@@ -18,6 +17,29 @@ std::string saveReportBytes(const std::filesystem::path& path, std::string_view 
         break;
     }
     return "cannot write to file";
+}
+
+void makeFolderOf(const std::filesystem::path& path) {
+    std::error_code ec;
+    if (path.has_parent_path())
+        std::filesystem::create_directories(path.parent_path(), ec);
+}
+
+} // namespace
+
+std::string saveReportBytes(const std::filesystem::path& path, std::string_view bytes) {
+    makeFolderOf(path);
+    return message(writeFileAtomic(path, bytes));
+}
+
+std::string
+saveReportFiles(const std::vector<std::pair<std::filesystem::path, std::string>>& files) {
+    std::vector<std::pair<std::filesystem::path, std::string_view>> views;
+    for (const auto& [path, bytes] : files) {
+        makeFolderOf(path);
+        views.emplace_back(path, bytes);
+    }
+    return message(writeFilesAtomic(views));
 }
 
 } // namespace tavi

@@ -103,6 +103,14 @@ TEST_F(CheckCommand, UnreadableFilesAndJunk) {
     Outcome run = runCheck(missing, errFile());
     EXPECT_EQ(run.status, 2);
     EXPECT_NE(errors().find("cannot read " + missing), std::string::npos);
+    EXPECT_EQ(run.out, "1 transcript could not be read.\n");
+    std::string clean = file("fine.tvi", "$ Child\nC hi.\n");
+    Outcome mixed = runCheck(clean + " " + missing, errFile());
+    EXPECT_EQ(mixed.status, 2);
+    EXPECT_NE(mixed.out.find("(in the transcripts that could be read)\n1 transcript could not "
+                             "be read.\n"),
+              std::string::npos)
+        << mixed.out;
     EXPECT_EQ(runCheck(dir_.string(), errFile()).status, 2);
     EXPECT_EQ(runCheck("", errFile()).status, 2);
     std::string junk;
