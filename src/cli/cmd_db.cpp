@@ -249,13 +249,12 @@ int add(cli::CommandContext& ctx, const cli::Args& args) {
         check.dateFormat.separator = (*format)[2];
     }
     options.dateOrder = check.dateFormat.order;
+    options.recordAdded = [&ctx](const std::string& line) { ctx.out << line << std::endl; };
     std::vector<std::string> files(args.positional().begin() + 2, args.positional().end());
     NoProgress progress;
     BuildResult result = addTranscripts(*db, files, options, standardChecker(check),
                                         analysisValues(std::move(context)), prompter, progress);
     bool summaryHeld = prompter.takeSummary(result.summary);
-    for (const std::string& line : result.listLines)
-        ctx.out << line << '\n';
     if (summaryHeld)
         ctx.out << result.summary << '\n';
     bool allStored = !result.stopped && result.counters.added == static_cast<int>(files.size());

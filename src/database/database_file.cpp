@@ -6,6 +6,7 @@
 
 #include "base/file_io.h"
 #include "base/format.h"
+#include "base/text.h"
 #include "database/db_messages.h"
 #include "database/transcript_data.h"
 
@@ -351,7 +352,7 @@ std::string newDatabaseBytes(const DescriptiveHeader& info) {
 
 bool createDatabase(const std::filesystem::path& path, const DescriptiveHeader& info,
                     Prompter& prompter) {
-    if (info.context.empty()) {
+    if (trim(info.context).empty()) {
         prompter.inform(msg::kMissingContext);
         return false;
     }
@@ -376,17 +377,21 @@ std::unique_ptr<Database> openDatabase(const std::filesystem::path& path, OpenFo
                                        Prompter& prompter, std::string_view password) {
     std::string name = path.string();
     std::unique_ptr<DiskDbFile> file;
+    DiskDbFile::OpenFailure failure = DiskDbFile::OpenFailure::None;
     bool readOnly = true;
     if (mode == OpenFor::Writing) {
         std::filesystem::path folder = path.parent_path().empty() ? "." : path.parent_path();
         if (isWritable(folder) && isWritable(path))
-            file = DiskDbFile::open(path, DiskDbFile::Mode::ReadWrite);
+            file = DiskDbFile::open(path, DiskDbFile::Mode::ReadWrite, &failure);
         readOnly = file == nullptr;
     }
-    if (!file)
-        file = DiskDbFile::open(path, DiskDbFile::Mode::ReadOnly);
+    if (!file && failure != DiskDbFile::OpenFailure::Busy)
+        file = DiskDbFile::open(path, DiskDbFile::Mode::ReadOnly, &failure);
     if (!file) {
-        prompter.inform("Problem opening database file");
+        if (failure == DiskDbFile::OpenFailure::Busy)
+            say(prompter, msg::kBusy, name);
+        else
+            prompter.inform("Problem opening database file");
         return nullptr;
     }
     auto database = std::make_unique<Database>(std::move(file), name, path, readOnly);

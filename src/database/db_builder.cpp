@@ -67,6 +67,8 @@ public:
         keys.insert(record.key);
         ++result.counters.added;
         result.listLines.push_back(listLine(record));
+        if (options_.recordAdded)
+            options_.recordAdded(result.listLines.back());
         return goOn;
     }
 

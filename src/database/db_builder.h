@@ -36,6 +36,10 @@ struct BuildOptions {
     std::string values[kEnforcedFields];
     std::string transcriptFolder; // where names without a folder are found
     DateOrder dateOrder = DateOrder::MonthDayYear;
+    // Called with each added record's list line as soon as the record is
+    // stored, so a listing shows every committed record even if the run is
+    // stopped; may be empty.
+    std::function<void(const std::string&)> recordAdded;
 };
 
 // The switches and values as the descriptive header keeps them (items 9, 10).

@@ -2,14 +2,53 @@
 // the memory file mirrors its behaviour byte for byte.
 #include "database/db_file.h"
 
+#include <cerrno>
 #include <cstring>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace tavi {
 
-std::unique_ptr<DiskDbFile> DiskDbFile::open(const std::filesystem::path& path, Mode mode) {
+namespace {
+
+// Locks the open file, waiting for another program's lock to go. A file that
+// was replaced while we waited (a rewrite renames a new file over the old) is
+// no longer the database: the caller opens the path again.
+enum class LockResult { Locked, Busy, Replaced };
+
+LockResult lockFile(int fd, const std::filesystem::path& path) {
+    const int operation = LOCK_EX | LOCK_NB;
+    constexpr int kStepMs = 20;
+    int waited = 0;
+    while (::flock(fd, operation) != 0) {
+        if (errno != EWOULDBLOCK && errno != EINTR)
+            return LockResult::Locked; // a file system without locks: go on unlocked
+        if (waited >= DiskDbFile::kLockWaitMs)
+            return LockResult::Busy;
+        ::usleep(kStepMs * 1000);
+        waited += kStepMs;
+    }
+    struct stat open {
+    }, named{};
+    if (::fstat(fd, &open) == 0 && ::stat(path.c_str(), &named) == 0 &&
+        (open.st_ino != named.st_ino || open.st_dev != named.st_dev))
+        return LockResult::Replaced;
+    return LockResult::Locked;
+}
+
+} // namespace
+
+std::unique_ptr<DiskDbFile> DiskDbFile::open(const std::filesystem::path& path, Mode mode,
+                                             OpenFailure* failure) {
+    auto fail = [&](OpenFailure why) {
+        if (failure)
+            *failure = why;
+        return nullptr;
+    };
+    if (failure)
+        *failure = OpenFailure::None;
     int flags = O_CLOEXEC;
     switch (mode) {
     case Mode::ReadOnly:
@@ -22,15 +61,34 @@ std::unique_ptr<DiskDbFile> DiskDbFile::open(const std::filesystem::path& path, 
         flags |= O_RDWR | O_CREAT | O_TRUNC;
         break;
     }
-    int fd = ::open(path.c_str(), flags, 0666);
-    if (fd < 0)
-        return nullptr;
-    struct stat st {};
-    if (::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode)) {
-        ::close(fd);
-        return nullptr;
+    for (int attempt = 0; attempt < 100; ++attempt) {
+        int fd = ::open(path.c_str(), flags & ~O_TRUNC, 0666);
+        if (fd < 0)
+            return fail(OpenFailure::CannotOpen);
+        struct stat st {};
+        if (::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode)) {
+            ::close(fd);
+            return fail(OpenFailure::CannotOpen);
+        }
+        if (mode == Mode::ReadOnly)
+            return std::unique_ptr<DiskDbFile>(new DiskDbFile(fd));
+        switch (lockFile(fd, path)) {
+        case LockResult::Busy:
+            ::close(fd);
+            return fail(OpenFailure::Busy);
+        case LockResult::Replaced:
+            ::close(fd);
+            continue;
+        case LockResult::Locked:
+            break;
+        }
+        if ((flags & O_TRUNC) && ::ftruncate(fd, 0) != 0) {
+            ::close(fd);
+            return fail(OpenFailure::CannotOpen);
+        }
+        return std::unique_ptr<DiskDbFile>(new DiskDbFile(fd));
     }
-    return std::unique_ptr<DiskDbFile>(new DiskDbFile(fd));
+    return fail(OpenFailure::Busy);
 }
 
 DiskDbFile::~DiskDbFile() {

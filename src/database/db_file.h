@@ -30,8 +30,20 @@ public:
 class DiskDbFile final : public DbFile {
 public:
     enum class Mode { ReadOnly, ReadWrite, Create };
-    // Null when the file cannot be opened in that mode (Create makes or empties it).
-    static std::unique_ptr<DiskDbFile> open(const std::filesystem::path& path, Mode mode);
+    // Why an open failed.
+    enum class OpenFailure { None, CannotOpen, Busy };
+    // How long an open waits for another program's lock before giving up.
+    static constexpr int kLockWaitMs = 5000;
+
+    // Null when the file cannot be opened in that mode (Create makes or empties
+    // it). Writers take an exclusive lock on the file, so two programs never
+    // change a database at once: an open for writing waits up to kLockWaitMs
+    // for the other writer, then fails as Busy. Readers take no lock: a record
+    // becomes visible only once it is completely written, and a rewrite renames
+    // a complete new file over the old, so a reader always sees a whole
+    // database, also while the same program is writing to it.
+    static std::unique_ptr<DiskDbFile> open(const std::filesystem::path& path, Mode mode,
+                                            OpenFailure* failure = nullptr);
     ~DiskDbFile() override;
 
     std::int64_t size() override;

@@ -33,6 +33,8 @@ inline constexpr const char* kReadOnly =
     "%s is opened for READ ONLY - you cannot edit the contents unless you run the software as an "
     "administrator or move the database files to an unprotected folder.";
 inline constexpr const char* kReadOnlyTitle = " - READ ONLY";
+inline constexpr const char* kBusy =
+    "%s is being changed by another program - try again when it has finished";
 inline constexpr const char* kRestricted = "This database has restricted access. You must know the "
                                            "password in order to access the data.";
 

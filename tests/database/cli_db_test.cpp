@@ -81,3 +81,37 @@ TEST(TaviDb, RestrictedAndUsage) {
 }
 
 } // namespace
+
+namespace {
+
+// Two programs adding to one database at once: the second waits for the
+// first, and both records end up in a database that still opens.
+TEST(TaviDb, TwoWritersAtOnceBothLandAndTheDatabaseStaysWhole) {
+    tavi::test::ScratchDir dir;
+    std::string bodies[] = {"C once there was a cat.\nC the end.\n",
+                            "C a dog ran home.\nC he was tired.\n"};
+    for (int i = 0; i < 2; ++i)
+        dir.write("s" + std::to_string(i) + ".tvi",
+                  std::string("$ Child, Examiner\n+ CA: 4;7\n+ Context: Nar\n") + bodies[i]);
+    for (int trial = 0; trial < 4; ++trial) {
+        ASSERT_EQ(tavi(dir, "create n.tvidb --context Narration").status, 0);
+        const std::string add = "'" TAVI_BINARY "' db add n.tvidb ";
+        const std::string both = "cd '" + dir.path().string() + "' && (" + add +
+                                 "s0.tvi >a0 2>&1 & " + add +
+                                 "s1.tvi >a1 2>&1 & wait %1 && wait %2)";
+        EXPECT_EQ(std::system(both.c_str()), 0) << "trial " << trial;
+        Outcome list = tavi(dir, "list n.tvidb");
+        EXPECT_EQ(list.status, 0) << list.err;
+        EXPECT_NE(list.out.find("# Samples: 2"), std::string::npos) << list.out;
+        std::filesystem::remove(dir.path() / "n.tvidb");
+    }
+}
+
+TEST(TaviDb, ABlankContextIsRefused) {
+    tavi::test::ScratchDir dir;
+    Outcome blank = tavi(dir, "create b.tvidb --context '  '");
+    EXPECT_NE(blank.status, 0);
+    EXPECT_NE(blank.err.find("Missing sampling context"), std::string::npos) << blank.err;
+}
+
+} // namespace
