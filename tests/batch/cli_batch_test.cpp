@@ -116,8 +116,11 @@ TEST(CliBatch, Rfc4180QuotingReadsBackWithPythonsCsvModule) {
                        "+ Name: \"Jo\", Smith\n+ Examiner: Dr \"Lee\"\n+ School: Hill, Road\n");
     ASSERT_EQ(writeFileAtomic(dir / "quoted.tvi", transcript), WriteStatus::Ok);
     const fs::path sbt = dir / "q.SBT";
-    ASSERT_EQ(writeFileAtomic(sbt, "GENINFO 0\nPLUSLINE 1\nPLUSLINE 11\nPLUSLIST School\n"),
-              WriteStatus::Ok);
+    ASSERT_EQ(
+        writeFileAtomic(
+            sbt,
+            "XTEXT NA\nXINT -9\nXVAL -9\nGENINFO 0\nPLUSLINE 1\nPLUSLINE 11\nPLUSLIST School\n"),
+        WriteStatus::Ok);
     const std::string files = "'" + (dir / "quoted.tvi").string() + "' " + data("park.tvi");
     const fs::path out = dir / "study.csv";
 

@@ -72,9 +72,11 @@ TEST(SelectionFileReference, ListsEveryGroupIndexAndColumnOfTheCatalogue) {
 // text so that a reader of a selection file made elsewhere finds them.
 TEST(SelectionFileReference, NamesTheKeywordsThatWriteNoColumns) {
     const std::string text = referenceText();
-    for (const VariableGroup& g : VariableCatalogue::standard().groups())
-        if (g.count == 0 && g.keyword != "EXPLORE")
+    for (const VariableGroup& g : VariableCatalogue::standard().groups()) {
+        if (g.count == 0 && g.keyword != "EXPLORE") {
             EXPECT_NE(text.find("`" + g.keyword + "`"), std::string::npos) << g.keyword;
+        }
+    }
     for (const char* keyword : {"UDLENGTH", "UDUTT", "FORMATRPT", "SWLUTT", "SWLAREA", "SWLLANG",
                                 "SULUTT", "MDLENGTH", "MDUTT", "GCLUTT", "FLUENCYBEH"})
         EXPECT_NE(text.find(std::string("`") + keyword + "`"), std::string::npos) << keyword;
