@@ -1,4 +1,4 @@
-// A window that shows one of the bundled documents (README, the measures)
+// A window that shows one of the bundled documents (README, the documentation index)
 // rendered from Markdown.
 #pragma once
 

@@ -125,8 +125,8 @@ void CMainFrame::registerCommands() {
         [this] { return !reportFrames().isEmpty(); });
 
     // Help
-    on(ID_HELP_FINDER, [this] { showHelpDocument(QStringLiteral("docs/measures.md")); });
-    on(ID_CONTEXT_HELP, [this] { showHelpDocument(QStringLiteral("docs/measures.md")); });
+    on(ID_HELP_FINDER, [this] { showHelpDocument(QStringLiteral("docs/index.md")); });
+    on(ID_CONTEXT_HELP, [this] { showHelpDocument(QStringLiteral("docs/index.md")); });
     on(ID_HELP_README, [this] { showHelpDocument(QStringLiteral("README.md")); });
     on(ID_APP_ABOUT, [this] { showAbout(); });
 }

@@ -177,9 +177,10 @@ bool applyFlags(const cli::Args& args, BatchRunOptions& options, Prompter& promp
 }
 
 int run(cli::CommandContext& ctx) {
-    cli::Args args(ctx.args,
-                   {"--selections", "--speaker", "--format", "--variables", "--threads", "-o"},
-                   {"--all", "--include-errors", "--include-missing-cut", "--check"});
+    cli::Args args(
+        ctx.args,
+        {"--selections", "--speaker", "--format", "--quote", "--variables", "--threads", "-o"},
+        {"--all", "--include-errors", "--include-missing-cut", "--check"});
     if (!args.ok()) {
         ctx.err << "tavi batch: " << args.error() << '\n';
         return cli::kExitUsage;
@@ -194,6 +195,15 @@ int run(cli::CommandContext& ctx) {
         ctx.err << "tavi batch: unknown format " << *args.value("--format")
                 << " (use csv, tsv or txt)\n";
         return cli::kExitUsage;
+    }
+    GridQuoting quoting = GridQuoting::Plain;
+    if (std::optional<std::string> quote = args.value("--quote")) {
+        if (toLowerAscii(*quote) == "rfc4180") {
+            quoting = GridQuoting::Rfc4180;
+        } else if (toLowerAscii(*quote) != "plain") {
+            ctx.err << "tavi batch: unknown quoting " << *quote << " (use plain or rfc4180)\n";
+            return cli::kExitUsage;
+        }
     }
     const bool terminal = cli::TerminalProgress::stderrIsTerminal();
     BatchPrompter prompter(ctx.err, args.has("--include-errors"), args.has("--include-missing-cut"),
@@ -217,8 +227,9 @@ int run(cli::CommandContext& ctx) {
         return cli::kExitFailed;
     const char separator = gridSeparator(format);
     const fs::path keyFile = keyFilePath(*out);
-    const std::string problem = saveReportFiles({{*out, gridFileBytes(result->data, separator)},
-                                                 {keyFile, gridFileBytes(result->key, separator)}});
+    const std::string problem =
+        saveReportFiles({{*out, gridFileBytes(result->data, separator, quoting)},
+                         {keyFile, gridFileBytes(result->key, separator, quoting)}});
     if (!problem.empty()) {
         ctx.err << "tavi batch: " << problem << ": " << *out << " (and " << keyFile.string()
                 << "); neither was replaced\n";
@@ -231,7 +242,7 @@ const cli::CommandRegistrar reg{{
     "batch",
     "write the rectangular data file of many transcripts",
     "Usage: tavi batch [--selections FILE.SBT] [--speaker 1|2] [--format csv|tsv|txt]\n"
-    "                  [--variables NAME,...] [--all] [--threads N]\n"
+    "                  [--quote plain|rfc4180] [--variables NAME,...] [--all] [--threads N]\n"
     "                  [--include-errors] [--include-missing-cut] -o OUT FILE...\n"
     "       tavi batch --check [--threads N] FILE...\n"
     "\n"
@@ -245,6 +256,11 @@ const cli::CommandRegistrar reg{{
     "  --speaker 1|2          the 1st (target) or 2nd speaker; a selection file\n"
     "                         without a speaker writes a row for each\n"
     "  --format csv|tsv|txt   comma- or tab-separated; default: OUT's extension\n"
+    "  --quote plain|rfc4180  plain (default): a quoted cell keeps its inner double\n"
+    "                         quotes as they stand; rfc4180: cells holding the\n"
+    "                         separator, a double quote or a line break are quoted\n"
+    "                         and inner double quotes doubled, as standard CSV\n"
+    "                         readers (R, pandas, Python's csv) expect\n"
     "  --variables NAME,...   add variables by column name (\"MLUw,NDW,%IntelUt\");\n"
     "                         GROUP:NAME picks a name standing in several groups\n"
     "                         (\"SYNSMRY:MLUw\")\n"

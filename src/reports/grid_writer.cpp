@@ -41,25 +41,32 @@ const char* gridExtension(GridFormat format) {
     return ".txt";
 }
 
-std::string gridCellText(std::string_view cell, char separator) {
-    if (cell.find(separator) == std::string_view::npos)
+std::string gridCellText(std::string_view cell, char separator, GridQuoting quoting) {
+    const bool rfc = quoting == GridQuoting::Rfc4180;
+    const bool quote = cell.find(separator) != std::string_view::npos ||
+                       (rfc && cell.find_first_of("\"\r\n") != std::string_view::npos);
+    if (!quote)
         return std::string(cell);
     std::string quoted;
     quoted.reserve(cell.size() + 2);
     quoted += '"';
-    quoted += cell; // inner quotes are deliberately not doubled
+    for (char ch : cell) {
+        quoted += ch;
+        if (rfc && ch == '"')
+            quoted += '"'; // plain files leave inner quotes as they stand
+    }
     quoted += '"';
     return quoted;
 }
 
-std::string gridFileBytes(const Grid& grid, char separator) {
+std::string gridFileBytes(const Grid& grid, char separator, GridQuoting quoting) {
     const size_t width = grid.columnCount();
     std::string bytes = "\xEF\xBB\xBF";
     auto addLine = [&](auto cellAt) {
         for (size_t c = 0; c < width; ++c) {
             if (c > 0)
                 bytes += separator;
-            bytes += gridCellText(cellAt(c), separator);
+            bytes += gridCellText(cellAt(c), separator, quoting);
         }
         bytes += '\n';
     };
@@ -73,8 +80,9 @@ std::string gridFileBytes(const Grid& grid, char separator) {
     return bytes;
 }
 
-std::string saveGrid(const Grid& grid, GridFormat format, const std::filesystem::path& path) {
-    return saveReportBytes(path, gridFileBytes(grid, gridSeparator(format)));
+std::string saveGrid(const Grid& grid, GridFormat format, const std::filesystem::path& path,
+                     GridQuoting quoting) {
+    return saveReportBytes(path, gridFileBytes(grid, gridSeparator(format), quoting));
 }
 
 } // namespace tavi

@@ -188,6 +188,12 @@ TEST_F(ShellTest, HelpShowsTheReadmeAndWindowMenuClosesReportsOnly) {
     QMdiSubWindow* help = frame->mdiArea().currentSubWindow();
     ASSERT_NE(help, nullptr);
     EXPECT_EQ(help->objectName(), "CHelpFrame");
+    // Help Topics opens the documentation index, the way into every document.
+    run("ID_HELP_FINDER");
+    QMdiSubWindow* topics = frame->mdiArea().currentSubWindow();
+    ASSERT_NE(topics, nullptr);
+    ASSERT_NE(topics, help);
+    EXPECT_EQ(topics->widget()->windowTitle(), "index.md");
     ASSERT_NE(frame->openTranscript(dataFile("park.tvi")), nullptr);
     run("ID_WINDOW_CLOSE_ALL");
     QApplication::processEvents();

@@ -80,6 +80,7 @@ TEST(CliBatch, BadUsage) {
     EXPECT_EQ(tavi("batch " + data("zoo.tvi"), dir).status, 2);
     EXPECT_EQ(tavi("batch --variables NoSuchColumn -o x.csv " + data("zoo.tvi"), dir).status, 2);
     EXPECT_EQ(tavi("batch --format xls -o x.csv " + data("zoo.tvi"), dir).status, 2);
+    EXPECT_EQ(tavi("batch --quote doubled -o x.csv " + data("zoo.tvi"), dir).status, 2);
     Outcome r =
         tavi("batch --selections '" + (dir / "none.SBT").string() + "' -o x.csv " + data("zoo.tvi"),
              dir);
@@ -97,6 +98,69 @@ TEST(CliBatch, ErrorCheckCountsTranscriptsAndProblems) {
     r = tavi("batch --check " + data("zoo.tvi"), dir);
     EXPECT_EQ(r.status, 0);
     EXPECT_TRUE(r.out.ends_with("\nNo errors or warnings found.\n")) << r.out;
+}
+
+// Header values holding commas and double quotes: with --quote rfc4180 a
+// standard CSV reader (Python's csv module) reads every row of the data and key
+// files back with the heading row's width and the cells as the transcript has
+// them; the plain default still leaves inner quotes undoubled.
+TEST(CliBatch, Rfc4180QuotingReadsBackWithPythonsCsvModule) {
+    if (std::system("python3 -c 'import csv' >/dev/null 2>&1") != 0)
+        GTEST_SKIP() << "python3 is not installed";
+    fs::path dir = freshFolder("tavi_cli_batch_quote");
+    std::string transcript;
+    ASSERT_TRUE(readFile(fs::path(TAVI_TEST_DATA_DIR) / "batch" / "zoo.tvi", transcript));
+    const std::string name = "+ Name: Ana\n";
+    ASSERT_NE(transcript.find(name), std::string::npos);
+    transcript.replace(transcript.find(name), name.size(),
+                       "+ Name: \"Jo\", Smith\n+ Examiner: Dr \"Lee\"\n+ School: Hill, Road\n");
+    ASSERT_EQ(writeFileAtomic(dir / "quoted.tvi", transcript), WriteStatus::Ok);
+    const fs::path sbt = dir / "q.SBT";
+    ASSERT_EQ(
+        writeFileAtomic(
+            sbt,
+            "XTEXT NA\nXINT -9\nXVAL -9\nGENINFO 0\nPLUSLINE 1\nPLUSLINE 11\nPLUSLIST School\n"),
+        WriteStatus::Ok);
+    const std::string files = "'" + (dir / "quoted.tvi").string() + "' " + data("park.tvi");
+    const fs::path out = dir / "study.csv";
+
+    Outcome r = tavi("batch --quote rfc4180 --all --selections '" + sbt.string() + "' -o '" +
+                         out.string() + "' " + files,
+                     dir);
+    ASSERT_EQ(r.status, 0) << r.err;
+    ASSERT_EQ(writeFileAtomic(dir / "read.py",
+                              "import csv, sys\n"
+                              "for path in sys.argv[1:]:\n"
+                              "    rows = list(csv.reader(open(path, encoding='utf-8-sig', "
+                              "newline='')))\n"
+                              "    bad = [i for i, row in enumerate(rows) if len(row) != "
+                              "len(rows[0])]\n"
+                              "    print(len(rows), 'rows, ragged:', bad)\n"
+                              "    print('\\n'.join(c for row in rows for c in row if '\"' in c "
+                              "or ',' in c))\n"),
+              WriteStatus::Ok);
+    const std::string command = "python3 '" + (dir / "read.py").string() + "' '" + out.string() +
+                                "' '" + (dir / "study_RDFKey.csv").string() + "' >'" +
+                                (dir / "read.txt").string() + "'";
+    ASSERT_EQ(std::system(command.c_str()), 0);
+    std::string read;
+    ASSERT_TRUE(readFile(dir / "read.txt", read));
+    // A heading row and a row for each speaker of the two transcripts.
+    EXPECT_TRUE(read.starts_with("5 rows, ragged: []\n")) << read;
+    EXPECT_NE(read.find("\n\"Jo\", Smith\n"), std::string::npos) << read;
+    EXPECT_NE(read.find("\nDr \"Lee\"\n"), std::string::npos) << read;
+    EXPECT_NE(read.find("\nHill, Road\n"), std::string::npos) << read;
+    const std::string even = " rows, ragged: []\n";
+    const size_t keyLine = read.rfind(" rows, ragged: ");
+    ASSERT_GT(keyLine, 1U) << read;
+    EXPECT_EQ(read.compare(keyLine, even.size(), even), 0) << "key file: " << read;
+
+    r = tavi("batch --selections '" + sbt.string() + "' -o '" + out.string() + "' " + files, dir);
+    ASSERT_EQ(r.status, 0) << r.err;
+    std::string bytes;
+    ASSERT_TRUE(readFile(out, bytes));
+    EXPECT_NE(bytes.find(",\"\"Jo\", Smith\",Dr \"Lee\",\"Hill, Road\""), std::string::npos)
+        << bytes;
 }
 
 } // namespace

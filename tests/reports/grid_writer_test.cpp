@@ -41,6 +41,23 @@ TEST(GridWriter, TabFileQuotesOnlyCellsHoldingATab) {
                                          "c.tvi\t\t\n");
 }
 
+// The standard form quotes every cell holding the separator, a quote or a line
+// break and doubles inner quotes; a plain cell stays bare in both forms.
+TEST(GridWriter, Rfc4180QuotingDoublesInnerQuotesAndQuotesLineBreaks) {
+    Grid grid = sampleGrid();
+    grid.rows[2] = {"c.tvi", "", "two\nlines"};
+    EXPECT_EQ(gridFileBytes(grid, ',', GridQuoting::Rfc4180),
+              "\xEF\xBB\xBF"
+              "Filename,MLUw,Note\n"
+              "a.tvi,\"3,5\",\"say \"\"hi\"\"\"\n"
+              "b.tvi,4.10,\"\"\"yes\"\", she said\"\n"
+              "c.tvi,,\"two\nlines\"\n");
+    grid.rows[1][2] = "two\tparts";
+    EXPECT_EQ(gridCellText(grid.rows[1][2], '\t', GridQuoting::Rfc4180), "\"two\tparts\"");
+    EXPECT_EQ(gridCellText("two\tparts", ',', GridQuoting::Rfc4180), "two\tparts");
+    EXPECT_EQ(gridCellText("Smith, \"Jo\"", '\t', GridQuoting::Rfc4180), "\"Smith, \"\"Jo\"\"\"");
+}
+
 TEST(GridWriter, EmptyGridIsOnlyTheByteOrderMarkAndAnEmptyHeadingLine) {
     EXPECT_EQ(gridFileBytes(Grid{}, ','), "\xEF\xBB\xBF\n");
 }
