@@ -438,8 +438,13 @@ struct Renderer {
                 plain(t);
         } else {
             plain(w);
-            if (error && !out.empty() && out.back().type == Out::Word)
-                out.back().attached += errorCode(*error, "", out.back().text);
+            if (error && !out.empty() && out.back().type == Out::Word) {
+                Out& o = out.back();
+                std::string before = o.text;
+                o.attached += errorCode(*error, "", o.text);
+                if (o.text != before)
+                    o.slot = -1; // the omitted ending is written: no other endings
+            }
         }
         for (std::string& c : comments)
             out.push_back({Out::Comment, std::move(c), "", -1, "", false});
