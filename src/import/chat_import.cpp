@@ -886,7 +886,7 @@ ChatImport importChat(std::string_view chat, const ChatImportOptions& options) {
     // Header lines from the target's @ID, the dates, @Types and @Languages.
     const ChatParticipant* child = file.participant(target);
     std::optional<Date> dob, doe;
-    std::string context, language;
+    std::string context, language, typesGroup;
     for (const ChatHeader& h : file.headers) {
         if (h.name == "Date")
             doe = chatDate(h.value);
@@ -894,9 +894,12 @@ ChatImport importChat(std::string_view chat, const ChatImportOptions& options) {
             dob = chatDate(h.value);
         else if (h.name == "Comment" && h.value.starts_with("Birth of " + target + " is "))
             dob = chatDate(std::string_view(h.value).substr(13 + target.size()));
-        else if (h.name == "Types" || h.name == "Activities")
+        else if (h.name == "Types" || h.name == "Activities") {
             context = context.empty() ? contextOf(h.value) : context;
-        else if (h.name == "Languages")
+            // "@Types: design, activity, group": the group when @ID has none.
+            if (size_t comma = h.value.rfind(','); h.name == "Types" && comma != std::string::npos)
+                typesGroup = letters(h.value.substr(comma + 1));
+        } else if (h.name == "Languages")
             language = h.value.starts_with("eng") ? "English" : h.value;
     }
     if (child && (child->sex == "male" || child->sex == "female"))
@@ -919,6 +922,8 @@ ChatImport importChat(std::string_view chat, const ChatImportOptions& options) {
     }
     if (child && !child->group.empty())
         t += "+ Subgroup: " + child->group + "\n";
+    else if (!typesGroup.empty())
+        t += "+ Subgroup: " + typesGroup + "\n";
     if (!context.empty())
         t += "+ Context: " + context + "\n";
     if (!language.empty())

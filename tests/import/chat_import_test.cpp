@@ -187,6 +187,11 @@ TEST(ChatImport, HeaderLinesFromIdDatesAndTypes) {
     EXPECT_EQ(h, (std::vector<std::string>{"+ Gender: F", "+ DOB: 16.10.1991", "+ DOE: 10.5.2000",
                                            "+ CA: 8;6", "+ Subgroup: TD", "+ Context: Nar",
                                            "+ Language: English"}));
+    // The group from @Types when @ID has none.
+    std::string noId = "@Begin\n@Participants:\tCHI Target_Child\n@Types:\tcross, narrative, TD\n"
+                       "*CHI:\thi .\n@End\n";
+    EXPECT_EQ(lines(importChat(noId, {}).text, '+'),
+              (std::vector<std::string>{"+ Subgroup: TD", "+ Context: Nar"}));
     // Without dates the age comes from @ID.
     r = import("*CHI:\thi .\n");
     h = lines(r.text, '+');
