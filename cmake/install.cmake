@@ -12,14 +12,15 @@ install(DIRECTORY data/ DESTINATION share/tavi PATTERN TAVI_SYS.ini EXCLUDE)
 
 # The configuration folder follows the prefix the tree is installed to, which
 # for `cmake --install --prefix` and for CPack is only known at install time.
+install(CODE "set(tavi_sys_ini \"${CMAKE_SOURCE_DIR}/data/TAVI_SYS.ini\")")
 install(CODE [[
   if(CMAKE_INSTALL_PREFIX STREQUAL "/usr")
     set(tavi_config_dir "/etc/tavi")
   else()
     set(tavi_config_dir "${CMAKE_INSTALL_PREFIX}/etc/tavi")
   endif()
-  file(INSTALL DESTINATION "$ENV{DESTDIR}${tavi_config_dir}" TYPE FILE
-       FILES "]] "${CMAKE_SOURCE_DIR}/data/TAVI_SYS.ini" [[")
+  # file(INSTALL) puts $DESTDIR in front itself.
+  file(INSTALL DESTINATION "${tavi_config_dir}" TYPE FILE FILES "${tavi_sys_ini}")
 ]])
 
 # Documentation and manual pages, with or without the desktop program.
@@ -101,10 +102,12 @@ pauses, errors, Brown's stage) and writes reports.
 This package holds the command line program tavi and, when built, the
 desktop program tavi-gui, with the shared data, sample transcripts,
 manual pages and shell completion.")
-set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
-# Install with DESTDIR into the staging folder, so the install code above sees
-# the prefix /usr and puts TAVI_SYS.ini in /etc/tavi.
+# Install for the prefix /usr with DESTDIR the staging folder, whatever prefix
+# the build tree was configured with, so the install code above sees /usr and
+# puts TAVI_SYS.ini in /etc/tavi.
 set(CPACK_SET_DESTDIR ON)
+set(CPACK_INSTALL_PREFIX /usr)
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION science)
