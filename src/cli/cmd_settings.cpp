@@ -102,9 +102,10 @@ const CommandRegistrar reg{
     {"settings", "show where the settings are read from and the folders in force",
      "Usage: tavi [--settings-dir DIR] settings\n\n"
      "Loads the settings as every command does and prints where each\n"
-     "settings file is read from (TAVI_SYS.ini in the shared data folder;\n"
-     "TAVI.ini, TAVI_SWL.ini and TAVI_Labels.ini in the user-level setup\n"
-     "folder), the folders in force and the messages raised while loading.\n\n"
+     "settings file is read from (TAVI_SYS.ini in the configuration folder,\n"
+     "/etc/tavi/ for a package, else in the shared data folder; TAVI.ini,\n"
+     "TAVI_SWL.ini and TAVI_Labels.ini in the user-level setup folder), the\n"
+     "folders in force and the messages raised while loading.\n\n"
      "The shared data folder is $TAVI_DATA_GROUP, else the installed\n"
      "share/tavi (or the source tree's data/ when run from a build tree).\n"
      "The user data folder is --settings-dir DIR, else $TAVI_DATA_USER,\n"

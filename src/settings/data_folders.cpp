@@ -64,6 +64,30 @@ std::optional<std::string> findSharedDataFolder(const StartupEnvironment& env) {
     return std::nullopt;
 }
 
+std::optional<std::string> installedConfigFolder(const StartupEnvironment& env,
+                                                 const std::string& sharedData) {
+    if (present(env.dataGroup) || env.executable.empty())
+        return std::nullopt;
+    const std::filesystem::path bin = env.executable.lexically_normal().parent_path();
+    if (bin.filename() != "bin")
+        return std::nullopt;
+    const std::filesystem::path prefix = bin.parent_path();
+    if (absoluteFolder(prefix / "share" / "tavi", env) != sharedData)
+        return std::nullopt;
+    if (prefix == "/usr")
+        return std::string("/etc/tavi/");
+    return absoluteFolder(prefix / "etc" / "tavi", env);
+}
+
+std::vector<std::string> programSettingsFiles(const StartupEnvironment& env,
+                                              const std::string& sharedData) {
+    std::vector<std::string> files;
+    if (std::optional<std::string> config = installedConfigFolder(env, sharedData))
+        files.push_back(*config + "TAVI_SYS.ini");
+    files.push_back(sharedData + "TAVI_SYS.ini");
+    return files;
+}
+
 std::string findUserDataFolder(const StartupEnvironment& env) {
     if (env.settingsDir)
         return absoluteFolder(*env.settingsDir, env);

@@ -5,6 +5,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "base/prompter.h"
 #include "settings/startup_environment.h"
@@ -15,6 +16,20 @@ namespace tavi {
 // (<bin>/../share/tavi), the source tree's data/ (a build tree), or the
 // configured install folder, the first that exists. Nothing when none is found.
 std::optional<std::string> findSharedDataFolder(const StartupEnvironment& env);
+
+// The configuration folder of an installed program: the program runs from
+// <prefix>/bin and its shared data folder is the <prefix>/share/tavi beside it
+// (TAVI_DATA_GROUP not set). /etc/tavi/ for the prefix /usr (a package), else
+// <prefix>/etc/tavi/. Nothing for a program run from a build tree or with
+// TAVI_DATA_GROUP.
+std::optional<std::string> installedConfigFolder(const StartupEnvironment& env,
+                                                 const std::string& sharedData);
+
+// Where the program-level settings file (TAVI_SYS.ini) is looked for, in
+// order: the installed configuration folder (when there is one), then the
+// shared data folder. The first that exists is read.
+std::vector<std::string> programSettingsFiles(const StartupEnvironment& env,
+                                              const std::string& sharedData);
 
 // --settings-dir when given; else TAVI_DATA_USER; else $XDG_CONFIG_HOME/tavi/
 // or ~/.config/tavi/. Relative values are taken from the current folder.

@@ -168,7 +168,8 @@ std::optional<std::string> userSectionKeyword(std::string_view keyword) {
 
 void applyProgramLevelLines(const std::vector<KeywordLine>& lines, const std::string& file,
                             Settings& settings, Prompter& prompter) {
-    const std::string base = folderOf(file);
+    const std::string base =
+        settings.folders.sharedData.empty() ? folderOf(file) : settings.folders.sharedData;
     for (const KeywordLine& line : lines) {
         if (keyIs(line.keyword, "INIDIR")) {
             std::string message =

@@ -172,7 +172,9 @@ struct Settings {
 std::optional<std::string> userSectionKeyword(std::string_view keyword);
 
 // Applies the lines of the program-level file (TAVI_SYS.ini), read from
-// `file`. Folder values are resolved against the file's folder; problems are
+// `file`. Relative folder values are taken below the shared data folder (the
+// file's folder when none is set), also when the file is the installed one in
+// /etc/tavi/; problems are
 // reported through the prompter as "<message><value> specified in <file>".
 void applyProgramLevelLines(const std::vector<KeywordLine>& lines, const std::string& file,
                             Settings& settings, Prompter& prompter);

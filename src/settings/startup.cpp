@@ -103,11 +103,19 @@ LoadedSettings loadSettings(const StartupEnvironment& env, Prompter& prompter) {
     record("standard word list", wordList,
            settings.standardWordListFound ? FileStatus::Read : FileStatus::Missing);
 
-    // 2. The program-level file.
-    const std::string sysFile = *shared + "TAVI_SYS.ini";
-    std::optional<std::vector<KeywordLine>> sysLines = readKeywordFile(sysFile);
-    if (sysLines)
-        applyProgramLevelLines(*sysLines, sysFile, settings, prompter);
+    // 2. The program-level file: the first found of the installed configuration
+    // folder's and the shared data folder's.
+    const std::vector<std::string> sysFiles = programSettingsFiles(env, *shared);
+    std::string sysFile = sysFiles.front();
+    std::optional<std::vector<KeywordLine>> sysLines;
+    for (const std::string& candidate : sysFiles) {
+        sysLines = readKeywordFile(candidate);
+        if (sysLines) {
+            sysFile = candidate;
+            applyProgramLevelLines(*sysLines, sysFile, settings, prompter);
+            break;
+        }
+    }
     record("program-level settings", sysFile, sysLines ? FileStatus::Read : FileStatus::Missing);
     if (env.settingsDir)
         settings.folders.setup = userData;

@@ -1,7 +1,8 @@
 // Start-up: find the folders, reset to the built-in defaults, then read
-// TAVI_SYS.ini, TAVI.ini, TAVI_SWL.ini and TAVI_Labels.ini in that order and
-// check the backup folder. The desktop program and every `tavi` command load
-// their settings through loadSettings, so both see the same settings.
+// TAVI_SYS.ini (from /etc/tavi/ first when installed), TAVI.ini, TAVI_SWL.ini
+// and TAVI_Labels.ini in that order and check the backup folder. The desktop
+// program and every `tavi` command load their settings through loadSettings,
+// so both see the same settings.
 #pragma once
 
 #include <string>

@@ -152,6 +152,58 @@ TEST(Startup, MyTaviDataRenamedOrDeclined) {
     EXPECT_EQ(no.settings.folders.transcript, declined.at("home/Documents/"));
 }
 
+// An installed program reads the program-level file from the installation's
+// configuration folder first; relative folders in it stay below the shared
+// data folder, which is never written to.
+TEST(Startup, InstalledProgramReadsItsConfigurationFolderFirst) {
+    Machine m;
+    m.env.prepareDocumentsFolder = false;
+    m.env.dataGroup.reset();
+    m.env.executable = m.at("prefix/bin/tavi");
+    m.root.write("prefix/share/tavi/TAVI_SYS.ini", "CUSTOMIZEPROMPT NO\n");
+    m.root.write("prefix/share/tavi/samples/keep", "");
+    m.root.write("prefix/etc/tavi/TAVI_SYS.ini", "CUSTOMIZEPROMPT YES\nDBASEDIR samples\n");
+    LoadedSettings installed = m.load();
+    EXPECT_EQ(installed.files[2].path, m.at("prefix/etc/tavi/TAVI_SYS.ini"));
+    EXPECT_EQ(installed.files[2].status, FileStatus::Read);
+    EXPECT_TRUE(installed.settings.customizeAllowed);
+    EXPECT_EQ(installed.settings.folders.database, m.at("prefix/share/tavi/samples/"));
+    EXPECT_TRUE(m.prompter.messages.empty());
+
+    // Removed by the administrator: the shared data folder's file, if any.
+    std::filesystem::remove(m.at("prefix/etc/tavi/TAVI_SYS.ini"));
+    LoadedSettings fallback = m.load();
+    EXPECT_EQ(fallback.files[2].path, m.at("prefix/share/tavi/TAVI_SYS.ini"));
+    EXPECT_FALSE(fallback.settings.customizeAllowed);
+    std::filesystem::remove(m.at("prefix/share/tavi/TAVI_SYS.ini"));
+    LoadedSettings none = m.load();
+    EXPECT_EQ(none.files[2].path, m.at("prefix/etc/tavi/TAVI_SYS.ini"));
+    EXPECT_EQ(none.files[2].status, FileStatus::Missing);
+
+    // TAVI_DATA_GROUP names the program folder with its own file.
+    m.root.write("prefix/etc/tavi/TAVI_SYS.ini", "CUSTOMIZEPROMPT YES\n");
+    m.env.dataGroup = m.at("shared");
+    EXPECT_EQ(m.load().files[2].path, m.at("shared/TAVI_SYS.ini"));
+}
+
+TEST(Startup, ConfigurationFolderOnlyForAnInstalledLayout) {
+    StartupEnvironment env;
+    env.currentDir = "/work";
+    env.executable = "/usr/bin/tavi";
+    EXPECT_EQ(installedConfigFolder(env, "/usr/share/tavi/"), "/etc/tavi/");
+    EXPECT_EQ(programSettingsFiles(env, "/usr/share/tavi/"),
+              (std::vector<std::string>{"/etc/tavi/TAVI_SYS.ini", "/usr/share/tavi/TAVI_SYS.ini"}));
+    env.executable = "/opt/tavi/bin/tavi-gui";
+    EXPECT_EQ(installedConfigFolder(env, "/opt/tavi/share/tavi/"), "/opt/tavi/etc/tavi/");
+    // A build tree using the source tree's data folder.
+    env.executable = "/work/build/bin/tavi";
+    EXPECT_EQ(installedConfigFolder(env, "/work/data/"), std::nullopt);
+    EXPECT_EQ(programSettingsFiles(env, "/work/data/"),
+              std::vector<std::string>{"/work/data/TAVI_SYS.ini"});
+    env.executable.clear();
+    EXPECT_EQ(installedConfigFolder(env, "/usr/share/tavi/"), std::nullopt);
+}
+
 TEST(Startup, UserDataFolderFromTheEnvironmentInOrder) {
     StartupEnvironment env;
     env.currentDir = "/work";
