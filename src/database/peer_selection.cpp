@@ -457,6 +457,15 @@ std::string PeerSnapshot::countLine() const {
     return format("%d/%d samples selected", selected, records);
 }
 
+std::vector<std::string> PeerSnapshot::sourceLines(std::string_view date) const {
+    return {format("TAVI %s, %s", TAVI_VERSION, std::string(date).c_str()),
+            databaseLine(),
+            "SELECT DATABASE SAMPLES - " + criteria,
+            countLine(),
+            equatingText,
+            "SD interval: " + shortestFloat(sdInterval)};
+}
+
 std::optional<PeerSnapshot> comparePeers(PeerDatabase& database, PeerSelection& selection,
                                          const PeerTarget& target, const AnalysisContext& context,
                                          const std::vector<std::string>& exclude,

@@ -185,6 +185,11 @@ struct PeerSnapshot {
     std::string databaseLine() const;
     // "%d/%d samples selected".
     std::string countLine() const;
+    // Where the numbers come from, for a report's header or footer: "TAVI"
+    // with the program version and `date`, the database line, "SELECT
+    // DATABASE SAMPLES - " with the criteria, the count line, the equating
+    // used and "SD interval: " with the interval.
+    std::vector<std::string> sourceLines(std::string_view date) const;
 };
 
 // Matching, equating and statistics in one call, saying every problem through
