@@ -9,6 +9,7 @@
 #include "cli/args.h"
 #include "cli/cli_analysis.h"
 #include "cli/command.h"
+#include "cli/peer_flags.h"
 #include "cli/stream_prompter.h"
 #include "reports/grid_writer.h"
 #include "reports/html_writer.h"
@@ -50,13 +51,17 @@ std::string writeReport(const Report& report, const std::filesystem::path& path,
 }
 
 int run(cli::CommandContext& ctx) {
-    cli::Args args(ctx.args, {"--speaker", "-o"}, {cli::kIncludeErrors});
+    cli::Args args(ctx.args, {"--speaker", "-o", "--db", TAVI_PEER_VALUED_FLAGS},
+                   {cli::kIncludeErrors, TAVI_PEER_SWITCHES});
     const auto& positional = args.positional();
     if (!args.ok() || positional.size() != 2) {
-        ctx.err << "tavi report: "
-                << (args.ok() ? "usage: tavi report smr|types [--speaker 1|2] [-o FILE] FILE"
-                              : args.error())
-                << '\n';
+        ctx.err
+            << "tavi report: "
+            << (args.ok()
+                    ? "usage: tavi report smr|types [--speaker 1|2] [--db DB [selection flags]] "
+                      "[-o FILE] FILE"
+                    : args.error())
+            << '\n';
         return cli::kExitUsage;
     }
     TranscriptReportRequest request;
@@ -88,6 +93,20 @@ int run(cli::CommandContext& ctx) {
         return outcome.exitStatus;
 
     request.transcriptName = file.filename().string();
+    std::optional<db::PeerSnapshot> snapshot;
+    if (args.has("--db")) {
+        if (request.kind != TranscriptReportKind::StandardMeasures) {
+            ctx.err << "tavi report: --db goes with smr\n";
+            return cli::kExitUsage;
+        }
+        int status = cli::kExitOk;
+        snapshot = cli::compareForCommand(ctx, args, file.string(), *outcome.analysis,
+                                          prepared->settings, prepared->context, prompter, status);
+        if (!snapshot)
+            return status;
+        request.database = cli::smrDatabase(*snapshot, outcome.analysis->measures(),
+                                            cli::todayText(prepared->context));
+    }
     const Report report = buildTranscriptReport(*outcome.analysis, prepared->settings, request);
     const auto output = args.value("-o");
     if (!output) {
@@ -103,7 +122,7 @@ int run(cli::CommandContext& ctx) {
 
 const cli::CommandRegistrar reg{
     {"report", "write a Standard Measures Report or Summary of Utterance Types",
-     "Usage: tavi report smr|types [--speaker 1|2] [-o FILE] FILE\n\n"
+     "Usage: tavi report smr|types [--speaker 1|2] [--db DB [selection flags]] [-o FILE] FILE\n\n"
      "Analyses one transcript with the settings in force (analysis set, word base,\n"
      "transcript cut, labels) and writes a report of one speaker:\n"
      "  smr     the Standard Measures Report\n"
@@ -114,7 +133,11 @@ const cli::CommandRegistrar reg{
      "Options:\n"
      "  --speaker 1|2      the 1st (default) or 2nd speaker of the transcript\n"
      "  -o FILE            write the report to FILE\n"
-     "  --include-errors   report on a transcript that has errors as it stands\n\n"
+     "  --include-errors   report on a transcript that has errors as it stands\n"
+     "  --db DB            (smr) compare with the matched samples of the reference\n"
+     "                     database DB: each value is followed by the database mean\n"
+     "                     and SD, and marked \"*\" at or beyond the SD interval; the\n"
+     "                     header says where the numbers come from\n\n" TAVI_PEER_FLAGS_HELP "\n"
      "A transcript with errors is refused: its problems go to stderr and the\n"
      "exit status is 1, unless --include-errors is given.\n\n"
      "Exit status: 0 written, 1 the transcript has errors or the file could not be\n"

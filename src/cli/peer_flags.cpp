@@ -5,6 +5,7 @@
 #include <cstdlib>
 
 #include "base/format.h"
+#include "transcript/transcript_file.h"
 
 namespace tavi::cli {
 
@@ -79,6 +80,65 @@ std::string todayText(const AnalysisContext& context) {
     return f.order == DateOrder::DayMonthYear
                ? format("%u%c%u%c%d", d, f.separator, m, f.separator, y)
                : format("%u%c%u%c%d", m, f.separator, d, f.separator, y);
+}
+
+SmrDatabase smrDatabase(const db::PeerSnapshot& snapshot, const SpeakerMeasures& measures,
+                        const std::string& date) {
+    SmrDatabase database;
+    database.sourceLines = snapshot.sourceLines(date);
+    database.sdInterval = shortestFloat(snapshot.sdInterval);
+    database.columns = [&snapshot,
+                        &measures](std::string_view name) -> std::optional<SmrDatabaseColumn> {
+        std::optional<MeasureId> id = measureIdByName(name);
+        if (!id)
+            return std::nullopt;
+        const PeerStat& stat = snapshot.stats[static_cast<std::size_t>(*id)];
+        if (stat.n == 0)
+            return std::nullopt;
+        SmrDatabaseColumn column;
+        column.mean = stat.mean;
+        if (stat.hasSd)
+            column.sd = stat.sd;
+        auto comparison = snapshot.compare(*id, measures[*id].number());
+        column.differs = comparison && comparison->differs();
+        return column;
+    };
+    return database;
+}
+
+std::optional<db::PeerSnapshot>
+compareForCommand(CommandContext& ctx, const Args& args, const std::string& transcriptPath,
+                  const TranscriptAnalysis& analysis, const Settings& settings,
+                  const AnalysisContext& context, Prompter& prompter, int& status) {
+    const std::filesystem::path dbPath = args.value("--db").value_or("");
+    std::unique_ptr<db::PeerDatabase> database;
+    std::error_code ec;
+    if (std::filesystem::is_regular_file(dbPath, ec))
+        database = db::PeerDatabase::open(dbPath, prompter);
+    db::PeerSelection selection = db::newPeerSelection(
+        dbPath, database ? database->info() : db::DescriptiveHeader{}, settings);
+    if (auto problem = applyPeerFlags(args, selection)) {
+        ctx.err << "tavi: " << *problem << '\n';
+        status = kExitUsage;
+        return std::nullopt;
+    }
+    std::string text;
+    readTranscriptText(transcriptPath, text);
+    db::PeerTarget target =
+        db::peerTarget(std::filesystem::path(transcriptPath).filename().string(),
+                       splitTranscriptLines(text), analysis, context);
+    if (!db::checkPeerSelection(selection, target, prompter)) {
+        status = kExitUsage;
+        return std::nullopt;
+    }
+    status = kExitFailed;
+    if (!database)
+        return std::nullopt;
+    NoProgress progress;
+    auto snapshot = db::comparePeers(*database, selection, target, context, {}, prompter, progress);
+    if (snapshot)
+        status = kExitOk;
+    return snapshot;
 }
 
 } // namespace tavi::cli

@@ -8,7 +8,9 @@
 #include <string>
 
 #include "cli/args.h"
+#include "cli/command.h"
 #include "database/peer_selection.h"
+#include "reports/standard_measures_report.h"
 #include "session/analysis_session.h"
 
 // The selection flags that take a value, and the switches, for cli::Args.
@@ -47,5 +49,17 @@ std::optional<std::string> applyPeerFlags(const Args& args, db::PeerSelection& s
 // Today's date in the date format of the analysis (month-day-year or
 // day-month-year, with its separator).
 std::string todayText(const AnalysisContext& context);
+
+// The Standard Measures Report's database columns from a comparison.
+SmrDatabase smrDatabase(const db::PeerSnapshot& snapshot, const SpeakerMeasures& measures,
+                        const std::string& date);
+
+// Compares the analysed transcript with the database of `--db` under the
+// selection flags, saying every problem through the prompter. Nullopt with
+// the exit status in `status` when it cannot be made.
+std::optional<db::PeerSnapshot>
+compareForCommand(CommandContext& ctx, const Args& args, const std::string& transcriptPath,
+                  const TranscriptAnalysis& analysis, const Settings& settings,
+                  const AnalysisContext& context, Prompter& prompter, int& status);
 
 } // namespace tavi::cli
