@@ -475,7 +475,7 @@ std::optional<PeerSnapshot> comparePeers(PeerDatabase& database, PeerSelection& 
     if (!match)
         return std::nullopt;
     PeerSnapshot snapshot;
-    snapshot.database = database.name();
+    snapshot.database = std::filesystem::path(database.name()).filename().string();
     snapshot.context = database.info().context;
     snapshot.records = match->records;
     snapshot.selected = static_cast<int>(match->selected.size());
