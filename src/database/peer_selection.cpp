@@ -383,27 +383,74 @@ EquatingMethod resolveEquating(EquatingMethod chosen, const TranscriptAmount& am
     return chosen;
 }
 
+PeerValueCache::Key PeerValueCache::keyOf(const std::array<AnalysisContext, 2>& contexts) {
+    const MeasureOptions& m = contexts[0].measures;
+    const CheckOptions& c = contexts[0].check;
+    Key key;
+    key.analysisSet = m.analysisSet;
+    key.wordBase = m.wordBase;
+    key.cuts = {contexts[0].measures.cut, contexts[1].measures.cut};
+    key.window = m.window;
+    key.codeLists = m.codeLists;
+    key.wordLists = m.wordLists;
+    key.wordListSet = m.wordListSet;
+    key.wordListsOnAnalysisSet = m.wordListsOnAnalysisSet;
+    key.wordListArea = m.wordListArea;
+    key.dictionary = m.dictionary;
+    key.distributionInMorphemes = m.distributionInMorphemes;
+    key.distributionOnAnalysisSet = m.distributionOnAnalysisSet;
+    key.dateOrder = c.dateFormat.order;
+    key.dateKeywords = c.dobKeyword + '\n' + c.doeKeyword + '\n' + c.caKeyword;
+    return key;
+}
+
+void PeerValueCache::use(const Key& key) {
+    if (key_ && *key_ == key)
+        return;
+    key_ = key;
+    values_.clear();
+}
+
+const SampleValues* PeerValueCache::find(std::int64_t recordPosition) const {
+    auto it = values_.find(recordPosition);
+    return it == values_.end() ? nullptr : &it->second;
+}
+
+void PeerValueCache::store(std::int64_t recordPosition, const SampleValues& values) {
+    values_[recordPosition] = values;
+}
+
 std::optional<std::vector<SampleValues>>
 peerSampleValues(PeerDatabase& database, const SampleMatch& match, const AnalysisContext& context,
                  EquatingMethod equating, const TranscriptAmount& amount, bool applyCut,
                  Prompter& prompter, Progress& progress, int threads) {
     const std::size_t n = match.selected.size();
-    std::vector<const std::string*> texts(n);
-    for (std::size_t i = 0; i < n; ++i) {
-        texts[i] = database.transcript(match.selected[i], prompter);
-        if (!texts[i])
-            return std::nullopt;
-    }
-    std::vector<SampleValues> values(n);
     // One context per sample speaker: the equating cut counts that speaker.
     std::array<AnalysisContext, 2> contexts{context, context};
     for (int speaker = 0; speaker < 2; ++speaker)
         contexts[speaker].measures.cut =
             equatingCut(equating, amount, context.measures.cut, applyCut, speaker);
+    PeerValueCache& cache = database.cache();
+    cache.use(PeerValueCache::keyOf(contexts));
+
+    std::vector<SampleValues> values(n);
+    std::vector<std::size_t> missing; // positions in `values` still to calculate
+    std::vector<const std::string*> texts(n);
+    for (std::size_t i = 0; i < n; ++i) {
+        const sd2& record = database.records()[match.selected[i]];
+        if (const SampleValues* cached = cache.find(record.dataPosition)) {
+            values[i] = *cached;
+            continue;
+        }
+        texts[i] = database.transcript(match.selected[i], prompter);
+        if (!texts[i])
+            return std::nullopt;
+        missing.push_back(i);
+    }
     std::atomic<std::size_t> next{0};
-    std::atomic<int> done{0};
     auto work = [&] {
-        for (std::size_t i = next++; i < n; i = next++) {
+        for (std::size_t j = next++; j < missing.size(); j = next++) {
+            const std::size_t i = missing[j];
             const int speaker = sampleSpeaker(database.records()[match.selected[i]]);
             AnalysisRequest request;
             request.speaker = speaker;
@@ -414,16 +461,17 @@ peerSampleValues(PeerDatabase& database, const SampleMatch& match, const Analysi
                 auto x = m.values[k].number();
                 values[i][k] = x ? static_cast<float>(*x) : std::numeric_limits<float>::quiet_NaN();
             }
-            ++done;
         }
     };
     progress.start(static_cast<int>(n), kCalculating);
     std::vector<std::thread> helpers;
-    for (int t = 1; t < threads && static_cast<std::size_t>(t) < n; ++t)
+    for (int t = 1; t < threads && static_cast<std::size_t>(t) < missing.size(); ++t)
         helpers.emplace_back(work);
     work();
     for (std::thread& helper : helpers)
         helper.join();
+    for (std::size_t i : missing)
+        cache.store(database.records()[match.selected[i]].dataPosition, values[i]);
     for (std::size_t i = 0; i < n; ++i)
         progress.step();
     progress.finish();

@@ -13,6 +13,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "analysis/equating.h"
@@ -104,8 +105,48 @@ std::string criteriaLine(const PeerSelection& selection, const PeerTarget& targe
 // "Select Database Samples for %s" with the transcript's name.
 std::string selectionTitle(std::string_view transcriptName);
 
+// Values of one sample per measure; NaN where the value is missing.
+using SampleValues = std::array<float, kMeasureCount>;
+
+// The recalculated values of samples, kept while the analysis that produced
+// them stays the same: the options of the context (analysis set, word base,
+// window, code lists, word lists, dictionary, date format) and the cut each
+// sample speaker is analysed with (the equating cut). Another analysis empties it.
+class PeerValueCache {
+public:
+    struct Key {
+        AnalysisSet analysisSet;
+        WordBase wordBase;
+        std::array<TranscriptCut, 2> cuts; // for samples of the 1st and the 2nd speaker
+        int window = 0;
+        CodeLists codeLists;
+        const void* wordLists = nullptr;
+        int wordListSet = 0;
+        bool wordListsOnAnalysisSet = true;
+        WordArea wordListArea = WordArea::MainBody;
+        const void* dictionary = nullptr;
+        bool distributionInMorphemes = false;
+        bool distributionOnAnalysisSet = true;
+        DateOrder dateOrder = DateOrder::MonthDayYear;
+        std::string dateKeywords;
+
+        bool operator==(const Key&) const = default;
+    };
+    static Key keyOf(const std::array<AnalysisContext, 2>& contexts);
+
+    // Makes `key` the analysis in force, forgetting values of another.
+    void use(const Key& key);
+    const SampleValues* find(std::int64_t dataPosition) const;
+    void store(std::int64_t dataPosition, const SampleValues& values);
+    std::size_t size() const { return values_.size(); }
+
+private:
+    std::optional<Key> key_;
+    std::unordered_map<std::int64_t, SampleValues> values_;
+};
+
 // A database read once for matching: its records and, as they are needed,
-// the stored transcripts.
+// the stored transcripts and the samples' recalculated values.
 class PeerDatabase {
 public:
     // Opens the database for reading and reads its records; null after the
@@ -119,11 +160,13 @@ public:
     // The stored transcript of record `index`; null after the message when
     // it cannot be read.
     const std::string* transcript(std::size_t index, Prompter& prompter);
+    PeerValueCache& cache() { return cache_; }
 
 private:
     std::unique_ptr<Database> database_;
     std::vector<sd2> records_;
     std::vector<std::optional<std::string>> texts_;
+    PeerValueCache cache_;
 };
 
 // The matched samples: indices into the database's records.
@@ -149,13 +192,11 @@ std::optional<SampleMatch> matchSamples(const PeerDatabase& database,
 EquatingMethod resolveEquating(EquatingMethod chosen, const TranscriptAmount& amount,
                                DatabaseTiming timing, Prompter& prompter);
 
-// Values of one sample per measure; NaN where the value is missing.
-using SampleValues = std::array<float, kMeasureCount>;
-
 // Recalculates every measure of each selected sample: the stored transcript
 // analysed through the session with `context`, its cut replaced by the
 // equating cut, for the sample's own speaker. Samples are analysed on
-// `threads` threads; their values are summed in selection order.
+// `threads` threads; their values are summed in selection order. Values
+// the database's cache holds for the same analysis are not recalculated.
 std::optional<std::vector<SampleValues>>
 peerSampleValues(PeerDatabase& database, const SampleMatch& match, const AnalysisContext& context,
                  EquatingMethod equating, const TranscriptAmount& amount, bool applyCut,

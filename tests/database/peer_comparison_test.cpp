@@ -271,3 +271,65 @@ TEST(PeerSelectionDefaults, AgeSpanFromTheDatabaseAndIntervalFromTheSettings) {
 
 } // namespace
 } // namespace tavi::db
+
+namespace tavi::db {
+namespace {
+
+// A database written through the file API: samples with 1 to 3 unintelligible
+// utterances beside 4 intelligible ones.
+std::filesystem::path writeDatabase(const test::ScratchDir& dir) {
+    test::RecordingPrompter prompter;
+    DescriptiveHeader info;
+    info.context = "Conversation";
+    const auto path = dir.path() / "cache.tvidb";
+    EXPECT_TRUE(createDatabase(path, info, prompter));
+    auto db = openDatabase(path, OpenFor::Writing, prompter);
+    for (int i = 1; i <= 3; ++i) {
+        std::string text = "$ Child, Examiner\n";
+        for (int u = 0; u < 4; ++u)
+            text += "C I see it.\nE ok.\n";
+        for (int u = 0; u < i; ++u)
+            text += "C XXX.\nE ok.\n";
+        sd2 record;
+        record.key = "s" + std::to_string(i) + ";1";
+        record.buildOption1 = 1;
+        record.ageMonths = 60;
+        EXPECT_TRUE(db->append(record, text, prompter));
+    }
+    return path;
+}
+
+TEST(PeerValueCache, KeptForTheSameAnalysisAndForgottenForAnother) {
+    test::ScratchDir dir;
+    test::RecordingPrompter prompter;
+    NoProgress progress;
+    auto database = PeerDatabase::open(writeDatabase(dir), prompter);
+    ASSERT_TRUE(database);
+    PeerTarget target;
+    target.ageMonths = 60;
+    target.amount = {4, 16, std::nullopt};
+    PeerSelection selection;
+    selection.database = dir.path() / "cache.tvidb";
+    selection.equating = EquatingMethod::EntireTranscript;
+
+    Settings settings;
+    const AnalysisContext standard = analysisContext(settings, nullptr);
+    auto first = comparePeers(*database, selection, target, standard, {}, prompter, progress);
+    ASSERT_TRUE(first);
+    EXPECT_EQ(database->cache().size(), 3u);
+    const PeerStat& setUtts = first->stats[static_cast<int>(MeasureId::TotASetUt)];
+    EXPECT_EQ(setUtts.mean, 4.0f); // unintelligible utterances are left out
+
+    auto again = comparePeers(*database, selection, target, standard, {}, prompter, progress);
+    EXPECT_EQ(again->stats, first->stats);
+
+    settings.analysisSet.excludeUnintelligible = 0;
+    auto wider = comparePeers(*database, selection, target, analysisContext(settings, nullptr), {},
+                              prompter, progress);
+    EXPECT_EQ(wider->stats[static_cast<int>(MeasureId::TotASetUt)].mean, 6.0f); // 5, 6, 7
+    EXPECT_EQ(wider->stats[static_cast<int>(MeasureId::TotASetUt)].sd, 1.0f);
+    EXPECT_TRUE(prompter.messages.empty());
+}
+
+} // namespace
+} // namespace tavi::db
