@@ -125,10 +125,11 @@ constexpr const char* kPossessive = "'s";
 std::string elicitationSection(const PerformanceInputs& in) {
     std::string text = format("%s completed %s.", kSpeaker, elicitation(in).c_str());
     if (in.peers)
-        text += format(" %s%s sample was compared with %d samples of the %s database (%s), "
+        text += format(" %s%s sample was compared with %d sample%s of the %s database (%s), "
                        "selected by %s.",
-                       kSpeaker, kPossessive, in.peers->samples, in.peers->database.c_str(),
-                       in.peers->context.c_str(), in.peers->criteria.c_str());
+                       kSpeaker, kPossessive, in.peers->samples, plural(in.peers->samples).c_str(),
+                       in.peers->database.c_str(), in.peers->context.c_str(),
+                       in.peers->criteria.c_str());
     return text;
 }
 
