@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "analysis/analysis_set.h"
+#include "analysis/transcript_cut.h"
 
 namespace tavi {
 
@@ -34,5 +35,42 @@ std::string equatingAmountText(EquatingMethod method, const TranscriptAmount& am
 
 // The analysis set's short name: "C&I Verbal Utts" for the defaults.
 std::string analysisSetName(const AnalysisSet& set);
+
+} // namespace tavi
+
+namespace tavi {
+
+// Whether the samples a transcript is compared with mark their timing.
+enum class DatabaseTiming { All, Some, None };
+
+// The option as the selection shows it: the transcript's amount, or the
+// method with the reason it cannot be used ("Same number of total words -
+// NOT AVAILABLE (0 NTW in transcript)", "... (timing not marked in
+// database)"); the entire-transcript label for EntireTranscript.
+std::string equatingOptionText(EquatingMethod method, const TranscriptAmount& amount,
+                               DatabaseTiming timing, std::string_view analysisSetName);
+
+// Whether the method can equate this transcript with these samples.
+bool equatingAvailable(EquatingMethod method, const TranscriptAmount& amount,
+                       DatabaseTiming timing);
+
+// What is said when a chosen elapsed-time equating has become impossible and
+// is reset ("Timing information is not provided for the transcript. ..."); empty
+// otherwise.
+std::string_view equatingResetMessage(EquatingMethod method, const TranscriptAmount& amount,
+                                      DatabaseTiming timing);
+
+inline constexpr std::string_view kSomeSamplesUntimed =
+    "Note: timing information is missing for some transcripts in this database.";
+inline constexpr std::string_view kNoEquatingMethods =
+    "No methods available - using all matched samples";
+
+// The cut a comparison sample is analysed with: from the transcript cut's
+// start when `applyCut` (else from the beginning) up to the transcript's
+// amount of total words, analysis-set utterances or elapsed time of the
+// sample's `speaker` (0 the 1st, 1 the 2nd). With EntireTranscript the
+// sample is read whole, or through the transcript's cut when `applyCut`.
+TranscriptCut equatingCut(EquatingMethod method, const TranscriptAmount& amount,
+                          const TranscriptCut& transcriptCut, bool applyCut, int speaker);
 
 } // namespace tavi

@@ -11,6 +11,8 @@
 #include "cli/args.h"
 #include "cli/cli_settings.h"
 #include "cli/command.h"
+#include "cli/db_select.h"
+#include "cli/peer_flags.h"
 #include "cli/stream_prompter.h"
 #include "database/contents_listing.h"
 #include "database/database_file.h"
@@ -54,7 +56,18 @@ constexpr const char* kHelp =
     "  clear DB [--password P]       removes every record, keeps the header\n"
     "  convert FILE.sd1              converts the older three-file format into\n"
     "                                FILE.tvidb\n"
-    "\n"
+    "  select DB TRANSCRIPT [selection flags] [--json]\n"
+    "  select DB TRANSCRIPT... --csv OUT [selection flags]\n"
+    "      The samples of DB that match the transcript's target speaker, and for\n"
+    "      every measure: the transcript's value, the number of samples, their\n"
+    "      mean, SD, minimum and maximum, z and the comparison (above, below or\n"
+    "      comparable at the SD interval). Each sample is recalculated with the\n"
+    "      transcript's settings. --json prints one object; --csv OUT writes one\n"
+    "      row per transcript. --exclude KEY leaves the record KEY out (repeat it\n"
+    "      for more); --exclude-self leaves out the record of the transcript\n"
+    "      itself (its base name and speaker, e.g. \"sam;1\"). Exit status 1 when\n"
+    "      no sample matches (\"No samples match the criteria you selected.\").\n"
+    "\n" TAVI_PEER_FLAGS_HELP "\n"
     "Exit status: 0 success, 1 the work failed or a transcript was not stored,\n"
     "2 bad usage.\n";
 
@@ -291,6 +304,8 @@ int convert(cli::CommandContext& ctx, const cli::Args& args) {
 }
 
 int run(cli::CommandContext& ctx) {
+    if (!ctx.args.empty() && ctx.args.front() == "select")
+        return cli::dbSelect(ctx);
     cli::Args args(ctx.args,
                    {"--context", "--description", "--password", "--sample-type", "--age-span",
                     "--error-codes", "--fluency-codes", "--nonmainstream-codes",

@@ -9,14 +9,17 @@
 #include "cli/args.h"
 #include "cli/cli_analysis.h"
 #include "cli/command.h"
+#include "cli/peer_flags.h"
 #include "cli/stream_prompter.h"
 #include "reports/grid_writer.h"
 #include "reports/html_writer.h"
+#include "reports/performance_report.h"
 #include "reports/report_file.h"
 #include "reports/report_grid.h"
 #include "reports/rtf_writer.h"
 #include "reports/text_writer.h"
 #include "reports/transcript_report.h"
+#include "transcript/transcript_file.h"
 #ifdef TAVI_HAVE_QT
 #include "qt/page_setup.h"
 #endif
@@ -50,22 +53,27 @@ std::string writeReport(const Report& report, const std::filesystem::path& path,
 }
 
 int run(cli::CommandContext& ctx) {
-    cli::Args args(ctx.args, {"--speaker", "-o"}, {cli::kIncludeErrors});
+    cli::Args args(ctx.args, {"--speaker", "-o", "--db", TAVI_PEER_VALUED_FLAGS},
+                   {cli::kIncludeErrors, TAVI_PEER_SWITCHES});
     const auto& positional = args.positional();
     if (!args.ok() || positional.size() != 2) {
         ctx.err << "tavi report: "
-                << (args.ok() ? "usage: tavi report smr|types [--speaker 1|2] [-o FILE] FILE"
+                << (args.ok() ? "usage: tavi report smr|types|performance|goals [--speaker 1|2] "
+                                "[--db DB [selection flags]] "
+                                "[-o FILE] FILE"
                               : args.error())
                 << '\n';
         return cli::kExitUsage;
     }
     TranscriptReportRequest request;
-    if (positional[0] == "smr")
+    const bool performance = positional[0] == "performance", goals = positional[0] == "goals";
+    if (positional[0] == "smr" || performance || goals)
         request.kind = TranscriptReportKind::StandardMeasures;
     else if (positional[0] == "types")
         request.kind = TranscriptReportKind::UtteranceTypes;
     else {
-        ctx.err << "tavi report: unknown report " << positional[0] << " (use smr or types)\n";
+        ctx.err << "tavi report: unknown report " << positional[0]
+                << " (use smr, types, performance or goals)\n";
         return cli::kExitUsage;
     }
     const std::string speaker = args.value("--speaker").value_or("1");
@@ -88,7 +96,42 @@ int run(cli::CommandContext& ctx) {
         return outcome.exitStatus;
 
     request.transcriptName = file.filename().string();
-    const Report report = buildTranscriptReport(*outcome.analysis, prepared->settings, request);
+    std::optional<db::PeerSnapshot> snapshot;
+    if (args.has("--db")) {
+        if (request.kind != TranscriptReportKind::StandardMeasures && !performance && !goals) {
+            ctx.err << "tavi report: --db goes with smr, performance or goals\n";
+            return cli::kExitUsage;
+        }
+        int status = cli::kExitOk;
+        snapshot = cli::compareForCommand(ctx, args, file.string(), *outcome.analysis,
+                                          prepared->settings, prepared->context, prompter, status);
+        if (!snapshot)
+            return status;
+        if (!performance && !goals)
+            request.database = cli::smrDatabase(*snapshot, outcome.analysis->measures(),
+                                                cli::todayText(prepared->context));
+    }
+    Report report;
+    if (performance || goals) {
+        std::string text;
+        readTranscriptText(file, text);
+        const TranLines lines = splitTranscriptLines(text);
+        PerformanceInputs inputs = performanceInputs(*outcome.analysis, lines);
+        if (snapshot) {
+            PerformancePeers peers;
+            peers.stats = snapshot->stats;
+            peers.sdInterval = snapshot->sdInterval;
+            peers.samples = snapshot->selected;
+            peers.database = snapshot->database;
+            peers.context = snapshot->context;
+            peers.criteria = snapshot->criteria;
+            peers.sources = snapshot->sourceLines(cli::todayText(prepared->context));
+            inputs.peers = std::move(peers);
+        }
+        report = performance ? buildPerformanceReport(inputs) : buildGoalBank(inputs);
+    } else {
+        report = buildTranscriptReport(*outcome.analysis, prepared->settings, request);
+    }
     const auto output = args.value("-o");
     if (!output) {
         ctx.out << reportToText(report);
@@ -103,18 +146,27 @@ int run(cli::CommandContext& ctx) {
 
 const cli::CommandRegistrar reg{
     {"report", "write a Standard Measures Report or Summary of Utterance Types",
-     "Usage: tavi report smr|types [--speaker 1|2] [-o FILE] FILE\n\n"
+     "Usage: tavi report smr|types|performance|goals [--speaker 1|2] [--db DB [selection flags]] "
+     "[-o FILE] FILE\n\n"
      "Analyses one transcript with the settings in force (analysis set, word base,\n"
      "transcript cut, labels) and writes a report of one speaker:\n"
      "  smr     the Standard Measures Report\n"
-     "  types   the Summary of Utterance Types\n\n"
+     "  types   the Summary of Utterance Types\n"
+     "  performance  the Performance Report: the measures in sentences, compared\n"
+     "          with the database's matched samples when --db is given\n"
+     "  goals   the goal bank: a goal for each measure below the database, its\n"
+     "          target the lowest value within normal limits\n\n"
      "Without -o the report is printed as plain text. With -o the extension of FILE\n"
      "chooses the format: .txt, .rtf, .pdf, .html, .csv or .tsv (the last two write\n"
      "the report's lines and tables as cells).\n\n"
      "Options:\n"
      "  --speaker 1|2      the 1st (default) or 2nd speaker of the transcript\n"
      "  -o FILE            write the report to FILE\n"
-     "  --include-errors   report on a transcript that has errors as it stands\n\n"
+     "  --include-errors   report on a transcript that has errors as it stands\n"
+     "  --db DB            (smr) compare with the matched samples of the reference\n"
+     "                     database DB: each value is followed by the database mean\n"
+     "                     and SD, and marked \"*\" at or beyond the SD interval; the\n"
+     "                     header says where the numbers come from\n\n" TAVI_PEER_FLAGS_HELP "\n"
      "A transcript with errors is refused: its problems go to stderr and the\n"
      "exit status is 1, unless --include-errors is given.\n\n"
      "Exit status: 0 written, 1 the transcript has errors or the file could not be\n"

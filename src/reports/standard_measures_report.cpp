@@ -3,6 +3,7 @@
 
 #include <cmath>
 
+#include "base/format.h"
 #include "base/text.h"
 #include "reports/line_format.h"
 
@@ -103,11 +104,19 @@ std::optional<int> elapsedSeconds(const MeasureSource& measures) {
 
 LabelledLine makeLine(const SmrLineDef& def, const TranscriptReportContext& context,
                       const MeasureSource& measures, const LabelSource& labels,
-                      const MeasureSource& databaseMeans) {
+                      const MeasureSource& databaseMeans, const SmrDatabase* database) {
     const std::string prefix(smrLinePrefix(def));
-    std::optional<double> mean =
-        databaseMeans ? databaseMeans(def.measureId) : std::optional<double>();
-    if (def.kind == K::ElapsedTime && !mean) {
+    std::optional<SmrDatabaseColumn> column;
+    if (database && database->columns)
+        column = database->columns(def.measureId);
+    bool hasMean = column.has_value();
+    double mean = column ? column->mean : 0.0;
+    if (!database && databaseMeans)
+        if (std::optional<double> m = databaseMeans(def.measureId)) {
+            hasMean = true;
+            mean = *m;
+        }
+    if (def.kind == K::ElapsedTime && !hasMean) {
         TimeWords words{labels("RL_MINUTES"), labels("RL_SECONDS"), labels("RL_RPMISSING")};
         return elapsedTimeLine(prefix, lineLabel(def, labels), elapsedSeconds(measures), words);
     }
@@ -115,9 +124,52 @@ LabelledLine makeLine(const SmrLineDef& def, const TranscriptReportContext& cont
                                                    : formatValue(def.kind, measures(def.measureId));
     if (def.measureId == "%PauseTime" && context.pausesUntimed && !measures(def.measureId))
         value = labels("RL_RPALLNOTIME");
-    if (mean)
-        value = formatWithMean(value, *mean);
+    if (hasMean)
+        value = formatWithMean(value, mean);
+    if (column) {
+        value += column->sd ? format("     %0.2f", *column->sd) : std::string("         ");
+        if (column->differs)
+            value += "  " + std::string(kSmrDifferenceMark);
+    }
     return {prefix, lineLabel(def, labels), ":  ", value};
+}
+
+Report buildReport(const TranscriptReportContext& context, const MeasureSource& measures,
+                   const SmrVariables& variables, const LabelSource& labels,
+                   const MeasureSource& databaseMeans, const SmrDatabase* database) {
+    Report report;
+    report.title = labels("RL_SMRTITLE");
+    report.header = reportHeader(context, labels);
+    if (database) {
+        for (const std::string& line : database->sourceLines)
+            report.header.push_back({"", "", "", line});
+        report.header.push_back({"", "", "", "(Value)     Database Mean     SD"});
+    }
+    bool anyAnalysisSetLine = false;
+    bool pauseLine = false;
+    for (const auto& sectionDef : kSections) {
+        ReportSection section{toUpperAscii(labels(sectionDef.titleKey)), {}};
+        for (size_t i = sectionDef.firstLine; i < sectionDef.firstLine + sectionDef.lineCount;
+             ++i) {
+            if (!variables.chosen[i])
+                continue;
+            section.items.push_back(
+                makeLine(kLines[i], context, measures, labels, databaseMeans, database));
+            pauseLine = pauseLine || kLines[i].measureId == "%PauseTime";
+            anyAnalysisSetLine = anyAnalysisSetLine || kLines[i].analysisSet;
+        }
+        if (!section.items.empty())
+            report.sections.push_back(std::move(section));
+    }
+    if (anyAnalysisSetLine)
+        report.footnotes.push_back(labels("RL_ITALICSNOTE2"));
+    if (pauseLine && context.somePausesUntimed)
+        report.footnotes.push_back(labels("RL_RPSOMENOTIME"));
+    if (database)
+        report.footnotes.push_back(format("%s Value at or beyond %s SD from the database mean",
+                                          std::string(kSmrDifferenceMark).c_str(),
+                                          database->sdInterval.c_str()));
+    return report;
 }
 
 } // namespace
@@ -145,29 +197,13 @@ std::string_view smrLinePrefix(const SmrLineDef& line) {
 Report buildStandardMeasuresReport(const TranscriptReportContext& context,
                                    const MeasureSource& measures, const SmrVariables& variables,
                                    const LabelSource& labels, const MeasureSource& databaseMeans) {
-    Report report;
-    report.title = labels("RL_SMRTITLE");
-    report.header = reportHeader(context, labels);
-    bool anyAnalysisSetLine = false;
-    bool pauseLine = false;
-    for (const auto& sectionDef : kSections) {
-        ReportSection section{toUpperAscii(labels(sectionDef.titleKey)), {}};
-        for (size_t i = sectionDef.firstLine; i < sectionDef.firstLine + sectionDef.lineCount;
-             ++i) {
-            if (!variables.chosen[i])
-                continue;
-            section.items.push_back(makeLine(kLines[i], context, measures, labels, databaseMeans));
-            pauseLine = pauseLine || kLines[i].measureId == "%PauseTime";
-            anyAnalysisSetLine = anyAnalysisSetLine || kLines[i].analysisSet;
-        }
-        if (!section.items.empty())
-            report.sections.push_back(std::move(section));
-    }
-    if (anyAnalysisSetLine)
-        report.footnotes.push_back(labels("RL_ITALICSNOTE2"));
-    if (pauseLine && context.somePausesUntimed)
-        report.footnotes.push_back(labels("RL_RPSOMENOTIME"));
-    return report;
+    return buildReport(context, measures, variables, labels, databaseMeans, nullptr);
+}
+
+Report buildStandardMeasuresReport(const TranscriptReportContext& context,
+                                   const MeasureSource& measures, const SmrVariables& variables,
+                                   const LabelSource& labels, const SmrDatabase& database) {
+    return buildReport(context, measures, variables, labels, nullptr, &database);
 }
 
 } // namespace tavi

@@ -5,8 +5,11 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <optional>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "reports/labels.h"
 #include "reports/measure_source.h"
@@ -52,6 +55,34 @@ struct SmrVariables {
 
 // The prefix of a line: "# " for analysis-set measures, two blanks otherwise.
 std::string_view smrLinePrefix(const SmrLineDef& line);
+
+// A measure's database columns: the mean and SD of the matched samples and
+// whether the transcript's value lies at or beyond the SD interval.
+struct SmrDatabaseColumn {
+    double mean = 0.0;
+    std::optional<double> sd; // empty for measures that carry none
+    bool differs = false;
+};
+using SmrDatabaseSource = std::function<std::optional<SmrDatabaseColumn>(std::string_view id)>;
+
+// The comparison with a database: its columns per measure, the lines that
+// say where the numbers come from (printed in the header) and the SD
+// interval the mark stands for.
+struct SmrDatabase {
+    SmrDatabaseSource columns;
+    std::vector<std::string> sourceLines;
+    std::string sdInterval; // as printed, e.g. "1"
+};
+
+// The mark beside a value at or beyond the SD interval.
+inline constexpr std::string_view kSmrDifferenceMark = "*";
+
+// The report compared with a database: each value followed by the database
+// mean and SD ("(%s)     %0.2f     %0.2f") and the mark when it differs;
+// the legend is a footnote.
+Report buildStandardMeasuresReport(const TranscriptReportContext& context,
+                                   const MeasureSource& measures, const SmrVariables& variables,
+                                   const LabelSource& labels, const SmrDatabase& database);
 
 // Builds the report. `databaseMeans`, when given, adds each measure's
 // database mean beside its value ("(%s)     %0.2f").

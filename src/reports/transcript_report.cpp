@@ -53,9 +53,12 @@ Report buildTranscriptReport(const TranscriptAnalysis& analysis, const Settings&
 
     context.pausesUntimed = record.pausesUntimed;
     context.somePausesUntimed = record.somePausesUntimed;
-    return request.kind == TranscriptReportKind::StandardMeasures
-               ? buildStandardMeasuresReport(context, values, request.smrVariables, labels)
-               : buildUtteranceTypesReport(context, values, labels);
+    if (request.kind != TranscriptReportKind::StandardMeasures)
+        return buildUtteranceTypesReport(context, values, labels);
+    if (request.database)
+        return buildStandardMeasuresReport(context, values, request.smrVariables, labels,
+                                           *request.database);
+    return buildStandardMeasuresReport(context, values, request.smrVariables, labels);
 }
 
 } // namespace tavi

@@ -4,6 +4,7 @@
 // through here.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "analysis/measures.h"
@@ -24,6 +25,8 @@ struct TranscriptReportRequest {
     std::string transcriptName;
     LanguageSlot slot = LanguageSlot::Primary;
     SmrVariables smrVariables = SmrVariables::defaults();
+    // The Standard Measures Report compared with a database, when given.
+    std::optional<SmrDatabase> database;
 };
 
 // The labels of one slot (empty texts fall back to PRIMARY).
