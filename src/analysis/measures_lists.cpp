@@ -146,7 +146,7 @@ void fillCategoriesAndVerbs(const SpeakerView& v, SpeakerMeasures& m) {
                 continue;
             const int id = f.rootIds[k];
             if (!entries[id])
-                entries[id] = dictionaryCategories(f.words[k]->root, *dictionary);
+                entries[id] = dictionaryCategories(f.words[k]->root(), *dictionary);
             std::vector<int> guessed;
             if (entries[id]->empty())
                 guessed = guessCategories(f.roots[k], t.endingGroups);

@@ -10,14 +10,15 @@ namespace tavi {
 
 namespace {
 
-bool wordCarries(const Utterance& u, const Word& w, const CodeMatcher& m) {
-    for (int c : w.codes)
-        if (c >= 0 && c < static_cast<int>(u.codes.size()) && m.matches(u.codes[c].text))
+// The codes placed on word `w` (its index in the utterance).
+bool wordCarries(const Utterance& u, int w, const CodeMatcher& m) {
+    for (const Code& c : u.codes())
+        if (c.word == w && m.matches(c.text))
             return true;
     return false;
 }
 
-bool passesWordBase(const Utterance& u, const Word& w, const WordBase& base, const CodeMatcher& m) {
+bool passesWordBase(const Utterance& u, int w, const WordBase& base, const CodeMatcher& m) {
     if (m.empty())
         return !base.includeMode;
     return base.includeMode ? wordCarries(u, w, m) : !wordCarries(u, w, m);
@@ -25,24 +26,24 @@ bool passesWordBase(const Utterance& u, const Word& w, const WordBase& base, con
 
 // Words of parenthetical remarks, counted when the word base takes them.
 void addParentheticalWords(const Utterance& u, UtteranceFacts& f) {
-    for (const Word& w : u.parentheticalWords)
+    for (const Word& w : u.parentheticalWords())
         if (!w.omitted && !w.unintelligible && !w.inMaze)
             f.roots.push_back(rootKey(w));
 }
 
 WordTraits traitsOf(const Word& w) {
     WordTraits t;
-    for (const std::string& e : w.boundMorphemes) {
+    for (std::string_view e : w.boundMorphemes()) {
         int group = boundMorphemeGroup(e);
         t.endingGroups |= static_cast<std::uint16_t>(1u << group);
         t.contractedVerbs += group == kContractedVerbGroup ? 1 : 0;
     }
-    t.skipped = isSkippedCategoryToken(w.text);
+    t.skipped = isSkippedCategoryToken(w.text());
     return t;
 }
 
 void tallyCodes(const Utterance& u, const CodeMatchers& m, UtteranceFacts& f) {
-    for (const Code& c : u.codes) {
+    for (const Code& c : u.codes()) {
         bool onWord = c.word >= 0;
         (onWord ? f.wordCode : f.utteranceCode) = true;
         f.excludeCode = f.excludeCode || m.excludeSet.matches(c.text);
@@ -67,7 +68,8 @@ UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeM
     f.forms.reserve(u.words.size());
     f.roots.reserve(u.words.size());
     f.overlap = u.hasOverlap;
-    for (const Word& w : u.words) {
+    for (int index = 0; index < static_cast<int>(u.words.size()); ++index) {
+        const Word& w = u.words[index];
         f.overlap = f.overlap || w.inOverlap;
         if (isMazeWord(w)) {
             ++f.mazeWords;
@@ -79,24 +81,24 @@ UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeM
             ++f.omittedWords;
             continue;
         }
-        f.omittedMorphemes += static_cast<int>(w.omittedBoundMorphemes.size());
-        f.omittedClitics += static_cast<int>(w.omittedClitics.size());
+        f.omittedMorphemes += static_cast<int>(w.omittedBoundMorphemes().size());
+        f.omittedClitics += static_cast<int>(w.omittedClitics().size());
         if (w.unintelligible) {
             ++f.unintelligibleMarks;
             continue;
         }
-        if (!passesWordBase(u, w, base, m.wordBase))
+        if (!passesWordBase(u, index, base, m.wordBase))
             continue;
         f.words.push_back(&w);
         f.traits.push_back(traitsOf(w));
-        for (const std::string& e : w.boundMorphemes)
+        for (std::string_view e : w.boundMorphemes())
             f.endings.push_back(toLowerAscii(e));
         f.roots.push_back(rootKey(w));
         f.forms.push_back(surfaceForm(w, f.roots.back()));
         f.morphemes += morphemeCount(w);
-        f.boundMorphemes += static_cast<int>(w.boundMorphemes.size());
-        f.clitics += static_cast<int>(w.clitics.size());
-        f.errorWords += wordCarries(u, w, m.errors) ? 1 : 0;
+        f.boundMorphemes += static_cast<int>(w.boundMorphemes().size());
+        f.clitics += static_cast<int>(w.clitics().size());
+        f.errorWords += wordCarries(u, index, m.errors) ? 1 : 0;
     }
     if (!base.excludeParenthetical)
         addParentheticalWords(u, f);

@@ -15,7 +15,7 @@ void lowerInPlace(std::string& s) {
 
 // The root without the marks of a part word ("ba*") and of bound prefixes ("re\do").
 std::string plainRoot(const Word& w) {
-    std::string r = w.root;
+    std::string r(w.root());
     if (w.incomplete && !r.empty() && r.back() == '*')
         r.pop_back();
     if (r.find('\\') != std::string::npos)
@@ -37,14 +37,14 @@ std::string surfaceForm(const Word& w) {
 
 std::string surfaceForm(const Word& w, std::string_view rootKey) {
     size_t extra = 0;
-    for (const std::string& m : w.boundMorphemes)
+    for (std::string_view m : w.boundMorphemes())
         extra += m.size() + 1;
-    for (const std::string& c : w.clitics)
+    for (std::string_view c : w.clitics())
         extra += c.size();
     std::string s;
     s.reserve(rootKey.size() + extra);
     s = rootKey;
-    for (const std::string& m : w.boundMorphemes) {
+    for (std::string_view m : w.boundMorphemes()) {
         // Endings written by their grammar rather than their spelling.
         if (equalsIgnoreCase(m, "3s"))
             s += "s";
@@ -53,7 +53,7 @@ std::string surfaceForm(const Word& w, std::string_view rootKey) {
         else
             s += m;
     }
-    for (const std::string& c : w.clitics)
+    for (std::string_view c : w.clitics())
         s += c;
     lowerInPlace(s); // the root part is lower case already
     return s;

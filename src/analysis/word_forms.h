@@ -21,7 +21,7 @@ std::string surfaceForm(const Word& w, std::string_view rootKey);
 // One for the word plus one for each bound morpheme present (endings and
 // bound prefixes); clitics add nothing.
 inline int morphemeCount(const Word& w) {
-    return 1 + static_cast<int>(w.boundMorphemes.size() + w.prefixes.size());
+    return 1 + static_cast<int>(w.boundMorphemes().size() + w.prefixes().size());
 }
 // A word of a maze that counts as a maze word: not omitted, not an unintelligible mark.
 inline bool isMazeWord(const Word& w) {
