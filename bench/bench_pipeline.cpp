@@ -141,6 +141,7 @@ int main(int argc, char** argv) {
     CheckResult check =
         lines ? checkTranscript(loaded.lines, checkOptions) : checkText(loaded.text, checkOptions);
     const double checked = secondsSince(start);
+    const double peakChecked = peakMegabytes();
     MeasureOptions options;
     options.dictionary = &dictionary;
     options.wordLists = &lists;
@@ -159,6 +160,12 @@ int main(int argc, char** argv) {
                 size / (load + checked + measured));
     std::printf("peak RSS              %8.1f MB  (%.1f x the transcript; %.1f MB before reading)\n",
                 peak, peak / size, before);
+    const SegmentedTranscript& st = check.segmented;
+    std::printf("after checking        %8.1f MB  (segmented: store %.1f MB, utterances %.1f MB, "
+                "entries %.1f MB)\n",
+                peakChecked, static_cast<double>(st.store->bytes()) / (1 << 20),
+                static_cast<double>(st.utterances.capacity() * sizeof(Utterance)) / (1 << 20),
+                static_cast<double>(st.entries.capacity() * sizeof(Entry)) / (1 << 20));
     std::printf("MLU (speaker 1)       %s\n",
                 result.speakers[0].formatted(MeasureId::MLUw).c_str());
     return 0;
