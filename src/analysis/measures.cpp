@@ -50,7 +50,7 @@ MeasureResult computeMeasures(const SegmentedTranscript& transcript,
     MeasureContext c{transcript, options, result.selection, {}, matchersFor(options), {}};
     c.facts.resize(transcript.utterances.size());
     for (int i : result.selection.utterances)
-        c.facts[i] = gatherFacts(transcript.utterances[i], options.wordBase, c.codes, c.rootIds);
+        c.facts[i] = gatherFacts(transcript.utterances[i], options.wordBase, c.codes, c.tables);
 
     for (int s = 0; s < 2; ++s) {
         SpeakerMeasures& m = result.speakers[s];

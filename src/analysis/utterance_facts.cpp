@@ -25,10 +25,13 @@ bool passesWordBase(const Utterance& u, int w, const WordBase& base, const CodeM
 }
 
 // Words of parenthetical remarks, counted when the word base takes them.
-void addParentheticalWords(const Utterance& u, UtteranceFacts& f) {
+void addParentheticalWords(const Utterance& u, UtteranceFacts& f, FactTables& t) {
     for (const Word& w : u.parentheticalWords())
-        if (!w.omitted && !w.unintelligible && !w.inMaze)
-            f.roots.push_back(rootKey(w));
+        if (!w.omitted && !w.unintelligible && !w.inMaze) {
+            rootKeyInto(w, t.key);
+            t.remarkRoots.push_back(t.roots.idOf(t.key));
+            ++f.wordCount;
+        }
 }
 
 WordTraits traitsOf(const Word& w) {
@@ -61,12 +64,11 @@ void tallyCodes(const Utterance& u, const CodeMatchers& m, UtteranceFacts& f) {
 } // namespace
 
 UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeMatchers& m,
-                           RootIds& ids) {
+                           FactTables& t) {
     UtteranceFacts f;
-    f.words.reserve(u.words.size());
-    f.traits.reserve(u.words.size());
-    f.forms.reserve(u.words.size());
-    f.roots.reserve(u.words.size());
+    f.wordsFrom = static_cast<std::uint32_t>(t.words.size());
+    f.remarksFrom = static_cast<std::uint32_t>(t.remarkRoots.size());
+    f.endingsFrom = static_cast<std::uint32_t>(t.endingIds.size());
     f.overlap = u.hasOverlap;
     for (int index = 0; index < static_cast<int>(u.words.size()); ++index) {
         const Word& w = u.words[index];
@@ -89,24 +91,31 @@ UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeM
         }
         if (!passesWordBase(u, index, base, m.wordBase))
             continue;
-        f.words.push_back(&w);
-        f.traits.push_back(traitsOf(w));
-        for (std::string_view e : w.boundMorphemes())
-            f.endings.push_back(toLowerAscii(e));
-        f.roots.push_back(rootKey(w));
-        f.forms.push_back(surfaceForm(w, f.roots.back()));
+        CountedWord counted;
+        counted.word = static_cast<std::uint32_t>(index);
+        counted.traits = traitsOf(w);
+        for (std::string_view e : w.boundMorphemes()) {
+            t.form.assign(e);
+            for (char& c : t.form)
+                if (c >= 'A' && c <= 'Z')
+                    c = static_cast<char>(c + 32);
+            t.endingIds.push_back(t.endings.idOf(t.form));
+        }
+        rootKeyInto(w, t.key);
+        counted.root = t.roots.idOf(t.key);
+        surfaceFormInto(w, t.key, t.form);
+        counted.form = t.forms.idOf(t.form);
+        t.words.push_back(counted);
+        ++f.counted;
         f.morphemes += morphemeCount(w);
         f.boundMorphemes += static_cast<int>(w.boundMorphemes().size());
         f.clitics += static_cast<int>(w.clitics().size());
         f.errorWords += wordCarries(u, index, m.errors) ? 1 : 0;
     }
+    f.wordCount = static_cast<int>(f.counted);
     if (!base.excludeParenthetical)
-        addParentheticalWords(u, f);
-    f.morphemes += static_cast<int>(f.roots.size() - f.words.size());
-    f.wordCount = static_cast<int>(f.roots.size());
-    f.rootIds.reserve(f.roots.size());
-    for (const std::string& r : f.roots)
-        f.rootIds.push_back(ids.idOf(r));
+        addParentheticalWords(u, f, t);
+    f.morphemes += f.wordCount - static_cast<int>(f.counted);
     tallyCodes(u, m, f);
     return f;
 }
