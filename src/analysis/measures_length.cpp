@@ -59,7 +59,10 @@ void fillVocabulary(const SpeakerView& v, SpeakerMeasures& m) {
     std::vector<char> seen(static_cast<size_t>(different), 0);
     int ndw = 0;
     for (int id : ids)
-        ndw += seen[id]++ == 0 ? 1 : 0;
+        if (!seen[id]) {
+            seen[id] = 1; // a flag, not a count: a count of chars would wrap after 255 uses
+            ++ndw;
+        }
     const int ntw = static_cast<int>(ids.size());
     m[Id::NTW] = Value::count(ntw);
     m[Id::NDW] = Value::count(ndw);
