@@ -54,7 +54,7 @@ std::string makeTranscript(size_t bytes) {
                                   "because it was raining and we could/n't go outside.",
                                   "<yeah>.",
                                   "what is that?",
-                                  "we ate ice_cream and %goed home ((laughs)).",
+                                  "we ate ice_ _cream and %goed home ((laughs)).",
                                   "(I want) I want the red one ~"};
     static const char* adult[] = {"what did you do?", "tell me more about that ~",
                                   "really?",          "and then what happened ^",
