@@ -12,12 +12,23 @@ namespace tavi {
 
 namespace {
 
+// True when `bytes` is `text` written in ASCII: only then do the word's views
+// point into the bytes (a joined linked word is not a piece of its line).
+bool sameText(std::string_view bytes, std::u32string_view text) {
+    if (bytes.size() != text.size())
+        return false;
+    for (size_t i = 0; i < text.size(); ++i)
+        if (static_cast<unsigned char>(bytes[i]) != text[i])
+            return false;
+    return true;
+}
+
 class WordSplitter {
 public:
     WordSplitter(std::u32string_view text, bool linked, WordDraft& word, ProblemSink* sink,
                  std::string_view bytes, std::string& spare)
-        : w_(text), bytes_(bytes.size() == text.size() ? bytes : std::string_view()),
-          linked_(linked), word_(word), flags_(word.flags), sink_(sink), spare_(spare) {}
+        : w_(text), bytes_(sameText(bytes, text) ? bytes : std::string_view()), linked_(linked),
+          word_(word), flags_(word.flags), sink_(sink), spare_(spare) {}
     bool run();
 
 private:
