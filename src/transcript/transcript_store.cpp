@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <new>
 
 namespace tavi {
 
@@ -51,8 +52,23 @@ bool inside(std::string_view part, std::string_view whole) {
 } // namespace
 
 Word TranscriptStore::keepWord(const WordDraft& draft, std::string_view stable) {
-    std::string_view text =
-        inside(draft.text, stable) || draft.text.empty() ? draft.text : keepText(draft.text);
+    Word word = draft.flags;
+    bool plain = !draft.omittedRoot && draft.rootIdentification.empty() &&
+                 draft.root.data() == draft.text.data() && draft.root.size() == draft.text.size();
+    for (const auto& list : draft.pieces)
+        plain = plain && list.empty();
+    if (plain) {
+        word.assignPlain(inside(draft.text, stable) || draft.text.empty() ? draft.text
+                                                                          : keepText(draft.text));
+        return word;
+    }
+    // The parts record, then the text right after it.
+    auto* block = static_cast<std::byte*>(
+        allocate(sizeof(WordParts) + draft.text.size(), alignof(WordParts)));
+    char* textCopy = reinterpret_cast<char*>(block + sizeof(WordParts));
+    if (!draft.text.empty())
+        std::memcpy(textCopy, draft.text.data(), draft.text.size());
+    const std::string_view text(textCopy, draft.text.size());
     // A view of the draft's text moved onto the kept text.
     auto rebase = [&](std::string_view part) {
         if (part.empty())
@@ -61,15 +77,6 @@ Word TranscriptStore::keepWord(const WordDraft& draft, std::string_view stable) 
             return text.substr(static_cast<size_t>(part.data() - draft.text.data()), part.size());
         return inside(part, stable) ? part : keepText(part);
     };
-    Word word = draft.flags;
-    bool plain = !draft.omittedRoot && draft.rootIdentification.empty() &&
-                 draft.root.data() == draft.text.data() && draft.root.size() == draft.text.size();
-    for (const auto& list : draft.pieces)
-        plain = plain && list.empty();
-    if (plain) {
-        word.assign(text, nullptr);
-        return word;
-    }
     WordParts parts;
     std::vector<std::string_view> pieces;
     for (size_t k = 0; k < draft.pieces.size(); ++k) {
@@ -84,15 +91,13 @@ Word TranscriptStore::keepWord(const WordDraft& draft, std::string_view stable) 
     }
     parts.pieces = keep(pieces).data();
     parts.omittedRoot = draft.omittedRoot;
-    if (!draft.omittedRoot) {
-        std::string_view root = rebase(draft.root);
+    if (!draft.omittedRoot && inside(draft.root, draft.text)) {
         // The root lies inside the text (a draft whose root is elsewhere reads as empty).
-        if (!inside(root, text))
-            root = {};
-        parts.rootStart = root.empty() ? 0 : static_cast<std::uint32_t>(root.data() - text.data());
-        parts.rootSize = static_cast<std::uint32_t>(root.size());
+        parts.rootStart = static_cast<std::uint32_t>(draft.root.data() - draft.text.data());
+        parts.rootSize = static_cast<std::uint32_t>(draft.root.size());
     }
-    word.assign(text, keepOne(parts));
+    new (block) WordParts(parts);
+    word.assignParted(text);
     return word;
 }
 

@@ -42,24 +42,29 @@ struct WordParts {
     }
 };
 
-// A word: a view of its text (kept alive by the transcript's store or text),
-// the parts record of a word that is not plain, and its flags as bits.
+// A word: a view of its text (kept alive by the transcript's store or text)
+// and its flags as bits. A word that is not plain has a parts record, which
+// the store places right before the word's text.
 class Word {
+    const char* text_ = "";
+    std::uint32_t size_ = 0;
+
 public:
     Word()
         : omitted(false), omittedBoundMorpheme(false), omittedClitic(false), idiosyncratic(false),
           inMaze(false), inParenthetical(false), inOverlap(false), linked(false),
-          unintelligible(false), incomplete(false) {}
+          unintelligible(false), incomplete(false), parted_(false) {}
 
     // The word as written, marks included; linked pieces joined.
     std::string_view text() const { return {text_, size_}; }
     // Text before the first "/" or "+", without leading "*" or "%".
     std::string_view root() const {
-        if (!parts_)
+        const WordParts* p = parts();
+        if (!p)
             return text();
-        if (parts_->omittedRoot)
+        if (p->omittedRoot)
             return "*@";
-        return text().substr(parts_->rootStart, parts_->rootSize);
+        return text().substr(p->rootStart, p->rootSize);
     }
     // Present endings, without "/": "s", "ed".
     std::span<const std::string_view> boundMorphemes() const { return kind(1); }
@@ -69,25 +74,34 @@ public:
     std::span<const std::string_view> clitics() const { return kind(3); }
     // Clitics written "+*", without "+*".
     std::span<const std::string_view> omittedClitics() const { return kind(4); }
-    // Bound prefixes written with "\".
+    // Bound prefixes written with "\\".
     std::span<const std::string_view> prefixes() const { return kind(0); }
     // The root after "|", empty when none.
     std::string_view rootIdentification() const {
-        if (!parts_ || !parts_->hasRootIdentification)
+        const WordParts* p = parts();
+        if (!p || !p->hasRootIdentification)
             return {};
         size_t n = 0;
-        for (std::uint16_t c : parts_->counts)
+        for (std::uint16_t c : p->counts)
             n += c;
-        return parts_->pieces[n];
+        return p->pieces[n];
     }
-    const WordParts* parts() const { return parts_; }
+    // Null for a plain word.
+    const WordParts* parts() const {
+        return parted_ ? reinterpret_cast<const WordParts*>(text_ - sizeof(WordParts)) : nullptr;
+    }
 
-    // Sets the text and the parts record (null for a plain word, whose root is
-    // its text); both must outlive the word.
-    void assign(std::string_view text, const WordParts* parts) {
+    // Sets the text of a plain word (its root is its text); it must outlive the word.
+    void assignPlain(std::string_view text) {
         text_ = text.data();
         size_ = static_cast<std::uint32_t>(text.size());
-        parts_ = parts;
+        parted_ = false;
+    }
+    // Sets the text of a word whose parts record stands right before the
+    // text (as TranscriptStore::keepWord places it).
+    void assignParted(std::string_view text) {
+        assignPlain(text);
+        parted_ = true;
     }
 
     bool omitted : 1;              // "*the"
@@ -105,14 +119,16 @@ public:
     bool isMainBodyWord() const { return !inMaze && !omitted && !unintelligible; }
 
 private:
-    std::span<const std::string_view> kind(int k) const {
-        return parts_ ? parts_->kind(k) : std::span<const std::string_view>();
-    }
+    bool parted_ : 1; // a parts record stands right before the text
 
-    const char* text_ = "";
-    const WordParts* parts_ = nullptr;
-    std::uint32_t size_ = 0;
+    std::span<const std::string_view> kind(int k) const {
+        const WordParts* p = parts();
+        return p ? p->kind(k) : std::span<const std::string_view>();
+    }
 };
+
+static_assert(sizeof(Word) == 16, "a word record is kept for every word of a transcript");
+static_assert(sizeof(WordParts) % alignof(WordParts) == 0);
 
 struct Code {
     std::string_view text;  // between the brackets, e.g. "EW:went"
