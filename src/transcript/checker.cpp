@@ -429,14 +429,30 @@ CheckResult checkTranscript(const TranLines& lines, const CheckOptions& options)
     return checker.finish();
 }
 
+// Each line of `text` in turn (ended by LF, CR LF or CR), as splitLines cuts
+// them, without a list of all the lines.
+template <class F> void forEachLine(std::string_view text, F&& f) {
+    size_t start = 0;
+    while (start < text.size()) {
+        size_t end = text.find_first_of("\r\n", start);
+        if (end == std::string_view::npos) {
+            f(text.substr(start));
+            return;
+        }
+        f(text.substr(start, end - start));
+        start = end + (text[end] == '\r' && end + 1 < text.size() && text[end + 1] == '\n' ? 2 : 1);
+    }
+}
+
 CheckResult checkText(std::string_view text, const CheckOptions& options) {
-    std::vector<std::string_view> lines = splitLines(text);
     Checker checker(options);
-    if (options.keepSegmentation)
-        checker.reserve(lines.size());
+    if (options.keepSegmentation) {
+        size_t lines = 0;
+        forEachLine(text, [&](std::string_view) { ++lines; });
+        checker.reserve(lines);
+    }
     int number = 0;
-    for (std::string_view l : lines)
-        checker.checkLine(l, ++number);
+    forEachLine(text, [&](std::string_view l) { checker.checkLine(l, ++number); });
     return checker.finish();
 }
 
