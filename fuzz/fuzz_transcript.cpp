@@ -29,9 +29,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         if (checkedOnly.problems[i].message != result.problems[i].message ||
             checkedOnly.problems[i].line != result.problems[i].line)
             __builtin_trap();
+    tavi::TranscriptStore store;
     for (const tavi::tranLine& line : t.lines) {
-        tavi::Utterance u = tavi::segmentUtterance(line.text, line.line, result.speakers);
-        for (const tavi::Code& c : u.codes)
+        tavi::Utterance u = tavi::segmentUtterance(line.text, line.line, result.speakers, store);
+        for (const tavi::Code& c : u.codes())
             if (c.word >= static_cast<int>(u.words.size()))
                 __builtin_trap();
     }

@@ -113,9 +113,9 @@ bool hasEnding(std::string_view s, std::string_view end) {
 
 std::vector<int> guessFromForm(const Word& w) {
     unsigned groups = 0;
-    for (const std::string& m : w.boundMorphemes)
+    for (std::string_view m : w.boundMorphemes())
         groups |= 1u << boundMorphemeGroup(m);
-    return guessCategories(toLowerAscii(w.root), groups);
+    return guessCategories(toLowerAscii(w.root()), groups);
 }
 
 } // namespace
@@ -137,7 +137,7 @@ std::vector<int> dictionaryCategories(std::string_view root, const GcDictionary&
 
 std::vector<int> wordCategories(const Word& w, const GcDictionary* dictionary) {
     if (dictionary)
-        if (std::vector<int> cats = dictionaryCategories(w.root, *dictionary); !cats.empty())
+        if (std::vector<int> cats = dictionaryCategories(w.root(), *dictionary); !cats.empty())
             return cats;
     return guessFromForm(w);
 }

@@ -22,7 +22,7 @@ bool isDefaultFilledPause(std::string_view w) {
 MazeKind classifyMaze(const Utterance& u, int maze, const FilledPauseTest& isFilled,
                       const WordTest& isKnown) {
     std::vector<std::string> mazeWords, after;
-    const std::vector<int>& indices = u.mazes[maze].words;
+    std::span<const int> indices = u.mazes()[maze].words;
     for (int i : indices)
         if (!u.words[i].omitted && !u.words[i].unintelligible)
             mazeWords.push_back(surfaceForm(u.words[i]));

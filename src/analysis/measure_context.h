@@ -17,7 +17,8 @@ struct MeasureContext {
     const Selection& selection;
     std::vector<UtteranceFacts> facts; // per utterance; filled for utterances inside the cut
     CodeMatchers codes;
-    RootIds rootIds;
+    FactTables tables; // the facts' words, roots, forms and endings
+    const RootIds& rootIds() const { return tables.roots; }
 };
 
 // Everything one speaker's measures read.
@@ -29,6 +30,16 @@ struct SpeakerView {
 
     const Utterance& utt(int i) const { return c.t.utterances[i]; }
     const UtteranceFacts& facts(int i) const { return c.facts[i]; }
+    // The counted main-body words of utterance `i`.
+    std::span<const CountedWord> words(int i) const { return c.facts[i].words(c.tables); }
+    // The root numbers of utterance `i`: its counted words', then its counted
+    // parenthetical words'.
+    template <class F> void forEachRoot(int i, F&& f) const {
+        for (const CountedWord& w : words(i))
+            f(w.root);
+        for (int id : c.facts[i].remarkRoots(c.tables))
+            f(id);
+    }
     const ResponseType& response(int i) const { return c.selection.responses[i]; }
     int countIf(const std::vector<int>& utts, const std::function<bool(int)>& pred) const {
         int n = 0;

@@ -49,8 +49,12 @@ MeasureResult computeMeasures(const SegmentedTranscript& transcript,
 
     MeasureContext c{transcript, options, result.selection, {}, matchersFor(options), {}};
     c.facts.resize(transcript.utterances.size());
+    size_t words = 0; // room for every word: a run that doubles as it grows needs thrice
     for (int i : result.selection.utterances)
-        c.facts[i] = gatherFacts(transcript.utterances[i], options.wordBase, c.codes, c.rootIds);
+        words += transcript.utterances[i].words.size();
+    c.tables.words.reserve(words);
+    for (int i : result.selection.utterances)
+        c.facts[i] = gatherFacts(transcript.utterances[i], options.wordBase, c.codes, c.tables);
 
     for (int s = 0; s < 2; ++s) {
         SpeakerMeasures& m = result.speakers[s];

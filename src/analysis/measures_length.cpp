@@ -23,7 +23,7 @@ using Id = MeasureId;
 std::vector<int> rootIdsOf(const SpeakerView& v, const std::vector<int>& utts) {
     std::vector<int> ids;
     for (int i : utts)
-        ids.insert(ids.end(), v.facts(i).rootIds.begin(), v.facts(i).rootIds.end());
+        v.forEachRoot(i, [&](int id) { ids.push_back(id); });
     return ids;
 }
 
@@ -55,11 +55,14 @@ void fillMlu(const SpeakerView& v, SpeakerMeasures& m) {
 
 void fillVocabulary(const SpeakerView& v, SpeakerMeasures& m) {
     const std::vector<int> ids = rootIdsOf(v, v.analysisSet);
-    const int different = v.c.rootIds.size();
+    const int different = v.c.rootIds().size();
     std::vector<char> seen(static_cast<size_t>(different), 0);
     int ndw = 0;
     for (int id : ids)
-        ndw += seen[id]++ == 0 ? 1 : 0;
+        if (!seen[id]) {
+            seen[id] = 1; // a flag, not a count: a count of chars would wrap after 255 uses
+            ++ndw;
+        }
     const int ntw = static_cast<int>(ids.size());
     m[Id::NTW] = Value::count(ntw);
     m[Id::NDW] = Value::count(ndw);
@@ -73,21 +76,25 @@ void fillVocabulary(const SpeakerView& v, SpeakerMeasures& m) {
 }
 
 void fillBoundMorphemes(const SpeakerView& v, SpeakerMeasures& m) {
-    int bound = 0, clitics = 0;
-    std::unordered_set<std::string> endings;
+    int bound = 0, clitics = 0, different = 0;
+    std::vector<char> seen(static_cast<size_t>(v.c.tables.endings.size()), 0);
     for (int i : v.analysisSet) {
         bound += v.facts(i).boundMorphemes;
         clitics += v.facts(i).clitics;
-        endings.insert(v.facts(i).endings.begin(), v.facts(i).endings.end());
+        for (int id : v.facts(i).endings(v.c.tables))
+            if (!seen[static_cast<size_t>(id)]) {
+                seen[static_cast<size_t>(id)] = 1;
+                ++different;
+            }
     }
     m[Id::BoundMorphs] = Value::count(bound);
     m[Id::BoundClitics] = Value::count(clitics);
-    m[Id::DiffBM] = Value::count(static_cast<int>(endings.size()));
+    m[Id::DiffBM] = Value::count(different);
 }
 
 // Different roots that this speaker said before the other main speaker did.
 void fillMentionedFirst(const SpeakerView& v, SpeakerMeasures& m) {
-    const size_t different = static_cast<size_t>(v.c.rootIds.size());
+    const size_t different = static_cast<size_t>(v.c.rootIds().size());
     std::vector<signed char> firstBy(different, -1);
     std::vector<char> mine(different, 0);
     int first = 0, mineCount = 0;
@@ -95,7 +102,7 @@ void fillMentionedFirst(const SpeakerView& v, SpeakerMeasures& m) {
         int group = v.utt(i).speakerGroup;
         if (group > 1)
             continue;
-        for (int id : v.c.facts[i].rootIds) {
+        v.forEachRoot(i, [&](int id) {
             if (firstBy[id] < 0)
                 firstBy[id] = static_cast<signed char>(group);
             if (group == v.speaker && !mine[id]) {
@@ -103,7 +110,7 @@ void fillMentionedFirst(const SpeakerView& v, SpeakerMeasures& m) {
                 ++mineCount;
                 first += firstBy[id] == v.speaker ? 1 : 0;
             }
-        }
+        });
     }
     m[Id::WdsMention1st] = Value::count(first);
     m[Id::PctWdsMention1st] = Value::ratio(first, mineCount, 100);

@@ -2,7 +2,10 @@
 // verb measures that read the categories.
 #include <algorithm>
 #include <cstdint>
+#include <deque>
+#include <functional>
 #include <optional>
+#include <string_view>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -19,49 +22,61 @@ namespace {
 
 using Id = MeasureId;
 
+struct TextHash {
+    using is_transparent = void;
+    size_t operator()(std::string_view s) const { return std::hash<std::string_view>{}(s); }
+};
+
 // Counts of several lists or categories, with the words each has seen.
 template <size_t N> struct Tally {
     std::array<WordCount, N>& counts;
-    std::array<std::unordered_set<std::string>, N> seen{};
+    std::array<std::unordered_set<std::string, TextHash, std::equal_to<>>, N> seen{};
 
     // One occurrence of `word`; a new word adds a type.
-    void add(int k, const std::string& word) {
+    void add(int k, std::string_view word) {
         ++counts[k].total;
-        if (seen[k].insert(word).second) {
-            counts[k].words.push_back(word);
+        if (seen[k].find(word) == seen[k].end()) {
+            seen[k].emplace(word);
+            counts[k].words.emplace_back(word);
             ++counts[k].types;
         }
     }
 };
 
-// The words of an utterance in the word-list area, as surface forms and roots.
 // The words of an utterance in the word-list area, as surface forms and
-// roots; the main body's come straight from the facts, others are built in
-// `forms` and `roots`.
-struct AreaWords {
-    const std::vector<std::string>* forms;
-    const std::vector<std::string>* roots;
-};
-
-AreaWords areaWords(const SpeakerView& v, int i, WordArea area, std::vector<std::string>& forms,
-                    std::vector<std::string>& roots) {
-    const UtteranceFacts& f = v.facts(i);
-    if (area == WordArea::MainBody)
-        return {&f.forms, &f.roots};
+// roots: the main body's are the counted words' numbered forms and roots;
+// others are built in `built`.
+void areaWords(const SpeakerView& v, int i, WordArea area, std::vector<std::string_view>& forms,
+               std::vector<std::string_view>& roots, std::deque<std::string>& built) {
     forms.clear();
     roots.clear();
-    for (const Word& w : v.utt(i).words) {
+    const FactTables& t = v.c.tables;
+    const std::span<const CountedWord> counted = v.words(i);
+    if (area == WordArea::MainBody) {
+        for (const CountedWord& w : counted) {
+            forms.push_back(t.forms.name(w.form));
+            roots.push_back(t.roots.name(w.root));
+        }
+        return;
+    }
+    built.clear();
+    const std::span<const Word> words = v.utt(i).words;
+    size_t next = 0; // the next counted word
+    for (size_t k = 0; k < words.size(); ++k) {
+        const Word& w = words[k];
         bool maze = isMazeWord(w);
-        bool body = !maze && std::find(f.words.begin(), f.words.end(), &w) != f.words.end();
+        while (next < counted.size() && counted[next].word < k)
+            ++next;
+        bool body = !maze && next < counted.size() && counted[next].word == k;
         if ((body && area != WordArea::Mazes) || (maze && area != WordArea::MainBody)) {
-            forms.push_back(surfaceForm(w));
-            roots.push_back(rootKey(w));
+            forms.push_back(built.emplace_back(surfaceForm(w)));
+            roots.push_back(built.emplace_back(rootKey(w)));
         }
     }
-    return {&forms, &roots};
 }
 
-bool phraseMatchesAt(const WordListEntry& e, const std::vector<std::string>& forms, size_t at) {
+bool phraseMatchesAt(const WordListEntry& e, const std::vector<std::string_view>& forms,
+                     size_t at) {
     if (at + e.words.size() > forms.size())
         return false;
     for (size_t k = 0; k < e.words.size(); ++k)
@@ -70,14 +85,16 @@ bool phraseMatchesAt(const WordListEntry& e, const std::vector<std::string>& for
     return true;
 }
 
-void countPhrases(const StandardWordLists& lists, int set, const std::vector<std::string>& forms,
-                  Tally<kWordListKinds>& tally) {
+void countPhrases(const StandardWordLists& lists, int set,
+                  const std::vector<std::string_view>& forms, Tally<kWordListKinds>& tally) {
     for (const auto& [kind, entry] : lists.phrases(set))
         for (size_t at = 0; at < forms.size(); ++at)
             if (phraseMatchesAt(entry, forms, at)) {
-                std::string text = forms[at];
-                for (size_t k = 1; k < entry.words.size(); ++k)
-                    text += " " + forms[at + k];
+                std::string text(forms[at]);
+                for (size_t k = 1; k < entry.words.size(); ++k) {
+                    text += " ";
+                    text += forms[at + k];
+                }
                 tally.add(kind, text);
             }
 }
@@ -93,20 +110,20 @@ void fillWordLists(const SpeakerView& v, SpeakerMeasures& m) {
     if (!o.wordLists)
         return;
     const int set = o.wordListSet;
-    std::vector<std::string> forms, roots;
+    std::vector<std::string_view> form, roots;
+    std::deque<std::string> built;
     Tally<kWordListKinds> tally{m.wordLists};
     // The lists of each root number, looked up once; kNotLooked until then.
     constexpr std::uint32_t kNotLooked = ~0u;
-    std::vector<std::uint32_t> rootKinds(static_cast<size_t>(v.c.rootIds.size()), kNotLooked);
+    std::vector<std::uint32_t> rootKinds(static_cast<size_t>(v.c.rootIds().size()), kNotLooked);
     for (int i : o.wordListsOnAnalysisSet ? v.analysisSet : v.total) {
-        const AreaWords words = areaWords(v, i, o.wordListArea, forms, roots);
-        const std::vector<std::string>& form = *words.forms;
+        areaWords(v, i, o.wordListArea, form, roots, built);
         const bool numbered = o.wordListArea == WordArea::MainBody;
         for (size_t k = 0; k < form.size(); ++k) {
-            const std::string& root = (*words.roots)[k];
+            const std::string_view root = roots[k];
             std::uint32_t kinds = 0;
             if (numbered) {
-                std::uint32_t& known = rootKinds[v.facts(i).rootIds[k]];
+                std::uint32_t& known = rootKinds[static_cast<size_t>(v.words(i)[k].root)];
                 if (known == kNotLooked)
                     known = o.wordLists->kindMask(set, root);
                 kinds = known;
@@ -131,7 +148,7 @@ void fillCategoriesAndVerbs(const SpeakerView& v, SpeakerMeasures& m) {
     const GcDictionary* dictionary = v.c.options.dictionary;
     if (!dictionary)
         return;
-    const size_t roots = static_cast<size_t>(v.c.rootIds.size());
+    const size_t roots = static_cast<size_t>(v.c.rootIds().size());
     int verbs = 0, uttsWithVerb = 0;
     // Per root number: one bit per category in which the root was counted,
     // and the dictionary's entry, looked up once (by the root as first written).
@@ -139,17 +156,16 @@ void fillCategoriesAndVerbs(const SpeakerView& v, SpeakerMeasures& m) {
     std::vector<std::optional<std::vector<int>>> entries(roots);
     for (int i : v.analysisSet) {
         int here = 0;
-        const UtteranceFacts& f = v.facts(i);
-        for (size_t k = 0; k < f.words.size(); ++k) {
-            const WordTraits& t = f.traits[k];
+        for (const CountedWord& w : v.words(i)) {
+            const WordTraits& t = w.traits;
             if (t.skipped)
                 continue;
-            const int id = f.rootIds[k];
+            const int id = w.root;
             if (!entries[id])
-                entries[id] = dictionaryCategories(f.words[k]->root, *dictionary);
+                entries[id] = dictionaryCategories(v.utt(i).words[w.word].root(), *dictionary);
             std::vector<int> guessed;
             if (entries[id]->empty())
-                guessed = guessCategories(f.roots[k], t.endingGroups);
+                guessed = guessCategories(v.c.tables.roots.name(id), t.endingGroups);
             const std::vector<int>& cats = entries[id]->empty() ? guessed : *entries[id];
             for (int c : cats) {
                 WordCount& count = m.categories[c];
@@ -157,7 +173,7 @@ void fillCategoriesAndVerbs(const SpeakerView& v, SpeakerMeasures& m) {
                 if (!(counted[id] & (1u << c))) {
                     counted[id] |= 1u << c;
                     ++count.types;
-                    count.words.push_back(f.roots[k]);
+                    count.words.push_back(v.c.tables.roots.name(id));
                 }
             }
             here += (!cats.empty() && isVerbCategory(cats.front()) ? 1 : 0) + t.contractedVerbs;

@@ -51,14 +51,14 @@ void fillMazes(const SpeakerView& v, SpeakerMeasures& m) {
         const int len = std::min(15, f.wordCount);
         mazeWords += f.mazeWords;
         words += f.wordCount;
-        mazes += static_cast<int>(u.mazes.size());
-        withMaze += u.mazes.empty() ? 0 : 1;
+        mazes += static_cast<int>(u.mazes().size());
+        withMaze += u.mazes().empty() ? 0 : 1;
         uttsByLen[len]++;
-        mazeUttsByLen[len] += u.mazes.empty() ? 0 : 1;
-        mazesByUttLen[len] += static_cast<int>(u.mazes.size());
-        for (size_t k = 0; k < u.mazes.size(); ++k) {
+        mazeUttsByLen[len] += u.mazes().empty() ? 0 : 1;
+        mazesByUttLen[len] += static_cast<int>(u.mazes().size());
+        for (size_t k = 0; k < u.mazes().size(); ++k) {
             kinds[static_cast<int>(classifyMaze(u, static_cast<int>(k), isFilled, isKnown))]++;
-            mazesByMazeLen[std::clamp(static_cast<int>(u.mazes[k].words.size()), 0, 15)]++;
+            mazesByMazeLen[std::clamp(static_cast<int>(u.mazes()[k].words.size()), 0, 15)]++;
         }
     }
     m[Id::MzWds] = Value::count(mazeWords);

@@ -54,7 +54,7 @@ void fillTimingAndPauses(const SpeakerView& v, SpeakerMeasures& m) {
 
     PauseSums within;
     for (int i : v.total)
-        for (const Pause& p : v.utt(i).pauses)
+        for (const Pause& p : v.utt(i).pauses())
             within.add(p.timed, p.seconds);
     PauseSums between = betweenPauses(v);
     m[Id::NumPauseWiUt] = Value::count(within.count);

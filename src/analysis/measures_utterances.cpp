@@ -55,9 +55,9 @@ void fillUtteranceKinds(const SpeakerView& v, SpeakerMeasures& m) {
     percentOf(m, Id::PctIntelWd, intelWords, intelWords + marks);
 
     auto has = [&](auto pred) { return Value::count(v.countIf(T, pred)); };
-    m[Id::UtWPause] = has([&](int i) { return !v.utt(i).pauses.empty(); });
+    m[Id::UtWPause] = has([&](int i) { return !v.utt(i).pauses().empty(); });
     m[Id::UtWOmission] = has([&](int i) { return v.facts(i).hasOmission(); });
-    m[Id::UtWParenthetical] = has([&](int i) { return !v.utt(i).parentheticals.empty(); });
+    m[Id::UtWParenthetical] = has([&](int i) { return !v.utt(i).parentheticals().empty(); });
     m[Id::UtWDialogue] = has([&](int i) { return v.utt(i).hasQuotation; });
     m[Id::UtWComment] = has([&](int i) { return v.utt(i).hasComment; });
 }
@@ -69,7 +69,7 @@ void fillCodesAndErrors(const SpeakerView& v, SpeakerMeasures& m) {
     m[Id::UttwWdCode] = Value::count(has([&](int i) { return v.facts(i).wordCode; }));
     m[Id::UttwUtCode] = Value::count(has([&](int i) { return v.facts(i).utteranceCode; }));
     m[Id::UttwExclCode] = Value::count(has([&](int i) { return v.facts(i).excludeCode; }));
-    m[Id::UtWCode] = Value::count(has([&](int i) { return !v.utt(i).codes.empty(); }));
+    m[Id::UtWCode] = Value::count(has([&](int i) { return !v.utt(i).codes().empty(); }));
 
     CodeTally err, fl, nm, cs;
     int omitWd = 0, omitBm = 0, omitCl = 0, errorWords = 0, words = 0;
@@ -141,12 +141,12 @@ void fillUtteranceLists(const SpeakerView& v, SpeakerMeasures& m) {
                                           r.oneWord,                                // PONEWD
                                           u.intelligibility !=
                                               Intelligibility::Intelligible,        // PUNI
-                                          !u.pauses.empty(),                        // PPAUS
+                                          !u.pauses().empty(),                      // PPAUS
                                           f.hasOmission(),                          // POMIT
-                                          !u.parentheticals.empty(),                // PPAREN
+                                          !u.parentheticals().empty(),              // PPAREN
                                           u.hasComment,                             // PCOMMENT
                                           u.hasQuotation,                           // PDIAL
-                                          !u.codes.empty(),                         // PCODE
+                                          !u.codes().empty(),                       // PCODE
                                           f.errors.total() > 0,                     // PECODE
                                           f.fluency.total() > 0,                    // PFLCODE
                                           f.nonmainstream.total() > 0,              // PNMCODE

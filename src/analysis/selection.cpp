@@ -88,7 +88,7 @@ private:
     static bool carries(const Utterance& u, const CodeMatcher& m) {
         if (m.empty())
             return false;
-        for (const Code& c : u.codes)
+        for (const Code& c : u.codes())
             if (m.matches(c.text))
                 return true;
         return false;
@@ -101,12 +101,12 @@ bool entryCarriesCode(const SegmentedTranscript& t, const Entry& e, const std::s
     if (item.empty())
         return false;
     if (e.kind == EntryKind::Utterance) {
-        for (const Code& c : t.utterances[e.utterance].codes)
+        for (const Code& c : t.utterances[e.utterance].codes())
             if (codeMatchesItem(c.text, item))
                 return true;
         return false;
     }
-    for (const std::string& c : e.codes)
+    for (std::string_view c : e.codes)
         if (codeMatchesItem(c, item))
             return true;
     return false;

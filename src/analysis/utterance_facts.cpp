@@ -10,39 +10,43 @@ namespace tavi {
 
 namespace {
 
-bool wordCarries(const Utterance& u, const Word& w, const CodeMatcher& m) {
-    for (int c : w.codes)
-        if (c >= 0 && c < static_cast<int>(u.codes.size()) && m.matches(u.codes[c].text))
+// The codes placed on word `w` (its index in the utterance).
+bool wordCarries(const Utterance& u, int w, const CodeMatcher& m) {
+    for (const Code& c : u.codes())
+        if (c.word == w && m.matches(c.text))
             return true;
     return false;
 }
 
-bool passesWordBase(const Utterance& u, const Word& w, const WordBase& base, const CodeMatcher& m) {
+bool passesWordBase(const Utterance& u, int w, const WordBase& base, const CodeMatcher& m) {
     if (m.empty())
         return !base.includeMode;
     return base.includeMode ? wordCarries(u, w, m) : !wordCarries(u, w, m);
 }
 
 // Words of parenthetical remarks, counted when the word base takes them.
-void addParentheticalWords(const Utterance& u, UtteranceFacts& f) {
-    for (const Word& w : u.parentheticalWords)
-        if (!w.omitted && !w.unintelligible && !w.inMaze)
-            f.roots.push_back(rootKey(w));
+void addParentheticalWords(const Utterance& u, UtteranceFacts& f, FactTables& t) {
+    for (const Word& w : u.parentheticalWords())
+        if (!w.omitted && !w.unintelligible && !w.inMaze) {
+            rootKeyInto(w, t.key);
+            t.remarkRoots.push_back(t.roots.idOf(t.key));
+            ++f.wordCount;
+        }
 }
 
 WordTraits traitsOf(const Word& w) {
     WordTraits t;
-    for (const std::string& e : w.boundMorphemes) {
+    for (std::string_view e : w.boundMorphemes()) {
         int group = boundMorphemeGroup(e);
         t.endingGroups |= static_cast<std::uint16_t>(1u << group);
         t.contractedVerbs += group == kContractedVerbGroup ? 1 : 0;
     }
-    t.skipped = isSkippedCategoryToken(w.text);
+    t.skipped = isSkippedCategoryToken(w.text());
     return t;
 }
 
 void tallyCodes(const Utterance& u, const CodeMatchers& m, UtteranceFacts& f) {
-    for (const Code& c : u.codes) {
+    for (const Code& c : u.codes()) {
         bool onWord = c.word >= 0;
         (onWord ? f.wordCode : f.utteranceCode) = true;
         f.excludeCode = f.excludeCode || m.excludeSet.matches(c.text);
@@ -60,14 +64,14 @@ void tallyCodes(const Utterance& u, const CodeMatchers& m, UtteranceFacts& f) {
 } // namespace
 
 UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeMatchers& m,
-                           RootIds& ids) {
+                           FactTables& t) {
     UtteranceFacts f;
-    f.words.reserve(u.words.size());
-    f.traits.reserve(u.words.size());
-    f.forms.reserve(u.words.size());
-    f.roots.reserve(u.words.size());
+    f.wordsFrom = static_cast<std::uint32_t>(t.words.size());
+    f.remarksFrom = static_cast<std::uint32_t>(t.remarkRoots.size());
+    f.endingsFrom = static_cast<std::uint32_t>(t.endingIds.size());
     f.overlap = u.hasOverlap;
-    for (const Word& w : u.words) {
+    for (int index = 0; index < static_cast<int>(u.words.size()); ++index) {
+        const Word& w = u.words[index];
         f.overlap = f.overlap || w.inOverlap;
         if (isMazeWord(w)) {
             ++f.mazeWords;
@@ -79,32 +83,39 @@ UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeM
             ++f.omittedWords;
             continue;
         }
-        f.omittedMorphemes += static_cast<int>(w.omittedBoundMorphemes.size());
-        f.omittedClitics += static_cast<int>(w.omittedClitics.size());
+        f.omittedMorphemes += static_cast<int>(w.omittedBoundMorphemes().size());
+        f.omittedClitics += static_cast<int>(w.omittedClitics().size());
         if (w.unintelligible) {
             ++f.unintelligibleMarks;
             continue;
         }
-        if (!passesWordBase(u, w, base, m.wordBase))
+        if (!passesWordBase(u, index, base, m.wordBase))
             continue;
-        f.words.push_back(&w);
-        f.traits.push_back(traitsOf(w));
-        for (const std::string& e : w.boundMorphemes)
-            f.endings.push_back(toLowerAscii(e));
-        f.roots.push_back(rootKey(w));
-        f.forms.push_back(surfaceForm(w, f.roots.back()));
+        CountedWord counted;
+        counted.word = static_cast<std::uint32_t>(index);
+        counted.traits = traitsOf(w);
+        for (std::string_view e : w.boundMorphemes()) {
+            t.form.assign(e);
+            for (char& c : t.form)
+                if (c >= 'A' && c <= 'Z')
+                    c = static_cast<char>(c + 32);
+            t.endingIds.push_back(t.endings.idOf(t.form));
+        }
+        rootKeyInto(w, t.key);
+        counted.root = t.roots.idOf(t.key);
+        surfaceFormInto(w, t.key, t.form);
+        counted.form = t.forms.idOf(t.form);
+        t.words.push_back(counted);
+        ++f.counted;
         f.morphemes += morphemeCount(w);
-        f.boundMorphemes += static_cast<int>(w.boundMorphemes.size());
-        f.clitics += static_cast<int>(w.clitics.size());
-        f.errorWords += wordCarries(u, w, m.errors) ? 1 : 0;
+        f.boundMorphemes += static_cast<int>(w.boundMorphemes().size());
+        f.clitics += static_cast<int>(w.clitics().size());
+        f.errorWords += wordCarries(u, index, m.errors) ? 1 : 0;
     }
+    f.wordCount = static_cast<int>(f.counted);
     if (!base.excludeParenthetical)
-        addParentheticalWords(u, f);
-    f.morphemes += static_cast<int>(f.roots.size() - f.words.size());
-    f.wordCount = static_cast<int>(f.roots.size());
-    f.rootIds.reserve(f.roots.size());
-    for (const std::string& r : f.roots)
-        f.rootIds.push_back(ids.idOf(r));
+        addParentheticalWords(u, f, t);
+    f.morphemes += f.wordCount - static_cast<int>(f.counted);
     tallyCodes(u, m, f);
     return f;
 }

@@ -3,7 +3,10 @@
 #pragma once
 
 #include <cstdint>
+#include <deque>
+#include <span>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -34,14 +37,54 @@ struct WordTraits {
     bool skipped = false;             // the category count skips the token
 };
 
+// Numbers the different strings of one kind (roots, surface forms, endings)
+// of one computation from 0, so that sets of them can be kept as flags and
+// counts indexed by number, and each is stored once.
+class Numbering {
+public:
+    int idOf(std::string_view text) {
+        if (auto it = ids_.find(text); it != ids_.end())
+            return it->second; // nothing built for a string already numbered
+        names_.emplace_back(text);
+        return ids_.emplace(names_.back(), static_cast<int>(names_.size()) - 1).first->second;
+    }
+    const std::string& name(int id) const { return names_[static_cast<size_t>(id)]; }
+    int size() const { return static_cast<int>(names_.size()); }
+
+private:
+    std::deque<std::string> names_; // never moved: the map's keys view them
+    std::unordered_map<std::string_view, int> ids_;
+};
+
+// The roots of one transcript.
+using RootIds = Numbering;
+
+// A counted main-body word of an utterance.
+struct CountedWord {
+    int root = 0;           // root number (RootIds)
+    int form = 0;           // surface form number
+    WordTraits traits;      // what the category and verb counts need
+    std::uint32_t word = 0; // index in Utterance::words
+};
+
+// The counted words, roots and endings of every utterance, one run each,
+// numbered in the computation's tables.
+struct FactTables {
+    RootIds roots;
+    Numbering forms;
+    Numbering endings; // bound morphemes in lower case
+    std::vector<CountedWord> words;
+    std::vector<int> remarkRoots; // root numbers of counted parenthetical words
+    std::vector<int> endingIds;
+    std::string key, form; // scratch
+};
+
 struct UtteranceFacts {
-    std::vector<const Word*> words;   // counted main-body words, in order
-    std::vector<WordTraits> traits;   // theirs, in the same order
-    std::vector<std::string> endings; // their bound morphemes, in lower case
-    std::vector<std::string> forms;   // their surface forms (word_forms.h)
-    std::vector<std::string> roots;   // their roots, then those of counted parenthetical words
-    std::vector<int> rootIds;         // the roots' numbers (RootIds)
-    int wordCount = 0;                // roots.size()
+    std::uint32_t wordsFrom = 0;   // counted words: FactTables::words[wordsFrom, + counted)
+    std::uint32_t counted = 0;     // counted main-body words
+    std::uint32_t remarksFrom = 0; // FactTables::remarkRoots[remarksFrom, + wordCount - counted)
+    std::uint32_t endingsFrom = 0; // FactTables::endingIds[endingsFrom, + boundMorphemes)
+    int wordCount = 0;             // counted words and counted parenthetical words
     int morphemes = 0;
     int mazeWords = 0;
     int unintelligibleMarks = 0; // main-body "X", "XX", "XXX"
@@ -53,24 +96,20 @@ struct UtteranceFacts {
     int errorWords = 0; // counted words carrying an error code
 
     bool hasOmission() const { return omittedWords + omittedMorphemes + omittedClitics > 0; }
-};
 
-// Numbers the different roots of one transcript from 0, so that sets of roots
-// can be kept as flags and counts indexed by number.
-class RootIds {
-public:
-    int idOf(const std::string& root) {
-        if (auto it = ids_.find(root); it != ids_.end())
-            return it->second; // no node built for a root already numbered
-        return ids_.emplace(root, static_cast<int>(ids_.size())).first->second;
+    std::span<const CountedWord> words(const FactTables& t) const {
+        return {t.words.data() + wordsFrom, counted};
     }
-    int size() const { return static_cast<int>(ids_.size()); }
-
-private:
-    std::unordered_map<std::string, int> ids_;
+    std::span<const int> remarkRoots(const FactTables& t) const {
+        return {t.remarkRoots.data() + remarksFrom, static_cast<size_t>(wordCount) - counted};
+    }
+    std::span<const int> endings(const FactTables& t) const {
+        return {t.endingIds.data() + endingsFrom, static_cast<size_t>(boundMorphemes)};
+    }
 };
 
+// Gathers the facts of `u`, adding its words, roots and endings to `tables`.
 UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeMatchers& codes,
-                           RootIds& ids);
+                           FactTables& tables);
 
 } // namespace tavi

@@ -13,21 +13,23 @@ void lowerInPlace(std::string& s) {
             c = static_cast<char>(c + 32);
 }
 
-// The root without the marks of a part word ("ba*") and of bound prefixes ("re\do").
-std::string plainRoot(const Word& w) {
-    std::string r = w.root;
-    if (w.incomplete && !r.empty() && r.back() == '*')
-        r.pop_back();
-    if (r.find('\\') != std::string::npos)
-        std::erase(r, '\\');
-    return r;
-}
-
 } // namespace
 
+// The root without the marks of a part word ("ba*") and of bound prefixes
+// ("re\do"), in lower case.
+void rootKeyInto(const Word& w, std::string& out) {
+    std::string_view r = w.root();
+    if (w.incomplete && !r.empty() && r.back() == '*')
+        r.remove_suffix(1);
+    out.assign(r);
+    if (r.find('\\') != std::string_view::npos)
+        std::erase(out, '\\');
+    lowerInPlace(out);
+}
+
 std::string rootKey(const Word& w) {
-    std::string r = plainRoot(w);
-    lowerInPlace(r);
+    std::string r;
+    rootKeyInto(w, r);
     return r;
 }
 
@@ -36,15 +38,14 @@ std::string surfaceForm(const Word& w) {
 }
 
 std::string surfaceForm(const Word& w, std::string_view rootKey) {
-    size_t extra = 0;
-    for (const std::string& m : w.boundMorphemes)
-        extra += m.size() + 1;
-    for (const std::string& c : w.clitics)
-        extra += c.size();
     std::string s;
-    s.reserve(rootKey.size() + extra);
-    s = rootKey;
-    for (const std::string& m : w.boundMorphemes) {
+    surfaceFormInto(w, rootKey, s);
+    return s;
+}
+
+void surfaceFormInto(const Word& w, std::string_view rootKey, std::string& s) {
+    s.assign(rootKey);
+    for (std::string_view m : w.boundMorphemes()) {
         // Endings written by their grammar rather than their spelling.
         if (equalsIgnoreCase(m, "3s"))
             s += "s";
@@ -53,10 +54,9 @@ std::string surfaceForm(const Word& w, std::string_view rootKey) {
         else
             s += m;
     }
-    for (const std::string& c : w.clitics)
+    for (std::string_view c : w.clitics())
         s += c;
     lowerInPlace(s); // the root part is lower case already
-    return s;
 }
 
 int mainBodyWordCount(const Utterance& u) {

@@ -18,10 +18,13 @@ std::string rootKey(const Word& w);
 std::string surfaceForm(const Word& w);
 // The same, built on the word's rootKey when the caller already has it.
 std::string surfaceForm(const Word& w, std::string_view rootKey);
+// The same two into `out`, whose memory is reused.
+void rootKeyInto(const Word& w, std::string& out);
+void surfaceFormInto(const Word& w, std::string_view rootKey, std::string& out);
 // One for the word plus one for each bound morpheme present (endings and
 // bound prefixes); clitics add nothing.
 inline int morphemeCount(const Word& w) {
-    return 1 + static_cast<int>(w.boundMorphemes.size() + w.prefixes.size());
+    return 1 + static_cast<int>(w.boundMorphemes().size() + w.prefixes().size());
 }
 // A word of a maze that counts as a maze word: not omitted, not an unintelligible mark.
 inline bool isMazeWord(const Word& w) {

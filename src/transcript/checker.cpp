@@ -50,7 +50,6 @@ struct Checker::State final : ProblemSink {
     ErrList list;
     CheckResult result;
     UtteranceSegmenter segmenter;
-    Utterance utterance;
     int line = 0;
     bool tallyLine = false; // within-utterance pauses of this line are tallied
     int mainSpeaker = -1;   // 0 or 1 for an utterance of a main speaker
@@ -79,7 +78,17 @@ struct Checker::State final : ProblemSink {
     void noteUntimedPause(PauseTally& tally);
     void finish();
     Entry& addEntry(EntryKind kind);
+    std::span<const std::string_view> keepCodes(const std::vector<std::string>& codes);
 };
+
+std::span<const std::string_view> Checker::State::keepCodes(const std::vector<std::string>& codes) {
+    if (codes.empty())
+        return {};
+    std::vector<std::string_view> kept;
+    for (const std::string& c : codes)
+        kept.push_back(result.segmented.store->keepText(c));
+    return result.segmented.store->keep(kept);
+}
 
 Entry& Checker::State::addEntry(EntryKind kind) {
     Entry e;
@@ -199,14 +208,15 @@ void Checker::State::utteranceLine(std::string_view text) {
     tallyLine = mainSpeaker >= 0 && (!options.analysedLine || options.analysedLine(line));
     seenUtteranceOrPause = true;
     if (!options.keepSegmentation) {
-        segmenter.check(text, line, group, utterance, *this);
+        segmenter.check(text, line, group, *this);
         ++result.utteranceCount;
         return;
     }
     std::vector<Utterance>& utterances = result.segmented.utterances;
     addEntry(EntryKind::Utterance).utterance = static_cast<int>(utterances.size());
     Utterance& kept = utterances.emplace_back();
-    segmenter.segment(text, line, group, kept, this);
+    TranscriptStore& store = *result.segmented.store;
+    segmenter.segment(store.keepText(text), line, group, store, kept, this);
     kept.index = result.utteranceCount++;
 }
 
@@ -240,7 +250,7 @@ void Checker::State::timingLine(std::string_view text, const std::vector<std::st
     TimeValue t = readTimeValue(text);
     Entry* entry = options.keepSegmentation ? &addEntry(EntryKind::Timing) : nullptr;
     if (entry)
-        entry->codes = codes;
+        entry->codes = keepCodes(codes);
     if (!t.valid) {
         report(Problem::IllegalTiming);
         return;
@@ -273,8 +283,8 @@ void Checker::State::pauseLine(std::string_view text, int kind,
     TimeValue t = readTimeValue(text);
     Entry* entry = options.keepSegmentation ? &addEntry(EntryKind::Pause) : nullptr;
     if (entry) {
-        entry->pauseKind = kind;
-        entry->codes = codes;
+        entry->pauseKind = static_cast<std::int8_t>(kind);
+        entry->codes = keepCodes(codes);
         entry->seconds = 0;
     }
     if (!t.valid) {
@@ -380,20 +390,37 @@ CheckResult checkTranscript(const TranLines& lines, const CheckOptions& options)
     return checker.finish();
 }
 
+// Each line of `text` in turn (ended by LF, CR LF or CR), as splitLines cuts
+// them, without a list of all the lines.
+template <class F> void forEachLine(std::string_view text, F&& f) {
+    size_t start = 0;
+    while (start < text.size()) {
+        size_t end = text.find_first_of("\r\n", start);
+        if (end == std::string_view::npos) {
+            f(text.substr(start));
+            return;
+        }
+        f(text.substr(start, end - start));
+        start = end + (text[end] == '\r' && end + 1 < text.size() && text[end + 1] == '\n' ? 2 : 1);
+    }
+}
+
 CheckResult checkText(std::string_view text, const CheckOptions& options) {
-    std::vector<std::string_view> lines = splitLines(text);
     Checker checker(options);
-    if (options.keepSegmentation)
-        checker.reserve(lines.size());
+    if (options.keepSegmentation) {
+        size_t lines = 0;
+        forEachLine(text, [&](std::string_view) { ++lines; });
+        checker.reserve(lines);
+    }
     int number = 0;
-    for (std::string_view l : lines)
-        checker.checkLine(l, ++number);
+    forEachLine(text, [&](std::string_view l) { checker.checkLine(l, ++number); });
     return checker.finish();
 }
 
-Utterance segmentUtterance(std::string_view line, int lineNumber, const SpeakerTable& speakers) {
+Utterance segmentUtterance(std::string_view line, int lineNumber, const SpeakerTable& speakers,
+                           TranscriptStore& store) {
     int group = line.empty() ? -1 : speakerGroupOf(speakers, firstChar(line));
-    return segmentUtterance(line, lineNumber, group < 0 ? 2 : group);
+    return segmentUtterance(line, lineNumber, group < 0 ? 2 : group, store);
 }
 
 SegmentedTranscript segmentTranscript(const TranLines& lines) {

@@ -5,10 +5,15 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
+#include <memory>
+#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "transcript/atbeginend.h"
+#include "transcript/transcript_store.h"
 #include "transcript/utterance.h"
 
 namespace tavi {
@@ -24,7 +29,7 @@ struct SpeakerTable {
     bool hasSecondSpeaker() const { return !groups[1].labels.empty(); }
 };
 
-enum class EntryKind {
+enum class EntryKind : std::int8_t {
     Utterance, // `utterance` indexes SegmentedTranscript::utterances
     Timing,    // "-" line; `seconds` is the elapsed time, -1 when unreadable or missing
     Pause,     // ":" (pauseKind 0) or ";" (pauseKind 1) line; `seconds` 0 when untimed
@@ -34,11 +39,12 @@ enum class EntryKind {
 
 struct Entry {
     EntryKind kind = EntryKind::Utterance;
+    std::int8_t pauseKind = 0;
     int line = 0;
     int utterance = -1;
     int seconds = -1;
-    int pauseKind = 0;
-    std::vector<std::string> codes; // codes written on a timing or pause line
+    std::span<const std::string_view>
+        codes; // codes written on a timing or pause line (in the store)
 };
 
 struct HeaderLine {
@@ -47,7 +53,11 @@ struct HeaderLine {
     int line = 0;
 };
 
+// The utterances' words, codes and other pieces are views into `store`,
+// which the transcript owns (its copies share it): a segmented transcript
+// stands alone, whatever became of the text it was cut from.
 struct SegmentedTranscript {
+    std::shared_ptr<TranscriptStore> store = std::make_shared<TranscriptStore>();
     SpeakerTable speakers;
     std::vector<HeaderLine> headers;
     std::vector<Utterance> utterances;

@@ -48,13 +48,46 @@ constexpr CharMask kMazeOrOverlap = maskOf(U"()<>");
 constexpr CharMask kPauseOrStray = maskOf(U":.!?~^=;-$@");
 constexpr CharMask kLink = maskOf(U"_");
 
+} // namespace
+
+// The lists of the utterance being cut, reused from line to line.
+struct UtteranceSegmenter::Scratch {
+    std::u32string buf;
+    std::u32string link;
+    std::string spare;
+    WordDraft word;
+    std::vector<Word> words;
+    std::vector<size_t> positions; // of each word in the line
+    std::vector<Code> codes;
+    std::vector<std::vector<int>> mazeWords;
+    std::vector<std::string_view> parentheticals;
+    std::vector<Pause> pauses;
+    std::vector<Word> parentheticalWords;
+
+    void clear() {
+        words.clear();
+        positions.clear();
+        codes.clear();
+        mazeWords.clear();
+        parentheticals.clear();
+        pauses.clear();
+        parentheticalWords.clear();
+    }
+};
+
+namespace {
+
+using Scratch = UtteranceSegmenter::Scratch;
+
 // One line being cut; lives for one call of UtteranceSegmenter::segment.
+// With a store the pieces are kept; without, the line is only checked.
 class LineCutter {
 public:
-    LineCutter(std::string_view line, std::u32string& buf, std::u32string& scratch, Utterance& out,
-               ProblemSink* sink, Word* checkOnly)
-        : line_(line.size() == buf.size() ? line : std::string_view()), buf_(buf),
-          scratch_(scratch), out_(out), sink_(sink), checkOnly_(checkOnly) {}
+    LineCutter(std::string_view line, Scratch& scratch, Utterance& out, ProblemSink* sink,
+               TranscriptStore* store)
+        : line_(line.size() == scratch.buf.size() ? line : std::string_view()), stable_(line),
+          buf_(scratch.buf), scratch_(scratch.link), s_(scratch), out_(out), sink_(sink),
+          store_(store) {}
 
     void run();
 
@@ -72,8 +105,9 @@ private:
     bool anyPresent(const CharMask& mask) const {
         return ((present_[0] & mask.low) | (present_[1] & mask.high)) != 0;
     }
-    Word& nextWordSlot();
-    size_t countPieces() const;
+    // A piece of the line as UTF-8: a view of the line when it is all ASCII,
+    // else a copy in the store (nothing when only checking).
+    std::string_view textOf(size_t from, size_t size);
     void commentsAndCodes();
     void parentheticals();
     void closeParenthetical(size_t open, size_t close);
@@ -86,19 +120,20 @@ private:
     void attachCodes();
     void classify();
 
-    std::string_view line_; // the line's bytes when it is all ASCII, else empty
+    std::string_view line_;   // the line's bytes when it is all ASCII, else empty
+    std::string_view stable_; // the line, alive as long as the store
     std::u32string& buf_;
     std::u32string& scratch_;
+    Scratch& s_;
     Utterance& out_;
     ProblemSink* sink_;
-    Word* checkOnly_; // when set, words are checked in this record and not kept
-    size_t end_ = 0;  // position of the terminator (or of the end of the text)
+    TranscriptStore* store_; // null: the words are checked and not kept
+    size_t end_ = 0;         // position of the terminator (or of the end of the text)
     bool missingTerminator_ = false;
     bool textAfterEnd_ = false;
     std::uint64_t present_[2] = {0, 0}; // ASCII characters present before the terminator
     bool nonAscii_ = false;
     bool controls_ = false;
-    size_t wordCount_ = 0;
     std::vector<size_t> codePositions_;
     std::vector<bool> codeAttached_; // written right after a word, with no blank between
     size_t lastCodeEnd_ = 0;         // position of the last code's "]"
@@ -107,10 +142,10 @@ private:
 };
 
 void LineCutter::run() {
+    codePositions_.clear();
     if (buf_.size() < 2 || !(cls::isSpace(buf_[1]) || cls::isTerminator(buf_[1]))) {
         report(Problem::NoBlankAfterSpeaker);
         out_.hasTerminator = false;
-        out_.words.clear();
         return;
     }
     findEnd();
@@ -199,8 +234,7 @@ void LineCutter::commentsAndCodes() {
         void comment(size_t, size_t) { cut.out_.hasComment = true; }
         void code(size_t open, size_t close) {
             bool attached = cut.isAttachedCode(open);
-            cut.out_.codes.push_back(Code{
-                utf8(std::u32string_view(cut.buf_).substr(open + 1, close - open - 1)), -1, -1});
+            cut.s_.codes.push_back(Code{cut.textOf(open + 1, close - open - 1), -1, -1});
             cut.codePositions_.push_back(open);
             cut.codeAttached_.push_back(attached);
             cut.lastCodeEnd_ = close;
@@ -274,12 +308,23 @@ void LineCutter::parentheticals() {
     }
 }
 
+std::string_view LineCutter::textOf(size_t from, size_t size) {
+    if (!line_.empty())
+        return line_.substr(from, size);
+    if (!store_)
+        return {};
+    return store_->keepText(utf8(std::u32string_view(buf_).substr(from, size)));
+}
+
 void LineCutter::closeParenthetical(size_t open, size_t close) {
-    std::u32string_view inner = std::u32string_view(buf_).substr(open + 2, close - open - 3);
-    out_.parentheticals.push_back(std::string(trim(utf8(inner))));
-    std::vector<Word> remark = splitRemarkWords(inner);
-    for (Word& w : remark)
-        out_.parentheticalWords.push_back(std::move(w));
+    if (store_) {
+        std::u32string_view inner = std::u32string_view(buf_).substr(open + 2, close - open - 3);
+        std::string_view text = trim(textOf(open + 2, close - open - 3));
+        s_.parentheticals.push_back(text);
+        splitRemarkWords(inner, *store_, s_.parentheticalWords);
+    } else {
+        s_.parentheticals.emplace_back();
+    }
     for (size_t k = open; k <= close; ++k)
         if (buf_[k] != U'<' && buf_[k] != U'>')
             buf_[k] = kBlank;
@@ -341,7 +386,9 @@ void LineCutter::mazesAndOverlaps() {
         buf_[overlap] = kBlank;
     }
     out_.hasOverlap = !overlaps_.empty();
-    out_.mazes.resize(mazes_.size());
+    s_.mazeWords.resize(mazes_.size());
+    for (auto& list : s_.mazeWords)
+        list.clear();
 }
 
 // A piece of a linked word has "_" only at its ends, and only its last piece
@@ -411,7 +458,7 @@ size_t LineCutter::readPause(size_t colon) {
         pause.seconds = static_cast<int>(std::min<long long>(total, 1000000000));
     }
     if (legal) {
-        out_.pauses.push_back(pause);
+        s_.pauses.push_back(pause);
         if (sink_)
             sink_->pause(pause);
     } else {
@@ -425,8 +472,6 @@ size_t LineCutter::readPause(size_t colon) {
 void LineCutter::words() {
     std::u32string_view text(buf_);
     scratch_.clear();
-    if (!checkOnly_ && out_.words.capacity() == 0)
-        out_.words.reserve(countPieces());
     size_t linkPosition = 0;
     bool linkOpen = false;
     bool linkMalformed = false;
@@ -486,72 +531,36 @@ void LineCutter::words() {
     }
     if (linkOpen)
         closeLink(false);
-    out_.words.resize(wordCount_);
-}
-
-size_t LineCutter::countPieces() const {
-    size_t pieces = 0;
-    bool inPiece = false;
-    for (size_t i = 1; i < end_; ++i) {
-        bool space = buf_[i] <= U' ' && cls::isSpace(buf_[i]);
-        pieces += !space && !inPiece;
-        inPiece = !space;
-    }
-    return pieces;
-}
-
-// The next word of the utterance, reusing a record of the previous line when
-// there is one (its strings keep their memory).
-Word& LineCutter::nextWordSlot() {
-    if (wordCount_ == out_.words.size())
-        return out_.words.emplace_back();
-    Word& w = out_.words[wordCount_];
-    // Every field is reset here; a field added to Word must be added too.
-    static_assert(sizeof(Word) == 264, "reset the new field of Word in nextWordSlot");
-    w.text.clear();
-    w.root.clear();
-    w.boundMorphemes.clear();
-    w.omittedBoundMorphemes.clear();
-    w.clitics.clear();
-    w.omittedClitics.clear();
-    w.prefixes.clear();
-    w.rootIdentification.clear();
-    w.codes.clear();
-    w.maze = -1;
-    w.omitted = w.omittedBoundMorpheme = w.omittedClitic = w.idiosyncratic = false;
-    w.inMaze = w.inParenthetical = w.inOverlap = w.linked = w.unintelligible = false;
-    w.incomplete = false;
-    w.position = 0;
-    return w;
 }
 
 void LineCutter::addWord(std::u32string_view text, size_t position, bool linked, bool malformed) {
     if (malformed && sink_)
         report(Problem::MalformedLinkedWord, utf8(text));
     linked = linked || malformed;
-    if (checkOnly_) {
+    WordDraft& word = s_.word;
+    if (!store_) {
         if (!linked && isPlainWord(text))
             return;
-        *checkOnly_ = Word{};
-        splitWord(text, linked, *checkOnly_, sink_);
+        word.clear();
+        splitWord(text, linked, word, sink_, {}, s_.spare);
         return;
     }
-    Word& word = nextWordSlot();
+    word.clear();
     std::string_view bytes =
         linked || line_.empty() ? std::string_view() : line_.substr(position, text.size());
-    if (!splitWord(text, linked, word, sink_, bytes))
+    if (!splitWord(text, linked, word, sink_, bytes, s_.spare))
         return;
-    word.position = static_cast<int>(position);
-    word.linked = linked;
+    word.flags.linked = linked;
+    int index = static_cast<int>(s_.words.size());
     for (size_t m = 0; m < mazes_.size(); ++m) {
         if (position >= mazes_[m].first && position <= mazes_[m].second) {
-            word.inMaze = true;
-            word.maze = static_cast<int>(m);
-            out_.mazes[m].words.push_back(static_cast<int>(wordCount_));
+            word.flags.inMaze = true;
+            s_.mazeWords[m].push_back(index);
         }
     }
-    word.inOverlap = inSpans(overlaps_, position);
-    ++wordCount_;
+    word.flags.inOverlap = inSpans(overlaps_, position);
+    s_.words.push_back(store_->keepWord(word, stable_));
+    s_.positions.push_back(position);
 }
 
 // A code touches the text before it when no blank stands between them; a code
@@ -566,19 +575,17 @@ bool LineCutter::isAttachedCode(size_t open) const {
 // word, a code written right after that word ("falled[EO:fell].") is still the
 // word's; one set apart by a blank ("... today [EU].") belongs to the utterance.
 void LineCutter::attachCodes() {
-    const std::vector<Word>& words = out_.words;
+    const std::vector<size_t>& positions = s_.positions;
     size_t w = 0;
-    for (size_t c = 0; c < out_.codes.size(); ++c) {
+    for (size_t c = 0; c < s_.codes.size(); ++c) {
         size_t pos = codePositions_[c];
-        while (w < words.size() && static_cast<size_t>(words[w].position) < pos)
+        while (w < positions.size() && positions[w] < pos)
             ++w;
         int before = static_cast<int>(w) - 1;
-        out_.codes[c].precedingWord = before;
-        bool atEnd = w == words.size();
+        s_.codes[c].precedingWord = before;
+        bool atEnd = w == positions.size();
         bool onWord = before >= 0 && (!atEnd || codeAttached_[c]);
-        out_.codes[c].word = onWord ? before : -1;
-        if (onWord)
-            out_.words[before].codes.push_back(static_cast<int>(c));
+        s_.codes[c].word = onWord ? before : -1;
     }
 }
 
@@ -587,7 +594,7 @@ void LineCutter::attachCodes() {
 // is there.
 void LineCutter::classify() {
     int spoken = 0, marks = 0;
-    for (const Word& w : out_.words) {
+    for (const Word& w : s_.words) {
         if (w.inMaze || w.omitted)
             continue;
         ++spoken;
@@ -601,44 +608,60 @@ void LineCutter::classify() {
 
 } // namespace
 
+UtteranceSegmenter::UtteranceSegmenter() : scratch_(std::make_unique<Scratch>()) {}
+
+UtteranceSegmenter::~UtteranceSegmenter() = default;
+
+namespace {
+
+void startUtterance(Utterance& out, int lineNumber, int speakerGroup, const std::u32string& buf) {
+    out = Utterance();
+    out.speakerGroup = static_cast<std::int8_t>(speakerGroup);
+    out.line = lineNumber;
+    out.speakerId = buf.empty() ? 0 : buf[0];
+}
+
+} // namespace
+
 void UtteranceSegmenter::segment(std::string_view line, int lineNumber, int speakerGroup,
-                                 Utterance& out, ProblemSink* sink) {
-    run(line, lineNumber, speakerGroup, out, sink, true);
+                                 TranscriptStore& store, Utterance& out, ProblemSink* sink) {
+    Scratch& s = *scratch_;
+    s.clear();
+    decodeCodePoints(line, s.buf);
+    startUtterance(out, lineNumber, speakerGroup, s.buf);
+    LineCutter(line, s, out, sink, &store).run();
+    out.words = store.keep(s.words);
+    if (s.codes.empty() && s.mazeWords.empty() && s.parentheticals.empty() && s.pauses.empty() &&
+        s.parentheticalWords.empty())
+        return;
+    UtteranceExtras extras;
+    extras.codes = store.keep(s.codes);
+    std::vector<Maze> mazes;
+    mazes.reserve(s.mazeWords.size());
+    for (const std::vector<int>& words : s.mazeWords)
+        mazes.push_back(Maze{store.keep(words)});
+    extras.mazes = store.keep(mazes);
+    extras.parentheticals = store.keep(s.parentheticals);
+    extras.pauses = store.keep(s.pauses);
+    extras.parentheticalWords = store.keep(s.parentheticalWords);
+    out.extras = store.keepOne(extras);
 }
 
 void UtteranceSegmenter::check(std::string_view line, int lineNumber, int speakerGroup,
-                               Utterance& out, ProblemSink& sink) {
-    run(line, lineNumber, speakerGroup, out, &sink, false);
-}
-
-void UtteranceSegmenter::run(std::string_view line, int lineNumber, int speakerGroup,
-                             Utterance& out, ProblemSink* sink, bool keepWords) {
-    out.speakerGroup = speakerGroup;
-    out.line = lineNumber;
-    out.terminatorChar = U'.';
-    out.terminator = Terminator::Statement;
-    out.codes.clear();
-    out.mazes.clear();
-    out.parentheticals.clear();
-    out.parentheticalWords.clear();
-    out.pauses.clear();
-    out.hasComment = out.hasQuotation = out.hasOverlap = false;
-    out.hasTerminator = true;
-    out.intelligibility = Intelligibility::Intelligible;
-    out.nonverbal = false;
-
-    decodeCodePoints(line, buf_);
-    out.speakerId = buf_.empty() ? 0 : buf_[0];
-    if (!keepWords)
-        out.words.clear();
-    LineCutter(line, buf_, scratch_, out, sink, keepWords ? nullptr : &wordScratch_).run();
+                               ProblemSink& sink) {
+    Scratch& s = *scratch_;
+    s.clear();
+    decodeCodePoints(line, s.buf);
+    Utterance out;
+    startUtterance(out, lineNumber, speakerGroup, s.buf);
+    LineCutter(line, s, out, &sink, nullptr).run();
 }
 
 Utterance segmentUtterance(std::string_view line, int lineNumber, int speakerGroup,
-                           ProblemSink* sink) {
+                           TranscriptStore& store, ProblemSink* sink) {
     UtteranceSegmenter segmenter;
     Utterance u;
-    segmenter.segment(line, lineNumber, speakerGroup, u, sink);
+    segmenter.segment(store.keepText(line), lineNumber, speakerGroup, store, u, sink);
     return u;
 }
 

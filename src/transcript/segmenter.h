@@ -4,12 +4,14 @@
 // code with a problem sink, so the notation's rules live in one place.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 
 #include "transcript/problems.h"
 #include "transcript/segmented_transcript.h"
 #include "transcript/tran_line.h"
+#include "transcript/transcript_store.h"
 #include "transcript/utterance.h"
 
 namespace tavi {
@@ -27,38 +29,43 @@ public:
     virtual void pause(const Pause&) {}
 };
 
-// Cuts one utterance line. `speakerGroup` is the group of its identifier (the
-// caller looks it up; 2 when unknown). Problems go to `sink` when given.
+// Cuts one utterance line, keeping its pieces in `store` (the line too).
+// `speakerGroup` is the group of its identifier (the caller looks it up; 2
+// when unknown). Problems go to `sink` when given.
 Utterance segmentUtterance(std::string_view line, int lineNumber, int speakerGroup,
-                           ProblemSink* sink = nullptr);
+                           TranscriptStore& store, ProblemSink* sink = nullptr);
 
 // The same, looking the identifier up in `speakers` (unknown identifiers: group 2).
-Utterance segmentUtterance(std::string_view line, int lineNumber, const SpeakerTable& speakers);
+Utterance segmentUtterance(std::string_view line, int lineNumber, const SpeakerTable& speakers,
+                           TranscriptStore& store);
 
 // Cuts a whole transcript: the speaker table, header lines, utterances, timing
 // and pause lines and sections, in line order.
 SegmentedTranscript segmentTranscript(const TranLines& lines);
 
 // Reusable segmenter: keeps its scratch buffers between lines, so cutting many
-// lines allocates little. `out` is overwritten.
+// lines allocates little.
 class UtteranceSegmenter {
 public:
-    void segment(std::string_view line, int lineNumber, int speakerGroup, Utterance& out,
-                 ProblemSink* sink = nullptr);
+    UtteranceSegmenter();
+    ~UtteranceSegmenter();
+    UtteranceSegmenter(const UtteranceSegmenter&) = delete;
+    UtteranceSegmenter& operator=(const UtteranceSegmenter&) = delete;
 
-    // Checking only: the same rules and problems, but the words are checked
-    // without being kept (`out.words` stays empty), which makes checking a
-    // large transcript much faster.
-    void check(std::string_view line, int lineNumber, int speakerGroup, Utterance& out,
-               ProblemSink& sink);
+    // Cuts `line` into `out`, keeping its words, codes and other pieces in
+    // `store`. Views into `line` are kept as they are: the line must live as
+    // long as the store (e.g. be kept in it).
+    void segment(std::string_view line, int lineNumber, int speakerGroup, TranscriptStore& store,
+                 Utterance& out, ProblemSink* sink = nullptr);
+
+    // Checking only: the same rules and problems, but nothing is kept, which
+    // makes checking a large transcript much faster.
+    void check(std::string_view line, int lineNumber, int speakerGroup, ProblemSink& sink);
+
+    struct Scratch;
 
 private:
-    void run(std::string_view line, int lineNumber, int speakerGroup, Utterance& out,
-             ProblemSink* sink, bool keepWords);
-
-    std::u32string buf_;
-    std::u32string scratch_;
-    Word wordScratch_;
+    std::unique_ptr<Scratch> scratch_;
 };
 
 } // namespace tavi

@@ -3,13 +3,15 @@
 // notation's pieces already separated and flagged.
 #pragma once
 
-#include <string>
-#include <vector>
+#include <array>
+#include <cstdint>
+#include <span>
+#include <string_view>
 
 namespace tavi {
 
 // Terminator kinds, numbered as the notation numbers them.
-enum class Terminator : int {
+enum class Terminator : std::int8_t {
     Statement = 0,   // "."
     Exclamation = 1, // "!"
     Question = 2,    // "?" or U+061F
@@ -18,44 +20,124 @@ enum class Terminator : int {
     Interrupted = 5, // "^"
 };
 
-enum class Intelligibility { Intelligible, Partly, Unintelligible };
+enum class Intelligibility : std::int8_t { Intelligible, Partly, Unintelligible };
 
-struct Word {
-    std::string text; // the word as written, marks included; linked pieces joined
-    std::string root; // text before the first "/" or "+", without leading "*" or "%"
-    std::vector<std::string> boundMorphemes;        // present endings, without "/": "s", "ed"
-    std::vector<std::string> omittedBoundMorphemes; // endings written "/*s", without "/*"
-    std::vector<std::string> clitics;               // present clitics, without "+"
-    std::vector<std::string> omittedClitics;        // clitics written "+*", without "+*"
-    std::vector<std::string> prefixes;              // bound prefixes written with "\"
-    std::string rootIdentification;                 // the root after "|", empty when none
-    std::vector<int> codes; // indices into Utterance::codes of the codes placed on this word
-    int maze = -1;          // index into Utterance::mazes when the word is in a maze
+// The pieces of a word other than its root, for the words that have any
+// (most words are plain): bound prefixes, bound morphemes, clitics and the
+// root identification, in one run of views kept by the transcript's store.
+struct WordParts {
+    const std::string_view* pieces = nullptr; // prefixes, bound morphemes, omitted bound
+                                              // morphemes, clitics, omitted clitics, in turn
+    std::uint32_t rootStart = 0;              // the root within the word's text
+    std::uint32_t rootSize = 0;
+    std::array<std::uint16_t, 5> counts{}; // of each kind of piece, in the order above
+    bool omittedRoot = false;              // "*" alone: the root reads "*@"
+    bool hasRootIdentification = false;    // the last piece is the root after "|"
 
-    bool omitted = false;              // "*the"
-    bool omittedBoundMorpheme = false; // has "/*..."
-    bool omittedClitic = false;        // has "+*..."
-    bool idiosyncratic = false;        // "%form"
-    bool inMaze = false;               // inside "( )"
-    bool inParenthetical = false;      // inside "(( ))" (such words are not in `words`)
-    bool inOverlap = false;            // inside "< >"
-    bool linked = false;               // pieces joined with "_"
-    bool unintelligible = false;       // "X", "XX" or "XXX" (any case), maybe with endings
-    bool incomplete = false;           // a part word ending in "*", e.g. "ba*"
-    int position = 0;                  // code-point offset of the word in its line
+    std::span<const std::string_view> kind(int k) const {
+        size_t from = 0;
+        for (int i = 0; i < k; ++i)
+            from += counts[i];
+        return {pieces + from, counts[k]};
+    }
+};
+
+// A word: a view of its text (kept alive by the transcript's store or text)
+// and its flags as bits. A word that is not plain has a parts record, which
+// the store places right before the word's text.
+class Word {
+    const char* text_ = "";
+    std::uint32_t size_ = 0;
+
+public:
+    Word()
+        : omitted(false), omittedBoundMorpheme(false), omittedClitic(false), idiosyncratic(false),
+          inMaze(false), inParenthetical(false), inOverlap(false), linked(false),
+          unintelligible(false), incomplete(false), parted_(false) {}
+
+    // The word as written, marks included; linked pieces joined.
+    std::string_view text() const { return {text_, size_}; }
+    // Text before the first "/" or "+", without leading "*" or "%".
+    std::string_view root() const {
+        const WordParts* p = parts();
+        if (!p)
+            return text();
+        if (p->omittedRoot)
+            return "*@";
+        return text().substr(p->rootStart, p->rootSize);
+    }
+    // Present endings, without "/": "s", "ed".
+    std::span<const std::string_view> boundMorphemes() const { return kind(1); }
+    // Endings written "/*s", without "/*".
+    std::span<const std::string_view> omittedBoundMorphemes() const { return kind(2); }
+    // Present clitics, without "+".
+    std::span<const std::string_view> clitics() const { return kind(3); }
+    // Clitics written "+*", without "+*".
+    std::span<const std::string_view> omittedClitics() const { return kind(4); }
+    // Bound prefixes written with "\\".
+    std::span<const std::string_view> prefixes() const { return kind(0); }
+    // The root after "|", empty when none.
+    std::string_view rootIdentification() const {
+        const WordParts* p = parts();
+        if (!p || !p->hasRootIdentification)
+            return {};
+        size_t n = 0;
+        for (std::uint16_t c : p->counts)
+            n += c;
+        return p->pieces[n];
+    }
+    // Null for a plain word.
+    const WordParts* parts() const {
+        return parted_ ? reinterpret_cast<const WordParts*>(text_ - sizeof(WordParts)) : nullptr;
+    }
+
+    // Sets the text of a plain word (its root is its text); it must outlive the word.
+    void assignPlain(std::string_view text) {
+        text_ = text.data();
+        size_ = static_cast<std::uint32_t>(text.size());
+        parted_ = false;
+    }
+    // Sets the text of a word whose parts record stands right before the
+    // text (as TranscriptStore::keepWord places it).
+    void assignParted(std::string_view text) {
+        assignPlain(text);
+        parted_ = true;
+    }
+
+    bool omitted : 1;              // "*the"
+    bool omittedBoundMorpheme : 1; // has "/*..."
+    bool omittedClitic : 1;        // has "+*..."
+    bool idiosyncratic : 1;        // "%form"
+    bool inMaze : 1;               // inside "( )"
+    bool inParenthetical : 1;      // inside "(( ))" (such words are not in `words`)
+    bool inOverlap : 1;            // inside "< >"
+    bool linked : 1;               // pieces joined with "_"
+    bool unintelligible : 1;       // "X", "XX" or "XXX" (any case), maybe with endings
+    bool incomplete : 1;           // a part word ending in "*", e.g. "ba*"
 
     // A word that counts: main body, not omitted, not an unintelligible mark.
     bool isMainBodyWord() const { return !inMaze && !omitted && !unintelligible; }
+
+private:
+    bool parted_ : 1; // a parts record stands right before the text
+
+    std::span<const std::string_view> kind(int k) const {
+        const WordParts* p = parts();
+        return p ? p->kind(k) : std::span<const std::string_view>();
+    }
 };
 
+static_assert(sizeof(Word) == 16, "a word record is kept for every word of a transcript");
+static_assert(sizeof(WordParts) % alignof(WordParts) == 0);
+
 struct Code {
-    std::string text;       // between the brackets, e.g. "EW:went"
+    std::string_view text;  // between the brackets, e.g. "EW:went"
     int word = -1;          // index into Utterance::words of the word it follows; -1: the utterance
     int precedingWord = -1; // the word written before it, also for a code at the end; -1: none
 };
 
 struct Maze {
-    std::vector<int> words; // indices into Utterance::words, in order
+    std::span<const int> words; // indices into Utterance::words, in order
 };
 
 struct Pause {
@@ -63,27 +145,47 @@ struct Pause {
     int seconds = 0; // for a timed pause
 };
 
+// What an utterance has besides its words, for the utterances that have any.
+struct UtteranceExtras {
+    std::span<const Code> codes;
+    std::span<const Maze> mazes;
+    std::span<const std::string_view> parentheticals;
+    std::span<const Pause> pauses;
+    std::span<const Word> parentheticalWords;
+};
+
+// An utterance record; its words and other pieces are kept by the transcript's
+// store (see TranscriptStore), the record holds views of them.
 struct Utterance {
-    int speakerGroup = 0;   // 0 and 1: the main speakers; 2: every other speaker
-    char32_t speakerId = 0; // the identifier letter as written
+    std::span<const Word> words; // every word in order: main body and maze words
+    const UtteranceExtras* extras = nullptr;
     int line = 0;           // 1-based transcript line
     int index = 0;          // 0-based position among all utterances of the transcript
+    char32_t speakerId = 0; // the identifier letter as written
     char32_t terminatorChar = U'.';
+    std::int8_t speakerGroup = 0; // 0 and 1: the main speakers; 2: every other speaker
     Terminator terminator = Terminator::Statement;
-
-    std::vector<Word> words; // every word in order: main body and maze words
-    std::vector<Code> codes; // every code in order
-    std::vector<Maze> mazes;
-    std::vector<std::string> parentheticals; // inner text of each "(( ))"
-    std::vector<Pause> pauses;               // within-utterance pauses
+    Intelligibility intelligibility = Intelligibility::Intelligible;
     bool hasComment = false;
     bool hasQuotation = false;
     bool hasOverlap = false;
-    bool hasTerminator = true;            // false when the line has no end-of-utterance punctuation
-    std::vector<Word> parentheticalWords; // the words of the "(( ))" remarks, inParenthetical
+    bool hasTerminator = true; // false when the line has no end-of-utterance punctuation
+    bool nonverbal = false;    // no main-body words but a comment, e.g. "C {nods}."
 
-    Intelligibility intelligibility = Intelligibility::Intelligible;
-    bool nonverbal = false; // no main-body words but a comment, e.g. "C {nods}."
+    std::span<const Code> codes() const { return extras ? extras->codes : std::span<const Code>(); }
+    std::span<const Maze> mazes() const { return extras ? extras->mazes : std::span<const Maze>(); }
+    // Inner text of each "(( ))".
+    std::span<const std::string_view> parentheticals() const {
+        return extras ? extras->parentheticals : std::span<const std::string_view>();
+    }
+    // Within-utterance pauses.
+    std::span<const Pause> pauses() const {
+        return extras ? extras->pauses : std::span<const Pause>();
+    }
+    // The words of the "(( ))" remarks, inParenthetical.
+    std::span<const Word> parentheticalWords() const {
+        return extras ? extras->parentheticalWords : std::span<const Word>();
+    }
 };
 
 } // namespace tavi

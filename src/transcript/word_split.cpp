@@ -12,11 +12,23 @@ namespace tavi {
 
 namespace {
 
+// True when `bytes` is `text` written in ASCII: only then do the word's views
+// point into the bytes (a joined linked word is not a piece of its line).
+bool sameText(std::string_view bytes, std::u32string_view text) {
+    if (bytes.size() != text.size())
+        return false;
+    for (size_t i = 0; i < text.size(); ++i)
+        if (static_cast<unsigned char>(bytes[i]) != text[i])
+            return false;
+    return true;
+}
+
 class WordSplitter {
 public:
-    WordSplitter(std::u32string_view text, bool linked, Word& word, ProblemSink* sink,
-                 std::string_view bytes)
-        : w_(text), bytes_(bytes), linked_(linked), word_(word), sink_(sink) {}
+    WordSplitter(std::u32string_view text, bool linked, WordDraft& word, ProblemSink* sink,
+                 std::string_view bytes, std::string& spare)
+        : w_(text), bytes_(sameText(bytes, text) ? bytes : std::string_view()), linked_(linked),
+          word_(word), flags_(word.flags), sink_(sink), spare_(spare) {}
     bool run();
 
 private:
@@ -32,12 +44,37 @@ private:
     bool legalEnding(std::u32string_view ending) const;
     bool legalRoot(std::u32string_view root) const;
 
+    // The UTF-8 view of w_[from, to).
+    std::string_view view(size_t from, size_t to) const;
+    std::string_view view(std::u32string_view part) const {
+        size_t from = static_cast<size_t>(part.data() - w_.data());
+        return view(from, from + part.size());
+    }
+
     std::u32string_view w_;
-    std::string_view bytes_; // w_ as UTF-8, or empty
+    std::string_view bytes_; // w_ as UTF-8 (all ASCII), or empty
+    std::string_view text_;  // w_ as UTF-8, the word's text
     bool linked_;
-    Word& word_;
+    WordDraft& word_;
+    Word& flags_;
     ProblemSink* sink_;
+    std::string& spare_;
 };
+
+// Offset in UTF-8 bytes of w_[k].
+size_t utf8Offset(std::u32string_view w, size_t k) {
+    size_t n = 0;
+    for (size_t i = 0; i < k; ++i)
+        n += w[i] < 0x80 ? 1 : w[i] < 0x800 ? 2 : w[i] < 0x10000 ? 3 : 4;
+    return n;
+}
+
+std::string_view WordSplitter::view(size_t from, size_t to) const {
+    if (text_.size() == w_.size())
+        return text_.substr(from, to - from);
+    size_t a = utf8Offset(w_, from);
+    return text_.substr(a, utf8Offset(w_, to) - a);
+}
 
 bool WordSplitter::run() {
     if (plainWord())
@@ -45,10 +82,18 @@ bool WordSplitter::run() {
     if (w_.starts_with(U'+')) {
         report(Problem::UnboundCliticMark);
         w_.remove_prefix(1);
+        if (!bytes_.empty())
+            bytes_.remove_prefix(1);
         if (w_.empty())
             return false;
     }
-    assignUtf8(word_.text, w_);
+    if (!bytes_.empty()) {
+        text_ = bytes_;
+    } else {
+        assignUtf8(spare_, w_);
+        text_ = spare_;
+    }
+    word_.text = text_;
     checkRootIdentification();
     checkMarks();
     size_t mark = w_.find_first_of(U"/+");
@@ -64,12 +109,14 @@ bool WordSplitter::run() {
 bool WordSplitter::plainWord() {
     if (!isPlainWord(w_))
         return false;
-    if (bytes_.empty())
-        assignUtf8(word_.text, w_);
-    else
-        word_.text.assign(bytes_);
-    word_.root.assign(word_.text);
-    word_.unintelligible = isUnintelligibleMark(w_);
+    if (!bytes_.empty()) {
+        text_ = bytes_;
+    } else {
+        assignUtf8(spare_, w_);
+        text_ = spare_;
+    }
+    word_.text = word_.root = text_;
+    flags_.unintelligible = isUnintelligibleMark(w_);
     return true;
 }
 
@@ -88,7 +135,7 @@ void WordSplitter::checkRootIdentification() {
               });
         if (!bad && root.starts_with(U'%'))
             root.remove_prefix(1);
-        word_.rootIdentification = utf8(root);
+        word_.rootIdentification = view(root);
     }
     if (bad)
         report(Problem::RootIdentificationFormat);
@@ -108,7 +155,7 @@ void WordSplitter::checkMarks() {
             else if (w_[0] == U'*')
                 report(Problem::IncompleteWordStar);
             else if (after == 0)
-                word_.incomplete = true;
+                flags_.incomplete = true;
         } else if (c == U'%' && before != U'|') {
             report(Problem::MisplacedPercent);
         }
@@ -121,19 +168,19 @@ void WordSplitter::splitStem(std::u32string_view stem, char32_t nextMark) {
         return;
     }
     if (stem.starts_with(U'*')) {
-        word_.omitted = true;
+        flags_.omitted = true;
         stem.remove_prefix(1);
         if (stem.empty()) {
             if (nextMark == U'+')
                 report(Problem::OmittedCliticForm);
             else
                 report(Problem::OmittedWordForm);
-            word_.root = "*@";
+            word_.omittedRoot = true;
             return;
         }
     }
     if (stem.starts_with(U'%')) {
-        word_.idiosyncratic = true;
+        flags_.idiosyncratic = true;
         stem.remove_prefix(1);
         if (stem.empty()) {
             report(Problem::IdiosyncraticWithoutWord);
@@ -152,7 +199,7 @@ void WordSplitter::splitStem(std::u32string_view stem, char32_t nextMark) {
             else if (!legalEnding(prefix))
                 report(Problem::IllegalPrefix);
             else
-                word_.prefixes.push_back(utf8(prefix));
+                word_.pieces[0].push_back(view(prefix));
             if (cut == std::u32string_view::npos)
                 break;
             prefixes.remove_prefix(cut + 1);
@@ -160,11 +207,11 @@ void WordSplitter::splitStem(std::u32string_view stem, char32_t nextMark) {
         if (slash + 1 == stem.size())
             report(Problem::MissingRoot);
     }
-    assignUtf8(word_.root, stem);
+    word_.root = view(stem);
     std::u32string_view root = slash == std::u32string_view::npos ? stem : stem.substr(slash + 1);
     if (!root.empty() && !legalRoot(root))
         report(Problem::IllegalWord);
-    word_.unintelligible = !word_.omitted && isUnintelligibleMark(root);
+    flags_.unintelligible = !flags_.omitted && isUnintelligibleMark(root);
 }
 
 // Each "/" ending and "+" clitic; "/*" and "+*" mark omitted ones.
@@ -193,12 +240,11 @@ void WordSplitter::splitEndings(std::u32string_view rest) {
                 report(Problem::IllegalClitic);
             continue;
         }
-        std::vector<std::string>& list =
-            bound ? (omitted ? word_.omittedBoundMorphemes : word_.boundMorphemes)
-                  : (omitted ? word_.omittedClitics : word_.clitics);
-        list.push_back(utf8(ending));
-        if (omitted)
-            (bound ? word_.omittedBoundMorpheme : word_.omittedClitic) = true;
+        word_.pieces[bound ? (omitted ? 2 : 1) : (omitted ? 4 : 3)].push_back(view(ending));
+        if (omitted && bound)
+            flags_.omittedBoundMorpheme = true;
+        else if (omitted)
+            flags_.omittedClitic = true;
     }
 }
 
@@ -248,13 +294,14 @@ bool isUnintelligibleMark(std::u32string_view root) {
     return std::all_of(root.begin(), root.end(), [](char32_t c) { return c == U'x' || c == U'X'; });
 }
 
-bool splitWord(std::u32string_view text, bool linked, Word& word, ProblemSink* sink,
-               std::string_view bytes) {
-    return WordSplitter(text, linked, word, sink, bytes).run();
+bool splitWord(std::u32string_view text, bool linked, WordDraft& word, ProblemSink* sink,
+               std::string_view bytes, std::string& spare) {
+    return WordSplitter(text, linked, word, sink, bytes, spare).run();
 }
 
-std::vector<Word> splitRemarkWords(std::u32string_view inner) {
-    std::vector<Word> words;
+void splitRemarkWords(std::u32string_view inner, TranscriptStore& store, std::vector<Word>& out) {
+    WordDraft draft;
+    std::string spare;
     size_t i = 0;
     while (i < inner.size()) {
         auto isBreak = [](char32_t c) {
@@ -267,14 +314,12 @@ std::vector<Word> splitRemarkWords(std::u32string_view inner) {
             ++i;
         if (i == start)
             continue;
-        Word w;
-        if (splitWord(inner.substr(start, i - start), false, w, nullptr)) {
-            w.inParenthetical = true;
-            w.position = -1;
-            words.push_back(std::move(w));
+        draft.clear();
+        if (splitWord(inner.substr(start, i - start), false, draft, nullptr, {}, spare)) {
+            draft.flags.inParenthetical = true;
+            out.push_back(store.keepWord(draft));
         }
     }
-    return words;
 }
 
 } // namespace tavi

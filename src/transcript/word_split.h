@@ -3,27 +3,30 @@
 // Problems go to the sink, so the checker and segmentation share these rules.
 #pragma once
 
+#include <string>
 #include <string_view>
 #include <vector>
 
 #include "transcript/segmenter.h"
+#include "transcript/transcript_store.h"
 #include "transcript/utterance.h"
 
 namespace tavi {
 
-// Splits `text` (a word or joined linked word, without blanks) into `word`.
-// `bytes` may hold the same word as UTF-8 (it saves a conversion). False when
-// nothing of it is a word (a lone "+").
-bool splitWord(std::u32string_view text, bool linked, Word& word, ProblemSink* sink,
-               std::string_view bytes = {});
+// Splits `text` (a word or joined linked word, without blanks) into `word`,
+// whose views point into `bytes` when it holds the same word as UTF-8, else
+// into `spare` (overwritten). False when nothing of it is a word (a lone "+").
+bool splitWord(std::u32string_view text, bool linked, WordDraft& word, ProblemSink* sink,
+               std::string_view bytes, std::string& spare);
 
 // Only the checks of splitWord, for a plain word without filling the record.
 // True when the word is plain (only word characters, a letter or digit):
 // such a word has no problem, and the full split can be skipped.
 bool isPlainWord(std::u32string_view text);
 
-// The words of a parenthetical remark's inner text, flagged inParenthetical.
-std::vector<Word> splitRemarkWords(std::u32string_view inner);
+// The words of a parenthetical remark's inner text, flagged inParenthetical,
+// kept in `store` and appended to `out`.
+void splitRemarkWords(std::u32string_view inner, TranscriptStore& store, std::vector<Word>& out);
 
 // True for "X", "XX" and "XXX" in any case: an unintelligible mark.
 bool isUnintelligibleMark(std::u32string_view root);

@@ -68,7 +68,8 @@ TEST(GrammaticalCategories, WordCategoriesFromDictionaryThenFromForm) {
     d.insert("run [GC:VERB] [GC:NOUN]");
     d.insert("I [GC:PPRON]");
     auto cats = [&](std::string_view token, const GcDictionary* dict) {
-        return wordCategories(test::makeWord(token), dict);
+        TranscriptStore store;
+        return wordCategories(test::makeWord(token, store), dict);
     };
     EXPECT_EQ(cats("run", &d), (std::vector<int>{GcVerb, GcNoun}));
     EXPECT_EQ(cats("Run", &d), (std::vector<int>{GcVerb, GcNoun})); // lower-case retry

@@ -50,47 +50,51 @@ bool isUnintelligibleMark(std::string_view root) {
 }
 
 // Pieces of a word after its root, each starting with "/" or "+".
-void addEndings(Word& w, std::string_view rest) {
+void addEndings(WordDraft& w, std::string_view rest) {
     while (!rest.empty()) {
         char mark = rest[0];
         size_t next = rest.find_first_of("/+", 1);
-        std::string piece(
-            rest.substr(1, next == std::string_view::npos ? rest.size() - 1 : next - 1));
+        std::string_view piece =
+            rest.substr(1, next == std::string_view::npos ? rest.size() - 1 : next - 1);
         bool omitted = !piece.empty() && piece[0] == '*';
         if (omitted)
-            piece.erase(0, 1);
-        if (mark == '/')
-            (omitted ? w.omittedBoundMorphemes : w.boundMorphemes).push_back(piece);
-        else
-            (omitted ? w.omittedClitics : w.clitics).push_back(piece);
+            piece.remove_prefix(1);
+        w.pieces[mark == '/' ? (omitted ? 2 : 1) : (omitted ? 4 : 3)].push_back(piece);
         rest = next == std::string_view::npos ? std::string_view() : rest.substr(next);
     }
-    w.omittedBoundMorpheme = !w.omittedBoundMorphemes.empty();
-    w.omittedClitic = !w.omittedClitics.empty();
+    w.flags.omittedBoundMorpheme = !w.pieces[2].empty();
+    w.flags.omittedClitic = !w.pieces[4].empty();
 }
 
 } // namespace
 
-Word makeWord(std::string_view token) {
-    Word w;
-    w.text = std::string(token);
+Word makeWord(std::string_view token, TranscriptStore& store) {
+    token = store.keepText(token);
+    WordDraft w;
+    w.text = token;
     if (!token.empty() && token[0] == '*') {
-        w.omitted = true;
+        w.flags.omitted = true;
         token.remove_prefix(1);
     }
     size_t end = token.find_first_of("/+");
-    w.root = std::string(token.substr(0, end));
-    w.unintelligible = isUnintelligibleMark(w.root);
-    w.incomplete = w.root.size() > 1 && w.root.back() == '*';
-    w.linked = w.root.find('_') != std::string::npos;
+    w.root = token.substr(0, end);
+    w.flags.unintelligible = isUnintelligibleMark(w.root);
+    w.flags.incomplete = w.root.size() > 1 && w.root.back() == '*';
+    w.flags.linked = w.root.find('_') != std::string::npos;
     if (end != std::string_view::npos)
         addEndings(w, token.substr(end));
-    return w;
+    return store.keepWord(w, token);
 }
 
 TranscriptBuilder& TranscriptBuilder::utt(int group, std::string_view text) {
+    TranscriptStore& store = *t_.store;
     Utterance u;
-    u.speakerGroup = group;
+    std::vector<Word> words, parentheticalWords;
+    std::vector<Code> codes;
+    std::vector<std::vector<int>> mazes;
+    std::vector<std::string_view> parentheticals;
+    std::vector<Pause> pauses;
+    u.speakerGroup = static_cast<std::int8_t>(group);
     u.speakerId = group == 0 ? U'C' : group == 1 ? U'E' : U'O';
     u.line = nextLine();
     u.index = static_cast<int>(t_.utterances.size());
@@ -105,25 +109,23 @@ TranscriptBuilder& TranscriptBuilder::utt(int group, std::string_view text) {
     for (size_t k = 0; k < tokens.size(); ++k) {
         std::string tok = tokens[k];
         if (tok.rfind("((", 0) == 0) {
-            u.parentheticals.push_back(tok.substr(2, tok.size() - 4));
-            for (const std::string& inner : split(u.parentheticals.back() + " .")) {
+            parentheticals.push_back(store.keepText(tok.substr(2, tok.size() - 4)));
+            for (const std::string& inner : split(std::string(parentheticals.back()) + " .")) {
                 if (inner == ".")
                     continue;
-                u.parentheticalWords.push_back(makeWord(inner));
-                u.parentheticalWords.back().inParenthetical = true;
+                parentheticalWords.push_back(makeWord(inner, store));
+                parentheticalWords.back().inParenthetical = true;
             }
             continue;
         }
         if (tok[0] == '[') {
-            u.codes.push_back({tok.substr(1, tok.size() - 2), -1});
-            if (!u.words.empty() && k + 1 < tokens.size()) {
-                u.codes.back().word = static_cast<int>(u.words.size()) - 1;
-                u.words.back().codes.push_back(static_cast<int>(u.codes.size()) - 1);
-            }
+            codes.push_back({store.keepText(tok.substr(1, tok.size() - 2)), -1});
+            if (!words.empty() && k + 1 < tokens.size())
+                codes.back().word = static_cast<int>(words.size()) - 1;
             continue;
         }
         if (tok[0] == ':') {
-            u.pauses.push_back({tok.size() > 1, tok.size() > 1 ? std::stoi(tok.substr(1)) : 0});
+            pauses.push_back({tok.size() > 1, tok.size() > 1 ? std::stoi(tok.substr(1)) : 0});
             continue;
         }
         if (tok[0] == '{') {
@@ -138,8 +140,8 @@ TranscriptBuilder& TranscriptBuilder::utt(int group, std::string_view text) {
         bool opensOverlap = tok[0] == '<', closesOverlap = tok.back() == '>';
         if (opensMaze) {
             tok.erase(0, 1);
-            u.mazes.emplace_back();
-            maze = static_cast<int>(u.mazes.size()) - 1;
+            mazes.emplace_back();
+            maze = static_cast<int>(mazes.size()) - 1;
         }
         if (opensOverlap) {
             tok.erase(0, 1);
@@ -147,17 +149,30 @@ TranscriptBuilder& TranscriptBuilder::utt(int group, std::string_view text) {
         }
         if (closesMaze || closesOverlap)
             tok.pop_back();
-        Word w = makeWord(tok);
+        Word w = makeWord(tok, store);
         w.inMaze = maze >= 0;
-        w.maze = maze;
         w.inOverlap = overlap;
         if (maze >= 0)
-            u.mazes[maze].words.push_back(static_cast<int>(u.words.size()));
-        u.words.push_back(std::move(w));
+            mazes[maze].push_back(static_cast<int>(words.size()));
+        words.push_back(w);
         if (closesMaze)
             maze = -1;
         if (closesOverlap)
             overlap = false;
+    }
+    u.words = store.keep(words);
+    if (!codes.empty() || !mazes.empty() || !parentheticals.empty() || !pauses.empty() ||
+        !parentheticalWords.empty()) {
+        UtteranceExtras extras;
+        extras.codes = store.keep(codes);
+        std::vector<Maze> kept;
+        for (const std::vector<int>& m : mazes)
+            kept.push_back(Maze{store.keep(m)});
+        extras.mazes = store.keep(kept);
+        extras.parentheticals = store.keep(parentheticals);
+        extras.pauses = store.keep(pauses);
+        extras.parentheticalWords = store.keep(parentheticalWords);
+        u.extras = store.keepOne(extras);
     }
     int body = 0, marks = 0;
     for (const Word& w : u.words) {
@@ -169,28 +184,36 @@ TranscriptBuilder& TranscriptBuilder::utt(int group, std::string_view text) {
                         : body == 0 ? Intelligibility::Unintelligible
                                     : Intelligibility::Partly;
     u.nonverbal = body == 0 && marks == 0 && u.hasComment;
-    t_.entries.push_back({EntryKind::Utterance, u.line, u.index, -1, 0, {}});
+    t_.entries.push_back({EntryKind::Utterance, 0, u.line, u.index, -1, {}});
     t_.utterances.push_back(std::move(u));
     return *this;
 }
 
+std::span<const std::string_view>
+TranscriptBuilder::keepCodes(const std::vector<std::string>& codes) {
+    std::vector<std::string_view> kept;
+    for (const std::string& c : codes)
+        kept.push_back(t_.store->keepText(c));
+    return t_.store->keep(kept);
+}
+
 TranscriptBuilder& TranscriptBuilder::timing(int seconds, std::vector<std::string> codes) {
-    t_.entries.push_back({EntryKind::Timing, nextLine(), -1, seconds, 0, std::move(codes)});
+    t_.entries.push_back({EntryKind::Timing, 0, nextLine(), -1, seconds, keepCodes(codes)});
     return *this;
 }
 
 TranscriptBuilder& TranscriptBuilder::pause(int seconds, std::vector<std::string> codes) {
-    t_.entries.push_back({EntryKind::Pause, nextLine(), -1, seconds, 0, std::move(codes)});
+    t_.entries.push_back({EntryKind::Pause, 0, nextLine(), -1, seconds, keepCodes(codes)});
     return *this;
 }
 
 TranscriptBuilder& TranscriptBuilder::begin() {
-    t_.entries.push_back({EntryKind::Begin, nextLine(), -1, -1, 0, {}});
+    t_.entries.push_back({EntryKind::Begin, 0, nextLine(), -1, -1, {}});
     return *this;
 }
 
 TranscriptBuilder& TranscriptBuilder::end() {
-    t_.entries.push_back({EntryKind::End, nextLine(), -1, -1, 0, {}});
+    t_.entries.push_back({EntryKind::End, 0, nextLine(), -1, -1, {}});
     return *this;
 }
 

@@ -39,11 +39,12 @@ public:
 
 private:
     int nextLine() { return ++line_; }
+    std::span<const std::string_view> keepCodes(const std::vector<std::string>& codes);
     SegmentedTranscript t_;
     int line_ = 1; // line 1 is the "$" line
 };
 
-// Splits one shorthand word ("dog/s+'s") into a Word.
-Word makeWord(std::string_view token);
+// Splits one shorthand word ("dog/s+'s") into a Word kept in `store`.
+Word makeWord(std::string_view token, TranscriptStore& store);
 
 } // namespace tavi::test

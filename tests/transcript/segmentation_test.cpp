@@ -8,85 +8,106 @@
 namespace tavi {
 namespace {
 
-Utterance cut(std::string_view line) {
-    return segmentUtterance(line, 7, 0);
-}
+// An utterance with the store that keeps its pieces.
+struct Cut : Utterance {
+    std::shared_ptr<TranscriptStore> store;
+};
 
-std::vector<std::string> roots(const Utterance& u) {
-    std::vector<std::string> out;
-    for (const Word& w : u.words)
-        out.push_back(w.root);
-    return out;
+Cut cut(std::string_view line) {
+    Cut c;
+    c.store = std::make_shared<TranscriptStore>();
+    static_cast<Utterance&>(c) = segmentUtterance(line, 7, 0, *c.store);
+    return c;
 }
 
 using Strings = std::vector<std::string>;
 
+Strings strings(std::span<const std::string_view> views) {
+    return Strings(views.begin(), views.end());
+}
+
+Strings roots(const Utterance& u) {
+    Strings out;
+    for (const Word& w : u.words)
+        out.emplace_back(w.root());
+    return out;
+}
+
+// The codes placed on word `w`.
+std::vector<int> codesOn(const Utterance& u, int w) {
+    std::vector<int> out;
+    for (size_t c = 0; c < u.codes().size(); ++c)
+        if (u.codes()[c].word == w)
+            out.push_back(static_cast<int>(c));
+    return out;
+}
+
 TEST(Segmentation, WordsMorphemesAndClitics) {
-    Utterance u = cut("C the dog/s ran/*ed and he+'s *the %goed un\\tie she+*s.");
+    Cut u = cut("C the dog/s ran/*ed and he+'s *the %goed un\\tie she+*s.");
     EXPECT_EQ(roots(u),
               (Strings{"the", "dog", "ran", "and", "he", "the", "goed", "un\\tie", "she"}));
-    EXPECT_EQ(u.words[1].boundMorphemes, Strings{"s"});
-    EXPECT_EQ(u.words[2].omittedBoundMorphemes, Strings{"ed"});
+    EXPECT_EQ(strings(u.words[1].boundMorphemes()), Strings{"s"});
+    EXPECT_EQ(strings(u.words[2].omittedBoundMorphemes()), Strings{"ed"});
     EXPECT_TRUE(u.words[2].omittedBoundMorpheme);
-    EXPECT_EQ(u.words[4].clitics, Strings{"'s"});
+    EXPECT_EQ(strings(u.words[4].clitics()), Strings{"'s"});
     EXPECT_TRUE(u.words[5].omitted);
     EXPECT_FALSE(u.words[5].isMainBodyWord());
     EXPECT_TRUE(u.words[6].idiosyncratic);
-    EXPECT_EQ(u.words[7].prefixes, Strings{"un"});
-    EXPECT_EQ(u.words[8].omittedClitics, Strings{"s"});
+    EXPECT_EQ(strings(u.words[7].prefixes()), Strings{"un"});
+    EXPECT_EQ(strings(u.words[8].omittedClitics()), Strings{"s"});
     EXPECT_TRUE(u.words[8].omittedClitic);
-    EXPECT_EQ(u.words[1].text, "dog/s");
+    EXPECT_EQ(u.words[1].text(), "dog/s");
     EXPECT_EQ(u.line, 7);
     EXPECT_EQ(u.speakerId, U'C');
 }
 
 TEST(Segmentation, MazesCodesOverlapsRemarksAndPauses) {
-    Utterance u = cut("C (I um) I went|go [EW:goed] to <the> park {laughs} ((hmm, ok)) :05 "
-                      "today [EU].");
+    Cut u = cut("C (I um) I went|go [EW:goed] to <the> park {laughs} ((hmm, ok)) :05 "
+                "today [EU].");
     EXPECT_EQ(roots(u), (Strings{"I", "um", "I", "went", "to", "the", "park", "today"}));
-    ASSERT_EQ(u.mazes.size(), 1u);
-    EXPECT_EQ(u.mazes[0].words, (std::vector<int>{0, 1}));
+    ASSERT_EQ(u.mazes().size(), 1u);
+    EXPECT_EQ(std::vector<int>(u.mazes()[0].words.begin(), u.mazes()[0].words.end()),
+              (std::vector<int>{0, 1}));
     EXPECT_TRUE(u.words[1].inMaze);
-    EXPECT_EQ(u.words[1].maze, 0);
     EXPECT_FALSE(u.words[2].inMaze);
-    EXPECT_EQ(u.words[3].rootIdentification, "go");
-    ASSERT_EQ(u.codes.size(), 2u);
-    EXPECT_EQ(u.codes[0].text, "EW:goed");
-    EXPECT_EQ(u.codes[0].word, 3);
-    EXPECT_EQ(u.words[3].codes, std::vector<int>{0});
-    EXPECT_EQ(u.codes[1].text, "EU");
-    EXPECT_EQ(u.codes[1].word, -1); // after the last word: the utterance's
-    EXPECT_EQ(u.codes[1].precedingWord, 7);
-    EXPECT_EQ(u.words[7].codes, std::vector<int>{});
+    EXPECT_EQ(u.words[3].rootIdentification(), "go");
+    ASSERT_EQ(u.codes().size(), 2u);
+    EXPECT_EQ(u.codes()[0].text, "EW:goed");
+    EXPECT_EQ(u.codes()[0].word, 3);
+    EXPECT_EQ(codesOn(u, 3), std::vector<int>{0});
+    EXPECT_EQ(u.codes()[1].text, "EU");
+    EXPECT_EQ(u.codes()[1].word, -1); // after the last word: the utterance's
+    EXPECT_EQ(u.codes()[1].precedingWord, 7);
+    EXPECT_EQ(codesOn(u, 7), std::vector<int>{});
     EXPECT_TRUE(u.words[5].inOverlap);
     EXPECT_FALSE(u.words[6].inOverlap);
     EXPECT_TRUE(u.hasOverlap);
-    EXPECT_EQ(u.parentheticals, Strings{"hmm, ok"});
-    ASSERT_EQ(u.parentheticalWords.size(), 2u);
-    EXPECT_EQ(u.parentheticalWords[1].root, "ok");
-    EXPECT_TRUE(u.parentheticalWords[1].inParenthetical);
-    ASSERT_EQ(u.pauses.size(), 1u);
-    EXPECT_TRUE(u.pauses[0].timed);
-    EXPECT_EQ(u.pauses[0].seconds, 5);
+    EXPECT_EQ(strings(u.parentheticals()), Strings{"hmm, ok"});
+    ASSERT_EQ(u.parentheticalWords().size(), 2u);
+    EXPECT_EQ(u.parentheticalWords()[1].root(), "ok");
+    EXPECT_TRUE(u.parentheticalWords()[1].inParenthetical);
+    ASSERT_EQ(u.pauses().size(), 1u);
+    EXPECT_TRUE(u.pauses()[0].timed);
+    EXPECT_EQ(u.pauses()[0].seconds, 5);
     EXPECT_TRUE(u.hasComment);
     EXPECT_FALSE(u.hasQuotation);
 }
 
 TEST(Segmentation, CodeOnTheLastWordBelongsToThatWord) {
     // Written right after the last word: the word's error, not the utterance's.
-    Utterance attached = cut("C we eated[EO:ate][EW:x] pizza and falled[EO:fell].");
-    ASSERT_EQ(attached.codes.size(), 3u);
-    EXPECT_EQ(attached.codes[0].word, 1);
-    EXPECT_EQ(attached.codes[1].word, 1);
-    EXPECT_EQ(attached.codes[2].word, 4);
-    EXPECT_EQ(attached.words[4].codes, std::vector<int>{2});
+    Cut attached = cut("C we eated[EO:ate][EW:x] pizza and falled[EO:fell].");
+    ASSERT_EQ(attached.codes().size(), 3u);
+    EXPECT_EQ(attached.codes()[0].word, 1);
+    EXPECT_EQ(attached.codes()[1].word, 1);
+    EXPECT_EQ(attached.codes()[2].word, 4);
+    EXPECT_EQ(codesOn(attached, 4), std::vector<int>{2});
 
     // Set apart by a blank after the last word, or before the first: the utterance's.
-    Utterance apart = cut("C [EU] why she cry/3s [EU] [EX]?");
-    ASSERT_EQ(apart.codes.size(), 3u);
-    for (const Code& code : apart.codes)
+    Cut apart = cut("C [EU] why she cry/3s [EU] [EX]?");
+    ASSERT_EQ(apart.codes().size(), 3u);
+    for (const Code& code : apart.codes())
         EXPECT_EQ(code.word, -1);
-    EXPECT_EQ(apart.codes[1].precedingWord, 2);
+    EXPECT_EQ(apart.codes()[1].precedingWord, 2);
 }
 
 TEST(Segmentation, Terminators) {
@@ -101,7 +122,7 @@ TEST(Segmentation, Terminators) {
           Case{"C go\xD8\x9F", Terminator::Question, 0x061F},
           Case{"C go~", Terminator::Prompt, U'~'}, Case{"C go>", Terminator::Abandoned, U'>'},
           Case{"C <go> now^", Terminator::Interrupted, U'^'}}) {
-        Utterance u = cut(c.line);
+        Cut u = cut(c.line);
         EXPECT_EQ(u.terminator, c.kind) << c.line;
         EXPECT_EQ(u.terminatorChar, c.ch) << c.line;
         EXPECT_TRUE(u.hasTerminator);
@@ -115,7 +136,7 @@ TEST(Segmentation, IntelligibilityAndNonverbal) {
     EXPECT_EQ(cut("C I want Xx.").intelligibility, Intelligibility::Partly);
     EXPECT_EQ(cut("C (XX) I want it.").intelligibility, Intelligibility::Intelligible);
     EXPECT_EQ(cut("C Xavier.").intelligibility, Intelligibility::Intelligible);
-    Utterance nods = cut("C {nods}.");
+    Cut nods = cut("C {nods}.");
     EXPECT_TRUE(nods.nonverbal);
     EXPECT_TRUE(nods.words.empty());
     EXPECT_FALSE(cut("C I {nods} go.").nonverbal);
@@ -126,10 +147,10 @@ TEST(Segmentation, QuotationsAndLinks) {
     EXPECT_TRUE(cut("C he said \"go\".").hasQuotation);
     EXPECT_FALSE(cut("C he said \xE2\x80\x9Cgo\xE2\x80\x9D.").hasQuotation);
     EXPECT_EQ(roots(cut("C he said \xE2\x80\x9Cgo\xE2\x80\x9D.")), (Strings{"he", "said", "go"}));
-    Utterance u = cut("C ice_ _cream and peanut_ _butter_ _jelly/s.");
+    Cut u = cut("C ice_ _cream and peanut_ _butter_ _jelly/s.");
     EXPECT_EQ(roots(u), (Strings{"ice_cream", "and", "peanut_butter_jelly"}));
     EXPECT_TRUE(u.words[0].linked);
-    EXPECT_EQ(u.words[2].boundMorphemes, Strings{"s"});
+    EXPECT_EQ(strings(u.words[2].boundMorphemes()), Strings{"s"});
 }
 
 TEST(Segmentation, WholeTranscript) {

@@ -1,0 +1,104 @@
+// Block storage of a segmented transcript's pieces.
+#include "transcript/transcript_store.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
+#include <new>
+
+namespace tavi {
+
+void WordDraft::clear() {
+    text = root = rootIdentification = {};
+    for (auto& list : pieces)
+        list.clear();
+    omittedRoot = false;
+    flags = Word();
+}
+
+void* TranscriptStore::allocate(size_t bytes, size_t align) {
+    size_t pad = left_ == 0 ? 0 : (align - reinterpret_cast<std::uintptr_t>(next_) % align) % align;
+    if (left_ < bytes + pad) {
+        // Blocks grow with the transcript, up to 1 MB; a larger piece gets its own.
+        size_t size = std::max(bytes + align, blockSize_);
+        blockSize_ = std::min<size_t>(blockSize_ * 2, 1 << 20);
+        blocks_.push_back(std::make_unique_for_overwrite<std::byte[]>(size));
+        held_ += size;
+        next_ = blocks_.back().get();
+        left_ = size;
+        pad = (align - reinterpret_cast<std::uintptr_t>(next_) % align) % align;
+    }
+    void* out = next_ + pad;
+    next_ += pad + bytes;
+    left_ -= pad + bytes;
+    return out;
+}
+
+std::string_view TranscriptStore::keepText(std::string_view text) {
+    if (text.empty())
+        return {};
+    char* out = static_cast<char*>(allocate(text.size(), 1));
+    std::memcpy(out, text.data(), text.size());
+    return {out, text.size()};
+}
+
+namespace {
+
+bool inside(std::string_view part, std::string_view whole) {
+    return !whole.empty() && part.data() >= whole.data() &&
+           part.data() + part.size() <= whole.data() + whole.size();
+}
+
+} // namespace
+
+Word TranscriptStore::keepWord(const WordDraft& draft, std::string_view stable) {
+    Word word = draft.flags;
+    bool plain = !draft.omittedRoot && draft.rootIdentification.empty() &&
+                 draft.root.data() == draft.text.data() && draft.root.size() == draft.text.size();
+    for (const auto& list : draft.pieces)
+        plain = plain && list.empty();
+    if (plain) {
+        word.assignPlain(inside(draft.text, stable) || draft.text.empty() ? draft.text
+                                                                          : keepText(draft.text));
+        return word;
+    }
+    // The parts record, then the text right after it.
+    auto* block = static_cast<std::byte*>(
+        allocate(sizeof(WordParts) + draft.text.size(), alignof(WordParts)));
+    char* textCopy = reinterpret_cast<char*>(block + sizeof(WordParts));
+    if (!draft.text.empty())
+        std::memcpy(textCopy, draft.text.data(), draft.text.size());
+    const std::string_view text(textCopy, draft.text.size());
+    // A view of the draft's text moved onto the kept text.
+    auto rebase = [&](std::string_view part) {
+        if (part.empty())
+            return std::string_view();
+        if (inside(part, draft.text))
+            return text.substr(static_cast<size_t>(part.data() - draft.text.data()), part.size());
+        return inside(part, stable) ? part : keepText(part);
+    };
+    WordParts parts;
+    std::vector<std::string_view> pieces;
+    for (size_t k = 0; k < draft.pieces.size(); ++k) {
+        parts.counts[k] =
+            static_cast<std::uint16_t>(std::min<size_t>(draft.pieces[k].size(), 0xFFFF));
+        for (size_t i = 0; i < parts.counts[k]; ++i)
+            pieces.push_back(rebase(draft.pieces[k][i]));
+    }
+    if (!draft.rootIdentification.empty()) {
+        parts.hasRootIdentification = true;
+        pieces.push_back(rebase(draft.rootIdentification));
+    }
+    parts.pieces = keep(pieces).data();
+    parts.omittedRoot = draft.omittedRoot;
+    if (!draft.omittedRoot && inside(draft.root, draft.text)) {
+        // The root lies inside the text (a draft whose root is elsewhere reads as empty).
+        parts.rootStart = static_cast<std::uint32_t>(draft.root.data() - draft.text.data());
+        parts.rootSize = static_cast<std::uint32_t>(draft.root.size());
+    }
+    new (block) WordParts(parts);
+    word.assignParted(text);
+    return word;
+}
+
+} // namespace tavi

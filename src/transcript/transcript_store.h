@@ -1,0 +1,74 @@
+// Where a segmented transcript keeps its pieces: the utterance lines' text,
+// the word records, codes, mazes and parts of words, in large blocks that
+// never move. Records hold views into the store; it lives as long as the
+// segmented transcript that owns it (shared by its copies).
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <memory>
+#include <span>
+#include <string_view>
+#include <type_traits>
+#include <vector>
+
+#include "transcript/utterance.h"
+
+namespace tavi {
+
+// A word before it is kept: views of its text and pieces (the pieces and root
+// inside `text`), and its flags in `flags`.
+struct WordDraft {
+    std::string_view text;
+    std::string_view root; // inside `text`; ignored when omittedRoot
+    std::string_view rootIdentification;
+    std::array<std::vector<std::string_view>, 5> pieces; // the WordParts order
+    bool omittedRoot = false;
+    Word flags; // only its flags are read
+
+    void clear();
+};
+
+class TranscriptStore {
+public:
+    TranscriptStore() = default;
+    TranscriptStore(const TranscriptStore&) = delete;
+    TranscriptStore& operator=(const TranscriptStore&) = delete;
+
+    // A copy of `text` that lives as long as the store.
+    std::string_view keepText(std::string_view text);
+
+    // A copy of `items` that lives as long as the store.
+    template <class T> std::span<const T> keep(std::span<const T> items) {
+        static_assert(std::is_trivially_destructible_v<T>);
+        if (items.empty())
+            return {};
+        T* out = static_cast<T*>(allocate(items.size_bytes(), alignof(T)));
+        std::uninitialized_copy(items.begin(), items.end(), out);
+        return {out, items.size()};
+    }
+    template <class T> std::span<const T> keep(const std::vector<T>& items) {
+        return keep(std::span<const T>(items));
+    }
+    template <class T> const T* keepOne(const T& item) {
+        return keep(std::span<const T>(&item, 1)).data();
+    }
+
+    // The word record of `draft`. Views inside `stable` (text the caller keeps
+    // alive as long as the store) are kept as they are; others are copied.
+    Word keepWord(const WordDraft& draft, std::string_view stable = {});
+
+    // Bytes held by the store's blocks.
+    size_t bytes() const { return held_; }
+
+private:
+    void* allocate(size_t bytes, size_t align);
+
+    std::vector<std::unique_ptr<std::byte[]>> blocks_;
+    std::byte* next_ = nullptr;
+    size_t left_ = 0;
+    size_t blockSize_ = 16 << 10;
+    size_t held_ = 0;
+};
+
+} // namespace tavi
