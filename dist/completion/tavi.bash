@@ -128,7 +128,7 @@ _tavi() {
     if [[ $command == db ]]; then
         if [[ ${#words[@]} -eq 0 ]]; then
             mapfile -t COMPREPLY < <(compgen -W \
-                "$(sed -nE 's/^  ([a-z]+) [A-Z].*/\1/p' <<<"$help")" -- "$cur")
+                "$(sed -nE 's/^  ([a-z]+) [A-Z].*/\1/p' <<<"$help" | sort -u)" -- "$cur")
                 return 0
         fi
         case "${words[0]}" in

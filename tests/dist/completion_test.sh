@@ -47,7 +47,7 @@ expect "tavi re" report
 expect "tavi --settings-dir sub " $commands
 expect "tavi --settings-dir s" sub
 expect "tavi --" --help --settings-dir
-expect "tavi report " smr types
+expect "tavi report " goals performance smr types
 expect "tavi report smr --speaker " 1 2
 expect "tavi report smr --sp" --speaker
 expect "tavi report types " LOUD.TVI story.tvi sub
@@ -60,7 +60,7 @@ expect "tavi measures --cut-base " total aset
 expect "tavi measures --window 50 s" story.tvi sub
 expect "tavi batch --format " csv tsv txt
 expect "tavi batch --selections " pick.SBT sub
-expect "tavi db " create info list add remove clear convert
+expect "tavi db " create info list add remove clear convert select
 expect "tavi db add " norms.tvidb sub
 expect "tavi db add norms.tvidb " LOUD.TVI story.tvi sub
 expect "tavi db add norms.tvidb --speaker 2 st" story.tvi
