@@ -11,6 +11,7 @@
 #include "cli/args.h"
 #include "cli/cli_settings.h"
 #include "cli/command.h"
+#include "cli/json_text.h"
 #include "cli/stream_prompter.h"
 #include "session/analysis_session.h"
 #include "transcript/check_listing.h"
@@ -19,36 +20,7 @@
 namespace {
 
 using namespace tavi;
-
-std::string jsonString(std::string_view s) {
-    std::string out = "\"";
-    for (char ch : s) {
-        auto c = static_cast<unsigned char>(ch);
-        switch (ch) {
-        case '"':
-            out += "\\\"";
-            break;
-        case '\\':
-            out += "\\\\";
-            break;
-        case '\n':
-            out += "\\n";
-            break;
-        case '\r':
-            out += "\\r";
-            break;
-        case '\t':
-            out += "\\t";
-            break;
-        default:
-            if (c < 0x20 || c == 0x7F)
-                out += format("\\u%04x", c);
-            else
-                out.push_back(ch);
-        }
-    }
-    return out + "\"";
-}
+using cli::jsonString;
 
 // "MM-DD-YY" or "DD.MM.YY" (any of "-", ".", "/").
 bool parseDateFormat(const std::string& text, DateFormat& format) {

@@ -11,6 +11,7 @@
 #include "base/format.h"
 #include "cli/cli_analysis.h"
 #include "cli/db_select.h"
+#include "cli/json_text.h"
 #include "cli/peer_flags.h"
 #include "cli/stream_prompter.h"
 #include "database/peer_selection.h"
@@ -21,19 +22,6 @@
 namespace tavi::cli {
 
 namespace {
-
-std::string jsonString(std::string_view s) {
-    std::string out = "\"";
-    for (char ch : s) {
-        if (ch == '"' || ch == '\\')
-            out += '\\';
-        if (static_cast<unsigned char>(ch) < 0x20)
-            out += format("\\u%04x", ch);
-        else
-            out += ch;
-    }
-    return out + "\"";
-}
 
 std::string floatOrNull(std::optional<float> x) {
     return x ? shortestFloat(*x) : "null";

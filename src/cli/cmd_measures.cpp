@@ -10,31 +10,15 @@
 #include "cli/args.h"
 #include "cli/cli_analysis.h"
 #include "cli/command.h"
+#include "cli/json_text.h"
 #include "cli/stream_prompter.h"
 #include "transcript/time_value.h"
 
 namespace {
 
 using namespace tavi;
-
-std::string jsonNumber(double x) {
-    char buf[64];
-    auto res = std::to_chars(buf, buf + sizeof buf, x);
-    return std::string(buf, res.ptr);
-}
-
-std::string jsonString(std::string_view s) {
-    std::string out = "\"";
-    for (char ch : s) {
-        if (ch == '"' || ch == '\\')
-            out += '\\';
-        if (static_cast<unsigned char>(ch) < 0x20)
-            out += format("\\u%04x", ch);
-        else
-            out += ch;
-    }
-    return out + "\"";
-}
+using cli::jsonNumber;
+using cli::jsonString;
 
 std::string jsonValue(const Value& v) {
     if (v.isMissing())
