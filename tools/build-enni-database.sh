@@ -16,12 +16,14 @@ fi
 here=$(cd "$(dirname "$0")/.." && pwd)
 tavi=${TAVI:-$here/build/bin/tavi}
 enni=${ENNI:-$here/../shared/corpora/enni}
-out=$1
 if [[ ! -f $enni/groups.tsv ]]; then
     echo "$0: the ENNI corpus is not at $enni (set ENNI=...)" >&2
     exit 2
 fi
-mkdir -p "$out"
+# Absolute, because the import runs inside the corpus folder: a relative DIR
+# would otherwise put the imported transcripts there.
+mkdir -p "$1"
+out=$(cd "$1" && pwd)
 db=$out/enni-td.tvidb
 transcripts=$out/enni-td
 
