@@ -152,7 +152,7 @@ enum class CommandStatus { Working, Unavailable };
     X(ID_EDSET_BACKUP, Working) \
     X(ID_ANSET_TIMING, Unavailable) \
     X(ID_ANSET_MATTR, Working) \
-    X(ID_ANSET_PCSD, Unavailable) \
+    X(ID_ANSET_PCSD, Working) \
     X(ID_ANSET_DEFDB, Unavailable) \
     X(ID_SETUP_LANGUAGE, Unavailable) \
     X(ID_FONT_DISPTRAN, Working) \

@@ -20,6 +20,7 @@
 #include <set>
 
 #include "analysis/selection.h"
+#include "app/sd_interval_dialog.h"
 #include "app/tavi_app.h"
 #include "app/transcript_peers.h"
 #include "base/format.h"
@@ -28,8 +29,6 @@ namespace tavi::app {
 namespace {
 
 constexpr const char* kGenderMismatch = "Warning: Selected gender does not match target speaker";
-constexpr const char* kBadSdInterval = "Enter an SD interval greater than 0 and at most 100.";
-constexpr float kMaxSdInterval = 100.0f;
 
 QString toQ(const std::string& text) {
     return QString::fromStdString(text);
@@ -319,8 +318,7 @@ db::PeerSelection CDBPSetDialog::selection() const {
     s.select = select_->currentText().toStdString();
     s.equating = static_cast<EquatingMethod>(equating_->checkedId());
     s.applyCut = applyCut_->isChecked();
-    const float interval = sdInterval_->text().trimmed().toFloat(&ok);
-    s.sdInterval = ok && interval > 0.0f && interval <= kMaxSdInterval ? interval : 0.0f;
+    s.sdInterval = sdIntervalValue(sdInterval_->text());
     return s;
 }
 

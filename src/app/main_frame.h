@@ -115,6 +115,7 @@ private:
     void setupWordBase();
     void setupTranscriptCut();
     void setupMovingAverage();
+    void setupSdInterval();
     void setupBackups();
     void setupFolder(const QString& which);
     void setupFont(int which);

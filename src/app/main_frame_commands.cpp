@@ -122,6 +122,7 @@ void CMainFrame::registerCommands() {
     on(ID_SETUP_WBASE, [this] { setupWordBase(); });
     on(ID_SETUP_TCUT, [this] { setupTranscriptCut(); });
     on(ID_ANSET_MATTR, [this] { setupMovingAverage(); });
+    on(ID_ANSET_PCSD, [this] { setupSdInterval(); });
     on(ID_EDSET_BACKUP, [this] { setupBackups(); });
     const std::pair<CommandId, const char*> folders[] = {
         {ID_LOC_TRAN, "TRANDIR"},      {ID_LOC_REPT, "REPORTDIR"},  {ID_LOC_DB, "DBASEDIR"},

@@ -143,8 +143,8 @@ TEST_F(CommandTest, CommandsOptionListsEveryMenuCommandWithoutADisplay) {
     EXPECT_EQ(ids.size(), static_cast<std::size_t>(kCommandCount));
     EXPECT_EQ(ids.size(), menuPaths.size());
     EXPECT_GT(working, 0);
-    EXPECT_TRUE(lines.contains(
-        QStringLiteral("ID_FILE_IMPORT_CHAT\tFile > Import > CHAT file\tworking")));
+    EXPECT_TRUE(
+        lines.contains(QStringLiteral("ID_FILE_IMPORT_CHAT\tFile > Import > CHAT file\tworking")));
     EXPECT_TRUE(lines.contains(
         QStringLiteral("ID_FILE_IMPORT_CP\tFile > Import > CP CORPUS file\tunavailable")));
     EXPECT_TRUE(lines.contains(QStringLiteral("ID_FILE_NEW\tFile > New\tworking")));
