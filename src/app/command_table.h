@@ -23,7 +23,7 @@ enum class CommandStatus { Working, Unavailable };
 #define TAVI_COMMANDS(X) \
     X(ID_FILE_NEW, Working) \
     X(ID_FILE_OPEN, Working) \
-    X(ID_FILE_IMPORT_CHAT, Unavailable) \
+    X(ID_FILE_IMPORT_CHAT, Working) \
     X(ID_FILE_IMPORT_CP, Unavailable) \
     X(ID_FILE_CLOSE, Working) \
     X(ID_FILE_SAVE, Working) \
@@ -58,7 +58,7 @@ enum class CommandStatus { Working, Unavailable };
     X(ID_TEMPLATE_ONC, Unavailable) \
     X(ID_EDIT_INSERT_GC, Unavailable) \
     X(ID_ANAL_SMR, Working) \
-    X(ID_ANAL_PERF, Unavailable) \
+    X(ID_ANAL_PERF, Working) \
     X(ID_ANAL_UTT_TYPES, Working) \
     X(ID_ANAL_SUL, Unavailable) \
     X(ID_ANAL_NSS, Unavailable) \
@@ -89,11 +89,11 @@ enum class CommandStatus { Working, Unavailable };
     X(ID_ANAL_NONMAINSTREAM, Unavailable) \
     X(ID_ANAL_CODESWITCH, Unavailable) \
     X(ID_ANAL_CUSTOM_PDF, Unavailable) \
-    X(ID_DB_SELECT, Unavailable) \
-    X(ID_DB_SMR, Unavailable) \
-    X(ID_DB_PERF, Unavailable) \
+    X(ID_DB_SELECT, Working) \
+    X(ID_DB_SMR, Working) \
+    X(ID_DB_PERF, Working) \
     X(ID_DB_QUICK, Unavailable) \
-    X(ID_DB_GOALS, Unavailable) \
+    X(ID_DB_GOALS, Working) \
     X(ID_DB_LENGTH, Unavailable) \
     X(ID_DB_NSS, Unavailable) \
     X(ID_DB_ESS, Unavailable) \
@@ -152,7 +152,7 @@ enum class CommandStatus { Working, Unavailable };
     X(ID_EDSET_BACKUP, Working) \
     X(ID_ANSET_TIMING, Unavailable) \
     X(ID_ANSET_MATTR, Working) \
-    X(ID_ANSET_PCSD, Unavailable) \
+    X(ID_ANSET_PCSD, Working) \
     X(ID_ANSET_DEFDB, Unavailable) \
     X(ID_SETUP_LANGUAGE, Unavailable) \
     X(ID_FONT_DISPTRAN, Working) \

@@ -188,6 +188,7 @@ QMenu* CMainFrame::makeContextMenu(std::span<const MenuEntry> table) {
 void CMainFrame::updateCommands() {
     for (auto& [id, act] : commandActions_)
         act->setEnabled(commands_.enabled(id));
+    refreshDatabaseMenu();
 }
 
 void CMainFrame::refreshRecentFiles() {

@@ -14,7 +14,9 @@
 
 #include "app/command_registry.h"
 #include "app/command_table.h"
+#include "app/report_runner.h"
 #include "app/rept_doc.h"
+#include "database/peer_selection.h"
 #include "session/analysis_session.h"
 
 class QPrinter;
@@ -77,6 +79,7 @@ private:
     // File
     void fileNew();
     void fileOpen();
+    void fileImportChat();
     void fileSave(bool askName);
     void fileClose();
     void filePrint();
@@ -94,6 +97,14 @@ private:
     bool acceptErrors(CTAVIFrame& frame, const std::vector<err>& problems);
     void analyzeStandardMeasures();
     void analyzeUtteranceTypes();
+    void analyzePerformance();
+    // Database
+    CTAVIDoc* databaseTarget() const;
+    void refreshDatabaseMenu();
+    std::optional<TranscriptAnalysis> checkedAnalysis(CTAVIDoc& doc, int speaker);
+    void databaseSelect();
+    const db::PeerSnapshot* compareWithDatabase(CTAVIDoc& doc, TranscriptAnalysis& analysis);
+    void databaseReport(PeerReportKind kind);
     // Reports
     QPageLayout pdfLayout() const;
     // Link
@@ -104,6 +115,7 @@ private:
     void setupWordBase();
     void setupTranscriptCut();
     void setupMovingAverage();
+    void setupSdInterval();
     void setupBackups();
     void setupFolder(const QString& which);
     void setupFont(int which);

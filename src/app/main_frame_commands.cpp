@@ -12,6 +12,7 @@
 #include "app/tavi_doc.h"
 #include "app/tavi_frame.h"
 #include "app/tavi_view.h"
+#include "app/transcript_peers.h"
 
 namespace tavi::app {
 
@@ -32,6 +33,7 @@ void CMainFrame::registerCommands() {
     // File
     on(ID_FILE_NEW, [this] { fileNew(); });
     on(ID_FILE_OPEN, [this] { fileOpen(); });
+    on(ID_FILE_IMPORT_CHAT, [this] { fileImportChat(); });
     on(
         ID_FILE_CLOSE, [this] { fileClose(); }, window);
     on(
@@ -57,7 +59,23 @@ void CMainFrame::registerCommands() {
     on(
         ID_ANAL_SMR, [this] { analyzeStandardMeasures(); }, analysable);
     on(
+        ID_ANAL_PERF, [this] { analyzePerformance(); }, analysable);
+    on(
         ID_ANAL_UTT_TYPES, [this] { analyzeUtteranceTypes(); }, analysable);
+
+    // Database: the reports wait for a selection that matched samples.
+    auto compared = [this] {
+        const CTAVIDoc* doc = databaseTarget();
+        return doc && doc->peers().ready();
+    };
+    on(
+        ID_DB_SELECT, [this] { databaseSelect(); }, analysable);
+    on(
+        ID_DB_SMR, [this] { databaseReport(PeerReportKind::StandardMeasures); }, compared);
+    on(
+        ID_DB_PERF, [this] { databaseReport(PeerReportKind::Performance); }, compared);
+    on(
+        ID_DB_GOALS, [this] { databaseReport(PeerReportKind::GoalBank); }, compared);
 
     // Edit
     on(
@@ -104,6 +122,7 @@ void CMainFrame::registerCommands() {
     on(ID_SETUP_WBASE, [this] { setupWordBase(); });
     on(ID_SETUP_TCUT, [this] { setupTranscriptCut(); });
     on(ID_ANSET_MATTR, [this] { setupMovingAverage(); });
+    on(ID_ANSET_PCSD, [this] { setupSdInterval(); });
     on(ID_EDSET_BACKUP, [this] { setupBackups(); });
     const std::pair<CommandId, const char*> folders[] = {
         {ID_LOC_TRAN, "TRANDIR"},      {ID_LOC_REPT, "REPORTDIR"},  {ID_LOC_DB, "DBASEDIR"},

@@ -1,5 +1,6 @@
-// The File menu: new, open, save, close and printing.
+// The File menu: new, open, import, save, close and printing.
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QPageSetupDialog>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -9,6 +10,11 @@
 #include "app/main_frame.h"
 #include "app/new_transcript_dialog.h"
 #include "app/tavi_app.h"
+#include "app/tavi_doc.h"
+#include "app/tavi_frame.h"
+#include "app/tavi_view.h"
+#include "base/file_io.h"
+#include "import/chat_import.h"
 
 namespace tavi::app {
 namespace {
@@ -31,6 +37,47 @@ void CMainFrame::fileOpen() {
         this, QStringLiteral("Open"), app_.transcriptDir(), transcriptFilter());
     for (const QString& path : paths)
         openTranscript(path);
+}
+
+// Each CHAT file chosen becomes a new, unsaved transcript named after it;
+// one message then says, file by file, what the notation could not hold or
+// why a file was not imported.
+void CMainFrame::fileImportChat() {
+    const QStringList paths = QFileDialog::getOpenFileNames(
+        this, QStringLiteral("Import CHAT file"), app_.transcriptDir(),
+        QStringLiteral("CHAT Files (*.cha);;All Files (*)"));
+    if (paths.isEmpty())
+        return;
+    const AnalysisContext context = app_.analysisContext();
+    ChatImportOptions options;
+    options.dateFormat = context.check.dateFormat;
+    options.dictionary = context.measures.dictionary;
+    QStringList report;
+    for (const QString& path : paths) {
+        const QFileInfo file(path);
+        std::string chat;
+        if (!readFile(file.absoluteFilePath().toStdString(), chat)) {
+            report << file.fileName() + QStringLiteral(": cannot be read");
+            continue;
+        }
+        const ChatImport import = importChat(chat, options);
+        if (!import.ok) {
+            report << file.fileName() + QStringLiteral(": not imported: ") +
+                          QString::fromStdString(import.problem);
+            continue;
+        }
+        CTAVIFrame* imported = newTranscript(QString::fromStdString(import.text));
+        --untitledCount_;
+        imported->doc().setSuggestedName(file.completeBaseName() + QStringLiteral(".tvi"));
+        imported->view().moveCursor(QTextCursor::Start);
+        QString line =
+            file.fileName() + QStringLiteral(": ") + QString::fromStdString(droppedSummary(import));
+        if (import.morFallbacks > 0)
+            line += QStringLiteral("; %1 utterances took their endings from the spelling")
+                        .arg(import.morFallbacks);
+        report << line;
+    }
+    app_.prompter().inform(report.join(QLatin1Char('\n')).toStdString());
 }
 
 void CMainFrame::fileSave(bool askName) {

@@ -7,6 +7,7 @@
 #include "app/main_frame.h"
 #include "app/rept_frame.h"
 #include "app/rept_view.h"
+#include "app/sd_interval_dialog.h"
 #include "app/tavi_app.h"
 #include "app/tavi_frame.h"
 #include "app/tavi_view.h"
@@ -77,6 +78,11 @@ void CMainFrame::setupTranscriptCut() {
 
 void CMainFrame::setupMovingAverage() {
     CWindowSizeDialog dialog(app_, this);
+    dialog.exec();
+}
+
+void CMainFrame::setupSdInterval() {
+    CSdIntervalDialog dialog(app_, this);
     dialog.exec();
 }
 

@@ -4,7 +4,9 @@
 
 #include "analysis/selection.h"
 #include "app/tavi_app.h"
+#include "batch/peer_report_inputs.h"
 #include "reports/html_writer.h"
+#include "reports/performance_report.h"
 #include "reports/rtf_writer.h"
 #include "reports/text_writer.h"
 #include "reports/transcript_report.h"
@@ -39,8 +41,34 @@ ReportContent makeReport(CTAVIApp& app, ReportKind kind, const TranscriptAnalysi
     if (std::string_view message = analysis.cutMessage(); !message.empty())
         app.prompter().inform(message);
 
+    return reportContent(buildTranscriptReport(analysis, app.settings(), request));
+}
+
+ReportContent makePeerReport(CTAVIApp& app, PeerReportKind kind, const TranscriptAnalysis& analysis,
+                             const TranLines& lines, const std::string& name,
+                             const db::PeerSnapshot* peers) {
+    if (std::string_view message = analysis.cutMessage(); !message.empty())
+        app.prompter().inform(message);
+    const std::string date = todayText(app.analysisContext());
+    if (kind == PeerReportKind::StandardMeasures) {
+        TranscriptReportRequest request;
+        request.kind = TranscriptReportKind::StandardMeasures;
+        request.transcriptName = name;
+        request.smrVariables = app.smrVariables;
+        if (peers)
+            request.database = smrDatabase(*peers, analysis.measures(), date);
+        return reportContent(buildTranscriptReport(analysis, app.settings(), request));
+    }
+    PerformanceInputs inputs = performanceInputs(analysis, lines);
+    if (peers)
+        inputs.peers = performancePeers(*peers, date);
+    return reportContent(kind == PeerReportKind::Performance ? buildPerformanceReport(inputs)
+                                                             : buildGoalBank(inputs));
+}
+
+ReportContent reportContent(Report report) {
     ReportContent content;
-    content.report = buildTranscriptReport(analysis, app.settings(), request);
+    content.report = std::move(report);
     content.title = QString::fromStdString(content.report.title);
     content.html = QString::fromStdString(reportToHtml(content.report));
     content.text = reportToText(content.report);

@@ -7,6 +7,8 @@
 #include <utility>
 
 #include "app/rept_doc.h"
+#include "database/peer_selection.h"
+#include "reports/report.h"
 #include "session/analysis_session.h"
 #include "transcript/tran_line.h"
 
@@ -30,5 +32,19 @@ std::pair<std::string, std::string> mainSpeakerLabels(const TranscriptAnalysis& 
 // the app's prompter.
 ReportContent makeReport(CTAVIApp& app, ReportKind kind, const TranscriptAnalysis& analysis,
                          const std::string& name);
+
+// The reports that compare with a database, and the Performance Report
+// without one.
+enum class PeerReportKind { StandardMeasures, Performance, GoalBank };
+
+// The report of the analysis's speaker against the comparison `peers` (null:
+// the Performance Report or goal bank of the transcript alone). `lines` are
+// the transcript's, for the header facts of the Performance Report.
+ReportContent makePeerReport(CTAVIApp& app, PeerReportKind kind, const TranscriptAnalysis& analysis,
+                             const TranLines& lines, const std::string& name,
+                             const db::PeerSnapshot* peers);
+
+// A built report in every form the report window needs.
+ReportContent reportContent(Report report);
 
 } // namespace tavi::app

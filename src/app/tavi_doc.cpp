@@ -8,12 +8,14 @@
 #include "app/core_bridge.h"
 #include "app/doc_template.h"
 #include "app/tavi_app.h"
+#include "app/transcript_peers.h"
 #include "transcript/transcript_file.h"
 
 namespace tavi::app {
 
 CTAVIDoc::CTAVIDoc(CTAVIApp& app, int untitledNumber, QObject* parent)
-    : QObject(parent), app_(app), untitledNumber_(untitledNumber) {
+    : QObject(parent), app_(app), untitledNumber_(untitledNumber),
+      peers_(std::make_unique<TranscriptPeers>()) {
     text_.setDocumentLayout(new QPlainTextDocumentLayout(&text_));
     connect(&text_, &QTextDocument::contentsChange, this, &CTAVIDoc::countEdit);
     checkTimer_.setSingleShot(true);
@@ -22,11 +24,20 @@ CTAVIDoc::CTAVIDoc(CTAVIApp& app, int untitledNumber, QObject* parent)
     connect(&checkTimer_, &QTimer::timeout, this, &CTAVIDoc::checkNow);
 }
 
+CTAVIDoc::~CTAVIDoc() = default;
+
 QString CTAVIDoc::title() const {
     if (!path_.isEmpty())
         return QFileInfo(path_).fileName();
+    if (!suggestedName_.isEmpty())
+        return suggestedName_;
     return templateField(kTranscriptTemplate, TemplateField::DocName) +
            QString::number(untitledNumber_);
+}
+
+void CTAVIDoc::setSuggestedName(const QString& name) {
+    suggestedName_ = name;
+    Q_EMIT titleChanged();
 }
 
 bool CTAVIDoc::load(const QString& path, QString& error) {

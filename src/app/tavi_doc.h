@@ -8,6 +8,7 @@
 #include <QString>
 #include <QTextDocument>
 #include <QTimer>
+#include <memory>
 #include <vector>
 
 #include "transcript/err.h"
@@ -17,6 +18,7 @@
 namespace tavi::app {
 
 class CTAVIApp;
+class TranscriptPeers;
 
 class CTAVIDoc final : public QObject {
     Q_OBJECT
@@ -26,12 +28,16 @@ public:
 
     // A new, untitled document named from the template ("Tran1", "Tran2", ...).
     CTAVIDoc(CTAVIApp& app, int untitledNumber, QObject* parent = nullptr);
+    ~CTAVIDoc() override;
 
     CTAVIApp& app() const { return app_; }
     QTextDocument* document() { return &text_; }
     QString path() const { return path_; }
-    // The file name, or the new-file name while the document has no file.
+    // The file name; while the document has no file, the name it was given
+    // (an imported transcript's "name.tvi"), else the new-file name.
     QString title() const;
+    // Names a document that has no file yet, e.g. after an import.
+    void setSuggestedName(const QString& name);
     bool isModified() const { return text_.isModified(); }
 
     // Reads a transcript file (UTF-8 with or without the byte order mark,
@@ -49,6 +55,10 @@ public:
     // in the backup folder, with ".$VI".
     QString backupPath() const;
     int editsSinceBackup() const { return edits_; }
+
+    // The transcript's database selection and its last comparison.
+    TranscriptPeers& peers() { return *peers_; }
+    const TranscriptPeers& peers() const { return *peers_; }
 
     CTAVIDoc* linkedWith() const { return linked_; }
     void setLinkedWith(CTAVIDoc* other);
@@ -75,12 +85,14 @@ private:
     CTAVIApp& app_;
     QTextDocument text_;
     QString path_;
+    QString suggestedName_;
     int untitledNumber_;
     int edits_ = 0;
     bool loading_ = false;
     QPointer<CTAVIDoc> linked_;
     QTimer checkTimer_;
     std::vector<err> problems_;
+    std::unique_ptr<TranscriptPeers> peers_;
 };
 
 } // namespace tavi::app

@@ -55,8 +55,12 @@ bool CTAVIFrame::save(bool askName) {
     if (askName || path.isEmpty()) {
         const QString filter =
             QString::fromLatin1(kTranscriptFilter) + QStringLiteral(";;All Files (*)");
+        const QString ext = templateField(kTranscriptTemplate, TemplateField::FilterExt);
+        QString name = doc_->title();
+        if (!name.endsWith(ext, Qt::CaseInsensitive))
+            name += ext;
         const QString suggested =
-            path.isEmpty() ? app.transcriptDir() + QLatin1Char('/') + doc_->title() + ".tvi" : path;
+            path.isEmpty() ? app.transcriptDir() + QLatin1Char('/') + name : path;
         path = QFileDialog::getSaveFileName(window(), QStringLiteral("Save As"), suggested, filter);
         if (path.isEmpty())
             return false;

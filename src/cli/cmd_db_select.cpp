@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "base/format.h"
+#include "batch/peer_report_inputs.h"
 #include "cli/cli_analysis.h"
 #include "cli/db_select.h"
 #include "cli/json_text.h"

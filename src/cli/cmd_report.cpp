@@ -6,6 +6,7 @@
 #include <string>
 
 #include "base/text.h"
+#include "batch/peer_report_inputs.h"
 #include "cli/args.h"
 #include "cli/cli_analysis.h"
 #include "cli/command.h"
@@ -108,8 +109,8 @@ int run(cli::CommandContext& ctx) {
         if (!snapshot)
             return status;
         if (!performance && !goals)
-            request.database = cli::smrDatabase(*snapshot, outcome.analysis->measures(),
-                                                cli::todayText(prepared->context));
+            request.database =
+                smrDatabase(*snapshot, outcome.analysis->measures(), todayText(prepared->context));
     }
     Report report;
     if (performance || goals) {
@@ -118,15 +119,7 @@ int run(cli::CommandContext& ctx) {
         const TranLines lines = splitTranscriptLines(text);
         PerformanceInputs inputs = performanceInputs(*outcome.analysis, lines);
         if (snapshot) {
-            PerformancePeers peers;
-            peers.stats = snapshot->stats;
-            peers.sdInterval = snapshot->sdInterval;
-            peers.samples = snapshot->selected;
-            peers.database = snapshot->database;
-            peers.context = snapshot->context;
-            peers.criteria = snapshot->criteria;
-            peers.sources = snapshot->sourceLines(cli::todayText(prepared->context));
-            inputs.peers = std::move(peers);
+            inputs.peers = performancePeers(*snapshot, todayText(prepared->context));
         }
         report = performance ? buildPerformanceReport(inputs) : buildGoalBank(inputs);
     } else {

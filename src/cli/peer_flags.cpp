@@ -1,7 +1,6 @@
 // Selection flags of the commands that compare with a database.
 #include "cli/peer_flags.h"
 
-#include <chrono>
 #include <cstdlib>
 
 #include "base/format.h"
@@ -69,41 +68,6 @@ std::optional<std::string> applyPeerFlags(const Args& args, db::PeerSelection& s
         selection.speaker = *speaker == "2" ? 1 : 0;
     }
     return std::nullopt;
-}
-
-std::string todayText(const AnalysisContext& context) {
-    const auto today = std::chrono::year_month_day(
-        std::chrono::floor<std::chrono::days>(std::chrono::system_clock::now()));
-    const int y = static_cast<int>(today.year());
-    const unsigned m = static_cast<unsigned>(today.month()), d = static_cast<unsigned>(today.day());
-    const DateFormat& f = context.check.dateFormat;
-    return f.order == DateOrder::DayMonthYear
-               ? format("%u%c%u%c%d", d, f.separator, m, f.separator, y)
-               : format("%u%c%u%c%d", m, f.separator, d, f.separator, y);
-}
-
-SmrDatabase smrDatabase(const db::PeerSnapshot& snapshot, const SpeakerMeasures& measures,
-                        const std::string& date) {
-    SmrDatabase database;
-    database.sourceLines = snapshot.sourceLines(date);
-    database.sdInterval = shortestFloat(snapshot.sdInterval);
-    database.columns = [&snapshot,
-                        &measures](std::string_view name) -> std::optional<SmrDatabaseColumn> {
-        std::optional<MeasureId> id = measureIdByName(name);
-        if (!id)
-            return std::nullopt;
-        const PeerStat& stat = snapshot.stats[static_cast<std::size_t>(*id)];
-        if (stat.n == 0)
-            return std::nullopt;
-        SmrDatabaseColumn column;
-        column.mean = stat.mean;
-        if (stat.hasSd)
-            column.sd = stat.sd;
-        auto comparison = snapshot.compare(*id, measures[*id].number());
-        column.differs = comparison && comparison->differs();
-        return column;
-    };
-    return database;
 }
 
 std::optional<db::PeerSnapshot>

@@ -1,7 +1,7 @@
 // The database selection flags shared by `tavi db select` and the reports
 // that compare with a database: --age-span, --age-range, --grade, --gender,
 // --subgroup, --ethnicity, --location, --select, --equate, --apply-cut,
-// --sd-interval; and the date printed where the numbers come from.
+// --sd-interval. The reports' view of a comparison is in batch/peer_report_inputs.h.
 #pragma once
 
 #include <optional>
@@ -10,7 +10,6 @@
 #include "cli/args.h"
 #include "cli/command.h"
 #include "database/peer_selection.h"
-#include "reports/standard_measures_report.h"
 #include "session/analysis_session.h"
 
 // The selection flags that take a value, and the switches, for cli::Args.
@@ -45,14 +44,6 @@ namespace tavi::cli {
 // Sets the selection from the flags; the problem with a flag (bad usage)
 // when there is one.
 std::optional<std::string> applyPeerFlags(const Args& args, db::PeerSelection& selection);
-
-// Today's date in the date format of the analysis (month-day-year or
-// day-month-year, with its separator).
-std::string todayText(const AnalysisContext& context);
-
-// The Standard Measures Report's database columns from a comparison.
-SmrDatabase smrDatabase(const db::PeerSnapshot& snapshot, const SpeakerMeasures& measures,
-                        const std::string& date);
 
 // Compares the analysed transcript with the database of `--db` under the
 // selection flags, saying every problem through the prompter. Nullopt with

@@ -66,7 +66,7 @@ TEST(CommandRegistry, ReportsMissingSurplusAndDoubledHandlersAndRunsOnlyWhenEnab
     bool open = false;
     registry.add(CommandId::ID_FILE_NEW, [&] { ++runs; });
     registry.add(CommandId::ID_FILE_NEW, [&] { runs += 100; });
-    registry.add(CommandId::ID_FILE_IMPORT_CHAT, [] {});
+    registry.add(CommandId::ID_FILE_IMPORT_CP, [] {});
     registry.add(
         CommandId::ID_FILE_CLOSE, [&] { ++runs; }, [&] { return open; });
 
@@ -75,10 +75,10 @@ TEST(CommandRegistry, ReportsMissingSurplusAndDoubledHandlersAndRunsOnlyWhenEnab
         return std::find(found.begin(), found.end(), line) != found.end();
     };
     EXPECT_TRUE(has("ID_FILE_OPEN is marked working but has no handler"));
-    EXPECT_TRUE(has("ID_FILE_IMPORT_CHAT has a handler but is marked unavailable"));
+    EXPECT_TRUE(has("ID_FILE_IMPORT_CP has a handler but is marked unavailable"));
     EXPECT_TRUE(has("ID_FILE_NEW has more than one handler"));
     EXPECT_FALSE(has("ID_FILE_NEW is marked working but has no handler"));
-    EXPECT_FALSE(has("ID_FILE_IMPORT_CP has a handler but is marked unavailable"));
+    EXPECT_FALSE(has("ID_EDIT_DELETE_CODE has a handler but is marked unavailable"));
 
     EXPECT_TRUE(registry.run(CommandId::ID_FILE_NEW));
     EXPECT_EQ(runs, 1) << "the first handler stays";
@@ -88,7 +88,7 @@ TEST(CommandRegistry, ReportsMissingSurplusAndDoubledHandlersAndRunsOnlyWhenEnab
     EXPECT_TRUE(registry.run(CommandId::ID_FILE_CLOSE));
     EXPECT_EQ(runs, 2);
     EXPECT_EQ(registry.registered(),
-              (std::vector<CommandId>{CommandId::ID_FILE_NEW, CommandId::ID_FILE_IMPORT_CHAT,
+              (std::vector<CommandId>{CommandId::ID_FILE_NEW, CommandId::ID_FILE_IMPORT_CP,
                                       CommandId::ID_FILE_CLOSE}));
 }
 
@@ -143,8 +143,10 @@ TEST_F(CommandTest, CommandsOptionListsEveryMenuCommandWithoutADisplay) {
     EXPECT_EQ(ids.size(), static_cast<std::size_t>(kCommandCount));
     EXPECT_EQ(ids.size(), menuPaths.size());
     EXPECT_GT(working, 0);
+    EXPECT_TRUE(
+        lines.contains(QStringLiteral("ID_FILE_IMPORT_CHAT\tFile > Import > CHAT file\tworking")));
     EXPECT_TRUE(lines.contains(
-        QStringLiteral("ID_FILE_IMPORT_CHAT\tFile > Import > CHAT file\tunavailable")));
+        QStringLiteral("ID_FILE_IMPORT_CP\tFile > Import > CP CORPUS file\tunavailable")));
     EXPECT_TRUE(lines.contains(QStringLiteral("ID_FILE_NEW\tFile > New\tworking")));
     EXPECT_TRUE(lines.contains(
         QStringLiteral("ID_FONT_PRT\tSetup > Fonts > Transcripts & Reports - Printed\tworking")));

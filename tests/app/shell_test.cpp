@@ -60,9 +60,11 @@ TEST_F(ShellTest, MainMenuHasItsMenusCommandsAndHeadingsInOrder) {
     EXPECT_EQ(analyze->actions()[1]->objectName(), "ID_ANAL_SMR");
 
     // A command not built yet keeps its place, disabled, and says so.
-    QAction* perf = action("ID_ANAL_PERF");
-    EXPECT_FALSE(perf->isEnabled());
-    EXPECT_EQ(perf->statusTip(), "Performance Report (not available yet)");
+    QAction* length = action("ID_DB_LENGTH");
+    EXPECT_FALSE(length->isEnabled());
+    EXPECT_EQ(length->statusTip(),
+              "Database Transcript Length and Intelligibility Summary (not available yet)");
+    EXPECT_EQ(action("ID_ANAL_PERF")->statusTip(), "Performance Report");
     EXPECT_EQ(action("ID_ANAL_CODES")->statusTip(), "Code Summary Report (not available yet)");
 
     // Commands that need a transcript wait for one.
