@@ -16,6 +16,7 @@
 #include "app/tavi_doc.h"
 #include "base/file_io.h"
 #include "reports/save_state.h"
+#include "reports/text_writer.h"
 
 namespace tavi::app {
 namespace {
@@ -83,8 +84,9 @@ bool CReptFrame::save(bool) {
         written = writePdf({&doc_->content().report}, path,
                            qt::pdfPageSetup(app_.settings(), pdfLayout_()));
     } else {
-        const std::string& bytes =
-            choice == RichTextSaveChoice::Rtf ? doc_->content().rtf : doc_->content().text;
+        const std::string bytes = choice == RichTextSaveChoice::Rtf
+                                      ? doc_->content().rtf
+                                      : reportTextFileBytes(doc_->content().report);
         written = writeFileAtomic(path.toStdString(), bytes) == WriteStatus::Ok;
     }
     if (!written) {

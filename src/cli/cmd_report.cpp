@@ -35,7 +35,7 @@ std::string writeReport(const Report& report, const std::filesystem::path& path,
     const std::string ext = toLowerAscii(path.extension().string());
     auto bytes = [&](const std::string& text) { return saveReportBytes(path, text); };
     if (ext == ".txt")
-        return bytes(reportToText(report));
+        return bytes(reportTextFileBytes(report));
     if (ext == ".rtf")
         return bytes(reportToRtf(report));
     if (ext == ".html" || ext == ".htm")

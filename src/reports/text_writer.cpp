@@ -1,6 +1,8 @@
 // Plain text layout of a report.
 #include "reports/text_writer.h"
 
+#include "base/text.h"
+
 #include <algorithm>
 
 namespace tavi {
@@ -70,6 +72,10 @@ std::string reportToText(const Report& report) {
     for (const auto& note : report.footnotes)
         out += note + "\n";
     return out;
+}
+
+std::string reportTextFileBytes(const Report& report) {
+    return std::string(kUtf8Bom) + reportToText(report);
 }
 
 } // namespace tavi

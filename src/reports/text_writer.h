@@ -10,4 +10,8 @@ namespace tavi {
 
 std::string reportToText(const Report& report);
 
+// The bytes of a saved text report: the UTF-8 byte order mark, then the text,
+// as every view saved to a file begins.
+std::string reportTextFileBytes(const Report& report);
+
 } // namespace tavi

@@ -123,6 +123,7 @@ TEST_F(ReportTest, StandardMeasuresReportSavesAsPdfAndRtfAndFollowsTheAnalysisSe
 
     saveActiveReport("choiceTxt", tempPath("smr.txt"));
     EXPECT_TRUE(fileBytes(tempPath("smr.txt")).contains("Total Utterances"));
+    EXPECT_TRUE(fileBytes(tempPath("smr.txt")).startsWith("\xEF\xBB\xBF"));
 }
 
 TEST_F(ReportTest, PdfBatchCollectsReportsAndCloses) {

@@ -106,7 +106,7 @@ TEST_F(ReportCommand, OutputFormatFollowsTheExtensionAndReadsBack) {
     ASSERT_EQ(text.status, 0);
 
     ASSERT_EQ(tavi("report smr -o '" + (dir_ / "r.txt").string() + "' " + sample).status, 0);
-    EXPECT_EQ(fileText(dir_ / "r.txt"), text.out);
+    EXPECT_EQ(fileText(dir_ / "r.txt"), "\xEF\xBB\xBF" + text.out);
 
     ASSERT_EQ(tavi("report smr -o '" + (dir_ / "r.pdf").string() + "' " + sample).status, 0);
     const std::string pdf = pdfText(dir_ / "r.pdf");
