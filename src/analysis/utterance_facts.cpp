@@ -45,6 +45,32 @@ WordTraits traitsOf(const Word& w) {
     return t;
 }
 
+// The facts of `w`'s spelling, worked out at its first use.
+const SpellingFacts& spellingFacts(const Word& w, FactTables& t) {
+    auto& known = t.spellings[w.linked ? 1 : 0];
+    auto [it, added] = known.try_emplace(w.text());
+    SpellingFacts& f = it->second;
+    if (!added)
+        return f;
+    f.traits = traitsOf(w);
+    f.endingsFrom = static_cast<std::uint32_t>(t.spellingEndings.size());
+    for (std::string_view e : w.boundMorphemes()) {
+        t.form.assign(e);
+        for (char& c : t.form)
+            if (c >= 'A' && c <= 'Z')
+                c = static_cast<char>(c + 32);
+        t.spellingEndings.push_back(t.endings.idOf(t.form));
+    }
+    rootKeyInto(w, t.key);
+    f.root = t.roots.idOf(t.key);
+    surfaceFormInto(w, t.key, t.form);
+    f.form = t.forms.idOf(t.form);
+    f.morphemes = morphemeCount(w);
+    f.boundMorphemes = static_cast<int>(w.boundMorphemes().size());
+    f.clitics = static_cast<int>(w.clitics().size());
+    return f;
+}
+
 void tallyCodes(const Utterance& u, const CodeMatchers& m, UtteranceFacts& f) {
     for (const Code& c : u.codes()) {
         bool onWord = c.word >= 0;
@@ -91,25 +117,19 @@ UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeM
         }
         if (!passesWordBase(u, index, base, m.wordBase))
             continue;
+        const SpellingFacts& known = spellingFacts(w, t);
         CountedWord counted;
         counted.word = static_cast<std::uint32_t>(index);
-        counted.traits = traitsOf(w);
-        for (std::string_view e : w.boundMorphemes()) {
-            t.form.assign(e);
-            for (char& c : t.form)
-                if (c >= 'A' && c <= 'Z')
-                    c = static_cast<char>(c + 32);
-            t.endingIds.push_back(t.endings.idOf(t.form));
-        }
-        rootKeyInto(w, t.key);
-        counted.root = t.roots.idOf(t.key);
-        surfaceFormInto(w, t.key, t.form);
-        counted.form = t.forms.idOf(t.form);
+        counted.traits = known.traits;
+        counted.root = known.root;
+        counted.form = known.form;
+        t.endingIds.insert(t.endingIds.end(), t.spellingEndings.begin() + known.endingsFrom,
+                           t.spellingEndings.begin() + known.endingsFrom + known.boundMorphemes);
         t.words.push_back(counted);
         ++f.counted;
-        f.morphemes += morphemeCount(w);
-        f.boundMorphemes += static_cast<int>(w.boundMorphemes().size());
-        f.clitics += static_cast<int>(w.clitics().size());
+        f.morphemes += known.morphemes;
+        f.boundMorphemes += known.boundMorphemes;
+        f.clitics += known.clitics;
         f.errorWords += wordCarries(u, index, m.errors) ? 1 : 0;
     }
     f.wordCount = static_cast<int>(f.counted);

@@ -2,6 +2,7 @@
 // over its words and codes under the word base and the code lists.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <deque>
 #include <span>
@@ -67,6 +68,18 @@ struct CountedWord {
     std::uint32_t word = 0; // index in Utterance::words
 };
 
+// What a counted word's spelling gives, the same wherever the spelling
+// recurs: a word is split from its text and whether it is linked alone.
+struct SpellingFacts {
+    int root = 0;
+    int form = 0;
+    WordTraits traits;
+    std::uint32_t endingsFrom = 0; // FactTables::spellingEndings[endingsFrom, + boundMorphemes)
+    int boundMorphemes = 0;
+    int clitics = 0;
+    int morphemes = 0;
+};
+
 // The counted words, roots and endings of every utterance, one run each,
 // numbered in the computation's tables.
 struct FactTables {
@@ -77,6 +90,9 @@ struct FactTables {
     std::vector<int> remarkRoots; // root numbers of counted parenthetical words
     std::vector<int> endingIds;
     std::string key, form; // scratch
+    // Each spelling met, plain and linked: what it gives.
+    std::array<std::unordered_map<std::string_view, SpellingFacts>, 2> spellings;
+    std::vector<int> spellingEndings;
 };
 
 struct UtteranceFacts {
