@@ -3,7 +3,6 @@
 // analysis engine; the families of measures are filled by separate functions.
 #pragma once
 
-#include <functional>
 #include <vector>
 
 #include "analysis/measures.h"
@@ -41,7 +40,7 @@ struct SpeakerView {
             f(id);
     }
     const ResponseType& response(int i) const { return c.selection.responses[i]; }
-    int countIf(const std::vector<int>& utts, const std::function<bool(int)>& pred) const {
+    template <class Pred> int countIf(const std::vector<int>& utts, Pred&& pred) const {
         int n = 0;
         for (int i : utts)
             n += pred(i) ? 1 : 0;

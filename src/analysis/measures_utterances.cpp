@@ -1,5 +1,7 @@
 // Utterance counts by kind, terminator and code, errors and omissions, and
 // the standard utterance lists.
+#include <array>
+
 #include "analysis/measure_context.h"
 
 namespace tavi {
@@ -12,18 +14,24 @@ void percentOf(SpeakerMeasures& m, Id id, int part, int whole) {
     m[id] = Value::ratio(part, whole, 100);
 }
 
-bool isIncompleteOrCode(const Utterance& u, Terminator t) {
-    return u.terminator == t;
-}
-
 } // namespace
 
 void fillUtteranceKinds(const SpeakerView& v, SpeakerMeasures& m) {
     const auto& T = v.total;
     const int total = static_cast<int>(T.size());
-    auto byTerm = [&](Terminator t) {
-        return v.countIf(T, [&](int i) { return isIncompleteOrCode(v.utt(i), t); });
-    };
+    // Utterances by terminator, nonverbal and by intelligibility, in one walk.
+    std::array<int, 6> terms{};
+    std::array<int, 3> intel{};
+    int nonverbal = 0;
+    for (int i : T) {
+        const Utterance& u = v.utt(i);
+        const auto term = static_cast<size_t>(u.terminator);
+        if (term < terms.size())
+            ++terms[term];
+        ++intel[static_cast<size_t>(u.intelligibility)];
+        nonverbal += u.nonverbal ? 1 : 0;
+    }
+    auto byTerm = [&](Terminator t) { return terms[static_cast<size_t>(t)]; };
     m[Id::TotNumUt] = Value::count(total);
     m[Id::TotASetUt] = Value::count(static_cast<int>(v.analysisSet.size()));
     m[Id::Statements] = Value::count(byTerm(Terminator::Statement));
@@ -36,11 +44,8 @@ void fillUtteranceKinds(const SpeakerView& v, SpeakerMeasures& m) {
     m[Id::PctAbanUtt] = m[Id::PctAbanUt];
     m[Id::InterruptUt] = Value::count(byTerm(Terminator::Interrupted));
 
-    const int nonverbal = v.countIf(T, [&](int i) { return v.utt(i).nonverbal; });
-    const int unintel = v.countIf(
-        T, [&](int i) { return v.utt(i).intelligibility == Intelligibility::Unintelligible; });
-    const int partly =
-        v.countIf(T, [&](int i) { return v.utt(i).intelligibility == Intelligibility::Partly; });
+    const int unintel = intel[static_cast<size_t>(Intelligibility::Unintelligible)];
+    const int partly = intel[static_cast<size_t>(Intelligibility::Partly)];
     m[Id::NonVerbalUt] = Value::count(nonverbal);
     m[Id::TotVerbalUt] = Value::count(total - nonverbal);
     m[Id::UnintelUt] = Value::count(unintel);
