@@ -97,7 +97,11 @@ TranscriptAnalysis analyseFile(const std::filesystem::path& path, const Analysis
         analysis.load = LoadStatus::Corrupted;
         return analysis;
     }
-    analysis = analyseText(text, context, request);
+    analysis.check = checkText(text, keepingSegmentation(context, request));
+    // The segmentation keeps what it needs of the text: the text's room is
+    // given back before the measures take theirs.
+    std::string().swap(text);
+    measure(analysis, context, request);
     return analysis;
 }
 
