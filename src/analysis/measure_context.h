@@ -29,13 +29,15 @@ struct SpeakerView {
 
     const Utterance& utt(int i) const { return c.t.utterances[i]; }
     const UtteranceFacts& facts(int i) const { return c.facts[i]; }
+    const CodeFacts& codes(int i) const { return c.facts[i].codeFacts(c.tables); }
+    const SpellingFacts& spelling(const CountedWord& w) const { return c.tables.spelling(w); }
     // The counted main-body words of utterance `i`.
     std::span<const CountedWord> words(int i) const { return c.facts[i].words(c.tables); }
     // The root numbers of utterance `i`: its counted words', then its counted
     // parenthetical words'.
     template <class F> void forEachRoot(int i, F&& f) const {
         for (const CountedWord& w : words(i))
-            f(w.root);
+            f(c.tables.spelling(w).root);
         for (int id : c.facts[i].remarkRoots(c.tables))
             f(id);
     }

@@ -81,11 +81,12 @@ void fillBoundMorphemes(const SpeakerView& v, SpeakerMeasures& m) {
     for (int i : v.analysisSet) {
         bound += v.facts(i).boundMorphemes;
         clitics += v.facts(i).clitics;
-        for (int id : v.facts(i).endings(v.c.tables))
-            if (!seen[static_cast<size_t>(id)]) {
-                seen[static_cast<size_t>(id)] = 1;
-                ++different;
-            }
+        for (const CountedWord& w : v.words(i))
+            for (int id : v.c.tables.endingsOf(v.spelling(w)))
+                if (!seen[static_cast<size_t>(id)]) {
+                    seen[static_cast<size_t>(id)] = 1;
+                    ++different;
+                }
     }
     m[Id::BoundMorphs] = Value::count(bound);
     m[Id::BoundClitics] = Value::count(clitics);

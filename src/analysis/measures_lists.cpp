@@ -68,8 +68,8 @@ void areaWords(const SpeakerView& v, int i, WordArea area, std::vector<std::stri
     const std::span<const CountedWord> counted = v.words(i);
     if (area == WordArea::MainBody) {
         for (const CountedWord& w : counted) {
-            forms.push_back(t.forms.name(w.form));
-            roots.push_back(t.roots.name(w.root));
+            forms.push_back(t.forms.name(t.spelling(w).form));
+            roots.push_back(t.roots.name(t.spelling(w).root));
         }
         return;
     }
@@ -133,8 +133,8 @@ struct FormLookups {
 // are tried at each place.
 void countPhrasesNumbered(const StandardWordLists& lists, int set,
                           const std::vector<std::string_view>& forms,
-                          std::span<const CountedWord> counted, FormLookups& look,
-                          Tally<kWordListKinds>& tally) {
+                          std::span<const CountedWord> counted, const FactTables& t,
+                          FormLookups& look, Tally<kWordListKinds>& tally) {
     const auto& phrases = lists.phrases(set);
     if (phrases.size() > 64 || phrases.empty()) {
         countPhrases(lists, set, forms, tally);
@@ -143,7 +143,8 @@ void countPhrasesNumbered(const StandardWordLists& lists, int set,
     // Matches in the order countPhrases finds them: phrase by phrase.
     std::uint64_t any = 0;
     for (size_t at = 0; at < forms.size(); ++at) {
-        std::uint64_t& starts = look.phraseStarts[static_cast<size_t>(counted[at].form)];
+        std::uint64_t& starts =
+            look.phraseStarts[static_cast<size_t>(t.spelling(counted[at]).form)];
         if (starts == FormLookups::kNotLooked) {
             starts = 0;
             for (size_t p = 0; p < phrases.size(); ++p)
@@ -157,7 +158,7 @@ void countPhrasesNumbered(const StandardWordLists& lists, int set,
             continue;
         const auto& [kind, entry] = phrases[p];
         for (size_t at = 0; at < forms.size(); ++at)
-            if ((look.phraseStarts[static_cast<size_t>(counted[at].form)] >> p) & 1u &&
+            if ((look.phraseStarts[static_cast<size_t>(t.spelling(counted[at]).form)] >> p) & 1u &&
                 phraseMatchesAt(entry, forms, at))
                 addPhrase(entry, kind, forms, at, tally);
     }
@@ -189,7 +190,7 @@ void fillWordLists(const SpeakerView& v, SpeakerMeasures& m) {
             const std::string_view root = roots[k];
             std::uint32_t kinds = 0;
             if (numbered) {
-                const CountedWord& w = counted[k];
+                const SpellingFacts& w = v.spelling(counted[k]);
                 std::uint32_t& known = rootKinds[static_cast<size_t>(w.root)];
                 if (known == kNotLooked)
                     known = o.wordLists->kindMask(set, root);
@@ -215,7 +216,7 @@ void fillWordLists(const SpeakerView& v, SpeakerMeasures& m) {
                     tally.add(kind, form[k]);
         }
         if (numbered)
-            countPhrasesNumbered(*o.wordLists, set, form, counted, look, tally);
+            countPhrasesNumbered(*o.wordLists, set, form, counted, v.c.tables, look, tally);
         else
             countPhrases(*o.wordLists, set, form, tally);
     }
@@ -238,10 +239,11 @@ void fillCategoriesAndVerbs(const SpeakerView& v, SpeakerMeasures& m) {
     for (int i : v.analysisSet) {
         int here = 0;
         for (const CountedWord& w : v.words(i)) {
-            const WordTraits& t = w.traits;
+            const SpellingFacts& spelling = v.spelling(w);
+            const WordTraits& t = spelling.traits;
             if (t.skipped)
                 continue;
-            const int id = w.root;
+            const int id = spelling.root;
             if (!entries[id])
                 entries[id] = dictionaryCategories(v.utt(i).words[w.word].root(), *dictionary);
             std::vector<int> guessed;

@@ -46,12 +46,13 @@ WordTraits traitsOf(const Word& w) {
 }
 
 // The facts of `w`'s spelling, worked out at its first use.
-const SpellingFacts& spellingFacts(const Word& w, FactTables& t) {
+std::uint32_t spellingOf(const Word& w, FactTables& t) {
     auto& known = t.spellings[w.linked ? 1 : 0];
-    auto [it, added] = known.try_emplace(w.text());
-    SpellingFacts& f = it->second;
+    auto [it, added] =
+        known.try_emplace(w.text(), static_cast<std::uint32_t>(t.spellingList.size()));
     if (!added)
-        return f;
+        return it->second;
+    SpellingFacts f;
     f.traits = traitsOf(w);
     f.endingsFrom = static_cast<std::uint32_t>(t.spellingEndings.size());
     for (std::string_view e : w.boundMorphemes()) {
@@ -68,10 +69,11 @@ const SpellingFacts& spellingFacts(const Word& w, FactTables& t) {
     f.morphemes = morphemeCount(w);
     f.boundMorphemes = static_cast<int>(w.boundMorphemes().size());
     f.clitics = static_cast<int>(w.clitics().size());
-    return f;
+    t.spellingList.push_back(f);
+    return it->second;
 }
 
-void tallyCodes(const Utterance& u, const CodeMatchers& m, UtteranceFacts& f) {
+void tallyCodes(const Utterance& u, const CodeMatchers& m, CodeFacts& f) {
     for (const Code& c : u.codes()) {
         bool onWord = c.word >= 0;
         (onWord ? f.wordCode : f.utteranceCode) = true;
@@ -94,7 +96,7 @@ UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeM
     UtteranceFacts f;
     f.wordsFrom = static_cast<std::uint32_t>(t.words.size());
     f.remarksFrom = static_cast<std::uint32_t>(t.remarkRoots.size());
-    f.endingsFrom = static_cast<std::uint32_t>(t.endingIds.size());
+    CodeFacts codes;
     f.overlap = u.hasOverlap;
     for (int index = 0; index < static_cast<int>(u.words.size()); ++index) {
         const Word& w = u.words[index];
@@ -117,26 +119,27 @@ UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeM
         }
         if (!passesWordBase(u, index, base, m.wordBase))
             continue;
-        const SpellingFacts& known = spellingFacts(w, t);
         CountedWord counted;
         counted.word = static_cast<std::uint32_t>(index);
-        counted.traits = known.traits;
-        counted.root = known.root;
-        counted.form = known.form;
-        t.endingIds.insert(t.endingIds.end(), t.spellingEndings.begin() + known.endingsFrom,
-                           t.spellingEndings.begin() + known.endingsFrom + known.boundMorphemes);
+        counted.spelling = spellingOf(w, t);
+        const SpellingFacts& known = t.spellingList[counted.spelling];
         t.words.push_back(counted);
         ++f.counted;
         f.morphemes += known.morphemes;
         f.boundMorphemes += known.boundMorphemes;
         f.clitics += known.clitics;
-        f.errorWords += wordCarries(u, index, m.errors) ? 1 : 0;
+        if (!u.codes().empty())
+            codes.errorWords += wordCarries(u, index, m.errors) ? 1 : 0;
     }
     f.wordCount = static_cast<int>(f.counted);
     if (!base.excludeParenthetical)
         addParentheticalWords(u, f, t);
     f.morphemes += f.wordCount - static_cast<int>(f.counted);
-    tallyCodes(u, m, f);
+    if (!u.codes().empty()) {
+        tallyCodes(u, m, codes);
+        f.codes = static_cast<std::uint32_t>(t.codeFacts.size());
+        t.codeFacts.push_back(codes);
+    }
     return f;
 }
 
