@@ -393,9 +393,17 @@ CheckResult checkTranscript(const TranLines& lines, const CheckOptions& options)
 // Each line of `text` in turn (ended by LF, CR LF or CR), as splitLines cuts
 // them, without a list of all the lines.
 template <class F> void forEachLine(std::string_view text, F&& f) {
+    // The next CR or LF from `from`, npos when none; a plain loop, as a search
+    // for either of two characters tries each in turn at every byte.
+    auto lineEnd = [&text](size_t from) {
+        for (size_t i = from; i < text.size(); ++i)
+            if (text[i] == '\n' || text[i] == '\r')
+                return i;
+        return std::string_view::npos;
+    };
     size_t start = 0;
     while (start < text.size()) {
-        size_t end = text.find_first_of("\r\n", start);
+        size_t end = lineEnd(start);
         if (end == std::string_view::npos) {
             f(text.substr(start));
             return;
