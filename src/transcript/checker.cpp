@@ -374,6 +374,7 @@ void Checker::checkLine(std::string_view text, int line) {
 
 CheckResult Checker::finish() {
     state_->finish();
+    state_->result.segmented.store->endSharing();
     CheckResult result = std::move(state_->result);
     CheckOptions options = std::move(state_->options);
     state_ = std::make_unique<State>();

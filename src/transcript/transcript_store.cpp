@@ -49,7 +49,35 @@ bool inside(std::string_view part, std::string_view whole) {
            part.data() + part.size() <= whole.data() + whole.size();
 }
 
+// Whether `p` (a kept parts record) holds the parts of `draft`, whose text
+// equals the text after `p`.
+bool sameParts(const WordParts& p, const WordDraft& draft) {
+    if (p.omittedRoot != draft.omittedRoot ||
+        p.hasRootIdentification == draft.rootIdentification.empty())
+        return false;
+    std::uint32_t rootStart = 0, rootSize = 0;
+    if (!draft.omittedRoot && inside(draft.root, draft.text)) {
+        rootStart = static_cast<std::uint32_t>(draft.root.data() - draft.text.data());
+        rootSize = static_cast<std::uint32_t>(draft.root.size());
+    }
+    if (p.rootStart != rootStart || p.rootSize != rootSize)
+        return false;
+    size_t at = 0;
+    for (size_t k = 0; k < draft.pieces.size(); ++k) {
+        if (draft.pieces[k].size() > 0xFFFF || p.counts[k] != draft.pieces[k].size())
+            return false;
+        for (std::string_view piece : draft.pieces[k])
+            if (p.pieces[at++] != piece)
+                return false;
+    }
+    return draft.rootIdentification.empty() || p.pieces[at] == draft.rootIdentification;
+}
+
 } // namespace
+
+void TranscriptStore::endSharing() {
+    std::unordered_map<std::string_view, const char*>().swap(parted_);
+}
 
 Word TranscriptStore::keepWord(const WordDraft& draft, std::string_view stable) {
     Word word = draft.flags;
@@ -61,6 +89,15 @@ Word TranscriptStore::keepWord(const WordDraft& draft, std::string_view stable) 
         word.assignPlain(inside(draft.text, stable) || draft.text.empty() ? draft.text
                                                                           : keepText(draft.text));
         return word;
+    }
+    if (!draft.text.empty()) {
+        if (auto it = parted_.find(draft.text); it != parted_.end()) {
+            const char* kept = it->second;
+            if (sameParts(*reinterpret_cast<const WordParts*>(kept - sizeof(WordParts)), draft)) {
+                word.assignParted({kept, draft.text.size()});
+                return word;
+            }
+        }
     }
     // The parts record, then the text right after it.
     auto* block = static_cast<std::byte*>(
@@ -98,6 +135,8 @@ Word TranscriptStore::keepWord(const WordDraft& draft, std::string_view stable) 
     }
     new (block) WordParts(parts);
     word.assignParted(text);
+    if (!text.empty() && parted_.size() < kMaxShared)
+        parted_.emplace(text, text.data());
     return word;
 }
 

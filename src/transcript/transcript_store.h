@@ -10,6 +10,7 @@
 #include <span>
 #include <string_view>
 #include <type_traits>
+#include <unordered_map>
 #include <vector>
 
 #include "transcript/utterance.h"
@@ -56,7 +57,13 @@ public:
 
     // The word record of `draft`. Views inside `stable` (text the caller keeps
     // alive as long as the store) are kept as they are; others are copied.
+    // A word with parts whose text and parts equal those of a word kept
+    // before shares that word's text and parts record.
     Word keepWord(const WordDraft& draft, std::string_view stable = {});
+
+    // Frees what keepWord uses to find the words kept before; words kept
+    // afterwards are not shared with earlier ones.
+    void endSharing();
 
     // Bytes held by the store's blocks.
     size_t bytes() const { return held_; }
@@ -64,6 +71,9 @@ public:
 private:
     void* allocate(size_t bytes, size_t align);
 
+    // The text of each word with parts kept, by its text (at most kMaxShared).
+    static constexpr size_t kMaxShared = size_t{1} << 20;
+    std::unordered_map<std::string_view, const char*> parted_;
     std::vector<std::unique_ptr<std::byte[]>> blocks_;
     std::byte* next_ = nullptr;
     size_t left_ = 0;
