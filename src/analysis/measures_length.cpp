@@ -22,6 +22,10 @@ using Id = MeasureId;
 // Root numbers of the counted words of some utterances, in order.
 std::vector<int> rootIdsOf(const SpeakerView& v, const std::vector<int>& utts) {
     std::vector<int> ids;
+    size_t count = 0; // room for exactly these: a run that doubles as it grows needs thrice
+    for (int i : utts)
+        count += static_cast<size_t>(v.facts(i).wordCount);
+    ids.reserve(count);
     for (int i : utts)
         v.forEachRoot(i, [&](int id) { ids.push_back(id); });
     return ids;
