@@ -97,10 +97,8 @@ TranscriptAnalysis analyseFile(const std::filesystem::path& path, const Analysis
         analysis.load = LoadStatus::Corrupted;
         return analysis;
     }
-    analysis.check = checkText(text, keepingSegmentation(context, request));
-    // The segmentation keeps what it needs of the text: the text's room is
-    // given back before the measures take theirs.
-    std::string().swap(text);
+    // The segmentation keeps the text itself rather than a copy of its lines.
+    analysis.check = checkOwnedText(std::move(text), keepingSegmentation(context, request));
     measure(analysis, context, request);
     return analysis;
 }

@@ -367,6 +367,10 @@ void Checker::reserve(size_t lines) {
     state_->result.segmented.entries.reserve(lines);
 }
 
+std::string_view Checker::adoptText(std::string text) {
+    return state_->result.segmented.store->adoptText(std::move(text));
+}
+
 void Checker::checkLine(std::string_view text, int line) {
     state_->line = line;
     state_->check(text);
@@ -414,8 +418,9 @@ template <class F> void forEachLine(std::string_view text, F&& f) {
     }
 }
 
-CheckResult checkText(std::string_view text, const CheckOptions& options) {
-    Checker checker(options);
+namespace {
+
+CheckResult checkAll(Checker& checker, std::string_view text, const CheckOptions& options) {
     if (options.keepSegmentation) {
         size_t lines = 0;
         forEachLine(text, [&](std::string_view) { ++lines; });
@@ -424,6 +429,21 @@ CheckResult checkText(std::string_view text, const CheckOptions& options) {
     int number = 0;
     forEachLine(text, [&](std::string_view l) { checker.checkLine(l, ++number); });
     return checker.finish();
+}
+
+} // namespace
+
+CheckResult checkText(std::string_view text, const CheckOptions& options) {
+    Checker checker(options);
+    return checkAll(checker, text, options);
+}
+
+CheckResult checkOwnedText(std::string text, const CheckOptions& options) {
+    Checker checker(options);
+    if (!options.keepSegmentation)
+        return checkAll(checker, text, options);
+    const std::string_view kept = checker.adoptText(std::move(text));
+    return checkAll(checker, kept, options);
 }
 
 Utterance segmentUtterance(std::string_view line, int lineNumber, const SpeakerTable& speakers,

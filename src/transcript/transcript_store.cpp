@@ -34,9 +34,17 @@ void* TranscriptStore::allocate(size_t bytes, size_t align) {
     return out;
 }
 
+std::string_view TranscriptStore::adoptText(std::string text) {
+    adopted_ = std::move(text);
+    return adopted_;
+}
+
 std::string_view TranscriptStore::keepText(std::string_view text) {
     if (text.empty())
         return {};
+    if (!adopted_.empty() && text.data() >= adopted_.data() &&
+        text.data() + text.size() <= adopted_.data() + adopted_.size())
+        return text;
     char* out = static_cast<char*>(allocate(text.size(), 1));
     std::memcpy(out, text.data(), text.size());
     return {out, text.size()};

@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <memory>
 #include <span>
+#include <string>
 #include <string_view>
 #include <type_traits>
 #include <unordered_map>
@@ -36,8 +37,12 @@ public:
     TranscriptStore(const TranscriptStore&) = delete;
     TranscriptStore& operator=(const TranscriptStore&) = delete;
 
-    // A copy of `text` that lives as long as the store.
+    // A copy of `text` that lives as long as the store; `text` itself when it
+    // lies inside the adopted text.
     std::string_view keepText(std::string_view text);
+
+    // Keeps `text` (once per store): views into it need no copy.
+    std::string_view adoptText(std::string text);
 
     // A copy of `items` that lives as long as the store.
     template <class T> std::span<const T> keep(std::span<const T> items) {
@@ -65,8 +70,8 @@ public:
     // afterwards are not shared with earlier ones.
     void endSharing();
 
-    // Bytes held by the store's blocks.
-    size_t bytes() const { return held_; }
+    // Bytes held by the store's blocks and adopted text.
+    size_t bytes() const { return held_ + adopted_.capacity(); }
 
 private:
     void* allocate(size_t bytes, size_t align);
@@ -74,6 +79,7 @@ private:
     // The text of each word with parts kept, by its text (at most kMaxShared).
     static constexpr size_t kMaxShared = size_t{1} << 20;
     std::unordered_map<std::string_view, const char*> parted_;
+    std::string adopted_;
     std::vector<std::unique_ptr<std::byte[]>> blocks_;
     std::byte* next_ = nullptr;
     size_t left_ = 0;
