@@ -34,6 +34,36 @@ void* TranscriptStore::allocate(size_t bytes, size_t align) {
     return out;
 }
 
+const UtteranceExtras* TranscriptStore::keepExtras(std::span<const Code> codes,
+                                                   std::span<const Maze> mazes,
+                                                   std::span<const std::string_view> parentheticals,
+                                                   std::span<const Word> parentheticalWords,
+                                                   std::span<const Pause> pauses) {
+    if (codes.empty() && mazes.empty() && parentheticals.empty() && parentheticalWords.empty() &&
+        pauses.empty())
+        return nullptr;
+    UtteranceExtras header;
+    header.counts = {static_cast<std::uint32_t>(codes.size()),
+                     static_cast<std::uint32_t>(mazes.size()),
+                     static_cast<std::uint32_t>(parentheticals.size()),
+                     static_cast<std::uint32_t>(parentheticalWords.size()),
+                     static_cast<std::uint32_t>(pauses.size())};
+    auto* out = static_cast<std::byte*>(allocate(header.bytes(), alignof(UtteranceExtras)));
+    auto* extras = new (out) UtteranceExtras(header);
+    std::byte* next = out + sizeof(UtteranceExtras);
+    auto put = [&next](auto items) {
+        using T = typename decltype(items)::value_type;
+        std::uninitialized_copy(items.begin(), items.end(), reinterpret_cast<T*>(next));
+        next += items.size_bytes();
+    };
+    put(codes);
+    put(mazes);
+    put(parentheticals);
+    put(parentheticalWords);
+    put(pauses);
+    return extras;
+}
+
 std::string_view TranscriptStore::adoptText(std::string text) {
     adopted_ = std::move(text);
     return adopted_;

@@ -60,6 +60,12 @@ public:
         return keep(std::span<const T>(&item, 1)).data();
     }
 
+    // An extras record with its pieces right after it (null when all are empty).
+    const UtteranceExtras* keepExtras(std::span<const Code> codes, std::span<const Maze> mazes,
+                                      std::span<const std::string_view> parentheticals,
+                                      std::span<const Word> parentheticalWords,
+                                      std::span<const Pause> pauses);
+
     // The word record of `draft`. Views inside `stable` (text the caller keeps
     // alive as long as the store) are kept as they are; others are copied.
     // A word with parts whose text and parts equal those of a word kept
