@@ -75,13 +75,11 @@ void areaWords(const SpeakerView& v, int i, WordArea area, std::vector<std::stri
     }
     built.clear();
     const std::span<const Word> words = v.utt(i).words;
-    size_t next = 0; // the next counted word
     for (size_t k = 0; k < words.size(); ++k) {
         const Word& w = words[k];
         bool maze = isMazeWord(w);
-        while (next < counted.size() && counted[next].word < k)
-            ++next;
-        bool body = !maze && next < counted.size() && counted[next].word == k;
+        bool body =
+            !maze && isCountedWord(v.utt(i), static_cast<int>(k), v.c.options.wordBase, v.c.codes);
         if ((body && area != WordArea::Mazes) || (maze && area != WordArea::MainBody)) {
             forms.push_back(built.emplace_back(surfaceForm(w)));
             roots.push_back(built.emplace_back(rootKey(w)));
@@ -245,7 +243,7 @@ void fillCategoriesAndVerbs(const SpeakerView& v, SpeakerMeasures& m) {
                 continue;
             const int id = spelling.root;
             if (!entries[id])
-                entries[id] = dictionaryCategories(v.utt(i).words[w.word].root(), *dictionary);
+                entries[id] = dictionaryCategories(spelling.word->root(), *dictionary);
             std::vector<int> guessed;
             if (entries[id]->empty())
                 guessed = guessCategories(v.c.tables.roots.name(id), t.endingGroups);

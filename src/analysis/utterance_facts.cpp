@@ -53,6 +53,7 @@ std::uint32_t spellingOf(const Word& w, FactTables& t) {
     if (!added)
         return it->second;
     SpellingFacts f;
+    f.word = &w;
     f.traits = traitsOf(w);
     f.endingsFrom = static_cast<std::uint32_t>(t.spellingEndings.size());
     for (std::string_view e : w.boundMorphemes()) {
@@ -91,6 +92,12 @@ void tallyCodes(const Utterance& u, const CodeMatchers& m, CodeFacts& f) {
 
 } // namespace
 
+bool isCountedWord(const Utterance& u, int index, const WordBase& base, const CodeMatchers& m) {
+    const Word& w = u.words[static_cast<size_t>(index)];
+    return !w.inMaze && !w.omitted && !w.unintelligible &&
+           passesWordBase(u, index, base, m.wordBase);
+}
+
 UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeMatchers& m,
                            FactTables& t) {
     UtteranceFacts f;
@@ -120,7 +127,6 @@ UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeM
         if (!passesWordBase(u, index, base, m.wordBase))
             continue;
         CountedWord counted;
-        counted.word = static_cast<std::uint32_t>(index);
         counted.spelling = spellingOf(w, t);
         const SpellingFacts& known = t.spellingList[counted.spelling];
         t.words.push_back(counted);

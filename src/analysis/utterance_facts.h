@@ -63,6 +63,7 @@ using RootIds = Numbering;
 // What a counted word's spelling gives, the same wherever the spelling
 // recurs: a word is split from its text and whether it is linked alone.
 struct SpellingFacts {
+    const Word* word = nullptr;    // the first word of this spelling
     int root = 0;                  // root number (RootIds)
     int form = 0;                  // surface form number
     WordTraits traits;             // what the category and verb counts need
@@ -72,10 +73,9 @@ struct SpellingFacts {
     int morphemes = 0;
 };
 
-// A counted main-body word of an utterance.
+// A counted main-body word of an utterance, in the order of the utterance's words.
 struct CountedWord {
     std::uint32_t spelling = 0; // FactTables::spellingList
-    std::uint32_t word = 0;     // index in Utterance::words
 };
 
 // What an utterance's codes give; most utterances have none.
@@ -129,6 +129,9 @@ struct UtteranceFacts {
     }
     const CodeFacts& codeFacts(const FactTables& t) const { return t.codeFacts[codes]; }
 };
+
+// Whether word `index` of `u` is a counted main-body word under the word base.
+bool isCountedWord(const Utterance& u, int index, const WordBase& base, const CodeMatchers& codes);
 
 // Gathers the facts of `u`, adding its words, roots and endings to `tables`.
 UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeMatchers& codes,
