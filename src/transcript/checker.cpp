@@ -78,16 +78,17 @@ struct Checker::State final : ProblemSink {
     void noteUntimedPause(PauseTally& tally);
     void finish();
     Entry& addEntry(EntryKind kind);
-    std::span<const std::string_view> keepCodes(const std::vector<std::string>& codes);
+    EntryCodes keepCodes(const std::vector<std::string>& codes);
 };
 
-std::span<const std::string_view> Checker::State::keepCodes(const std::vector<std::string>& codes) {
+EntryCodes Checker::State::keepCodes(const std::vector<std::string>& codes) {
     if (codes.empty())
         return {};
     std::vector<std::string_view> kept;
     for (const std::string& c : codes)
         kept.push_back(result.segmented.store->keepText(c));
-    return result.segmented.store->keep(kept);
+    TranscriptStore& store = *result.segmented.store;
+    return EntryCodes(store.keepOne(store.keep(kept)));
 }
 
 Entry& Checker::State::addEntry(EntryKind kind) {

@@ -180,12 +180,11 @@ TranscriptBuilder& TranscriptBuilder::utt(int group, std::string_view text) {
     return *this;
 }
 
-std::span<const std::string_view>
-TranscriptBuilder::keepCodes(const std::vector<std::string>& codes) {
+EntryCodes TranscriptBuilder::keepCodes(const std::vector<std::string>& codes) {
     std::vector<std::string_view> kept;
     for (const std::string& c : codes)
         kept.push_back(t_.store->keepText(c));
-    return t_.store->keep(kept);
+    return EntryCodes(t_.store->keepOne(t_.store->keep(kept)));
 }
 
 TranscriptBuilder& TranscriptBuilder::timing(int seconds, std::vector<std::string> codes) {
