@@ -399,13 +399,16 @@ CheckResult checkTranscript(const TranLines& lines, const CheckOptions& options)
 // Each line of `text` in turn (ended by LF, CR LF or CR), as splitLines cuts
 // them, without a list of all the lines.
 template <class F> void forEachLine(std::string_view text, F&& f) {
-    // The next CR or LF from `from`, npos when none; a plain loop, as a search
-    // for either of two characters tries each in turn at every byte.
-    auto lineEnd = [&text](size_t from) {
-        for (size_t i = from; i < text.size(); ++i)
-            if (text[i] == '\n' || text[i] == '\r')
-                return i;
-        return std::string_view::npos;
+    // The next CR or LF from `from`, npos when none. The next CR and the next
+    // LF are each searched for again only once passed, so a text without one
+    // of them is searched for it once.
+    size_t nextCr = text.find('\r'), nextLf = text.find('\n');
+    auto lineEnd = [&](size_t from) {
+        if (nextCr != std::string_view::npos && nextCr < from)
+            nextCr = text.find('\r', from);
+        if (nextLf != std::string_view::npos && nextLf < from)
+            nextLf = text.find('\n', from);
+        return std::min(nextCr, nextLf);
     };
     size_t start = 0;
     while (start < text.size()) {
