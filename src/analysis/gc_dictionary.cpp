@@ -18,6 +18,30 @@ size_t keyLength(std::string_view line) {
     return blank == std::string_view::npos ? 0 : blank;
 }
 
+// dictionaryHash of the UTF-16 form of `key`, without building it.
+std::int32_t utf8KeyHash(std::string_view key, std::int32_t capacity) {
+    std::int32_t h = 0;
+    auto add = [&](char32_t unit) { h = (h * 64 + static_cast<std::int32_t>(unit)) % capacity; };
+    size_t pos = 0;
+    while (pos < key.size()) {
+        const auto byte = static_cast<unsigned char>(key[pos]);
+        if (byte < 0x80) {
+            add(byte);
+            ++pos;
+            continue;
+        }
+        char32_t cp = nextCodePoint(key, pos);
+        if (cp >= 0x10000) {
+            cp -= 0x10000;
+            add(static_cast<char16_t>(0xD800 + (cp >> 10)));
+            add(static_cast<char16_t>(0xDC00 + (cp & 0x3FF)));
+        } else {
+            add(static_cast<char16_t>(cp));
+        }
+    }
+    return h;
+}
+
 } // namespace
 
 std::int32_t dictionaryHash(std::u16string_view key, std::int32_t capacity) {
@@ -32,7 +56,7 @@ GcDictionary::GcDictionary(std::int32_t capacity)
 
 bool GcDictionary::insert(std::string_view line) {
     size_t keyLen = keyLength(line);
-    const std::int32_t start = dictionaryHash(toUtf16(line.substr(0, keyLen)), capacity_);
+    const std::int32_t start = utf8KeyHash(line.substr(0, keyLen), capacity_);
     std::int32_t i = start;
     while (slots_[i].used) {
         i = (i + 1) % capacity_;
@@ -63,7 +87,7 @@ bool GcDictionary::loadFile(const std::string& path, Prompter& prompter) {
 }
 
 std::optional<std::string_view> GcDictionary::lookup(std::string_view word) const {
-    std::int32_t i = dictionaryHash(toUtf16(word), capacity_);
+    std::int32_t i = utf8KeyHash(word, capacity_);
     for (std::int32_t probes = 0; slots_[i].used && probes < capacity_; ++probes) {
         const Slot& s = slots_[i];
         if (std::string_view(s.line).substr(0, s.keyLength) == word)

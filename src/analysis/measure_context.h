@@ -3,7 +3,6 @@
 // analysis engine; the families of measures are filled by separate functions.
 #pragma once
 
-#include <functional>
 #include <vector>
 
 #include "analysis/measures.h"
@@ -30,18 +29,20 @@ struct SpeakerView {
 
     const Utterance& utt(int i) const { return c.t.utterances[i]; }
     const UtteranceFacts& facts(int i) const { return c.facts[i]; }
+    const CodeFacts& codes(int i) const { return c.facts[i].codeFacts(c.tables); }
+    const SpellingFacts& spelling(const CountedWord& w) const { return c.tables.spelling(w); }
     // The counted main-body words of utterance `i`.
     std::span<const CountedWord> words(int i) const { return c.facts[i].words(c.tables); }
     // The root numbers of utterance `i`: its counted words', then its counted
     // parenthetical words'.
     template <class F> void forEachRoot(int i, F&& f) const {
         for (const CountedWord& w : words(i))
-            f(w.root);
+            f(c.tables.spelling(w).root);
         for (int id : c.facts[i].remarkRoots(c.tables))
             f(id);
     }
     const ResponseType& response(int i) const { return c.selection.responses[i]; }
-    int countIf(const std::vector<int>& utts, const std::function<bool(int)>& pred) const {
+    template <class Pred> int countIf(const std::vector<int>& utts, Pred&& pred) const {
         int n = 0;
         for (int i : utts)
             n += pred(i) ? 1 : 0;

@@ -49,10 +49,18 @@ MeasureResult computeMeasures(const SegmentedTranscript& transcript,
 
     MeasureContext c{transcript, options, result.selection, {}, matchersFor(options), {}};
     c.facts.resize(transcript.utterances.size());
-    size_t words = 0; // room for every word: a run that doubles as it grows needs thrice
-    for (int i : result.selection.utterances)
-        words += transcript.utterances[i].words.size();
+    // Room for every word, remark word and code record: a run that doubles as
+    // it grows needs thrice.
+    size_t words = 0, remarks = 0, withCodes = 1;
+    for (int i : result.selection.utterances) {
+        const Utterance& u = transcript.utterances[i];
+        words += u.words.size();
+        remarks += u.parentheticalWords().size();
+        withCodes += u.codes().empty() ? 0 : 1;
+    }
     c.tables.words.reserve(words);
+    c.tables.remarkRoots.reserve(remarks);
+    c.tables.codeFacts.reserve(withCodes);
     for (int i : result.selection.utterances)
         c.facts[i] = gatherFacts(transcript.utterances[i], options.wordBase, c.codes, c.tables);
 

@@ -1,6 +1,7 @@
 // Discourse: responses to the other speaker's questions and prompts,
 // imitations, spontaneous utterances, turns, overlaps and interruptions.
 #include <algorithm>
+#include <array>
 
 #include "analysis/measure_context.h"
 #include "base/format.h"
@@ -51,16 +52,22 @@ void fillSpontaneous(const SpeakerView& v, SpeakerMeasures& m) {
         const ResponseType& r = v.response(i);
         return !r.question && !r.prompt && !r.imitation;
     };
-    m[Id::SponUt] = Value::count(v.countIf(v.total, spon));
+    std::array<int, 6> byTerminator{}; // spontaneous utterances by terminator
+    int spontaneous = 0;
+    for (int i : v.total)
+        if (spon(i)) {
+            ++spontaneous;
+            const auto term = static_cast<size_t>(v.utt(i).terminator);
+            if (term < byTerminator.size())
+                ++byTerminator[term];
+        }
+    m[Id::SponUt] = Value::count(spontaneous);
     const std::pair<Id, Terminator> rows[] = {
         {Id::SponStmt, Terminator::Statement}, {Id::SponExcl, Terminator::Exclamation},
         {Id::SponQues, Terminator::Question},  {Id::SponIntPrmpt, Terminator::Prompt},
         {Id::SponAban, Terminator::Abandoned}, {Id::SponInter, Terminator::Interrupted}};
-    for (const auto& [id, terminator] : rows) {
-        Terminator term = terminator; // clang cannot capture a structured binding
-        m[id] = Value::count(
-            v.countIf(v.total, [&](int i) { return spon(i) && v.utt(i).terminator == term; }));
-    }
+    for (const auto& [id, terminator] : rows)
+        m[id] = Value::count(byTerminator[static_cast<size_t>(terminator)]);
 }
 
 void fillOverlapsAndInterruptions(const SpeakerView& v, SpeakerMeasures& m) {

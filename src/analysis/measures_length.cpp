@@ -22,6 +22,10 @@ using Id = MeasureId;
 // Root numbers of the counted words of some utterances, in order.
 std::vector<int> rootIdsOf(const SpeakerView& v, const std::vector<int>& utts) {
     std::vector<int> ids;
+    size_t count = 0; // room for exactly these: a run that doubles as it grows needs thrice
+    for (int i : utts)
+        count += static_cast<size_t>(v.facts(i).wordCount);
+    ids.reserve(count);
     for (int i : utts)
         v.forEachRoot(i, [&](int id) { ids.push_back(id); });
     return ids;
@@ -81,11 +85,12 @@ void fillBoundMorphemes(const SpeakerView& v, SpeakerMeasures& m) {
     for (int i : v.analysisSet) {
         bound += v.facts(i).boundMorphemes;
         clitics += v.facts(i).clitics;
-        for (int id : v.facts(i).endings(v.c.tables))
-            if (!seen[static_cast<size_t>(id)]) {
-                seen[static_cast<size_t>(id)] = 1;
-                ++different;
-            }
+        for (const CountedWord& w : v.words(i))
+            for (int id : v.c.tables.endingsOf(v.spelling(w)))
+                if (!seen[static_cast<size_t>(id)]) {
+                    seen[static_cast<size_t>(id)] = 1;
+                    ++different;
+                }
     }
     m[Id::BoundMorphs] = Value::count(bound);
     m[Id::BoundClitics] = Value::count(clitics);

@@ -31,6 +31,8 @@ struct TextHash {
 template <size_t N> struct Tally {
     std::array<WordCount, N>& counts;
     std::array<std::unordered_set<std::string, TextHash, std::equal_to<>>, N> seen{};
+    // Per kind, the numbered forms already added (their text is in `seen`).
+    std::array<std::vector<bool>, N> seenForms{};
 
     // One occurrence of `word`; a new word adds a type.
     void add(int k, std::string_view word) {
@@ -40,6 +42,18 @@ template <size_t N> struct Tally {
             counts[k].words.emplace_back(word);
             ++counts[k].types;
         }
+    }
+    // The same for a numbered surface form: its text is looked up once.
+    void addForm(int k, int form, std::string_view word) {
+        std::vector<bool>& known = seenForms[k];
+        if (static_cast<size_t>(form) < known.size() && known[static_cast<size_t>(form)]) {
+            ++counts[k].total;
+            return;
+        }
+        if (known.size() <= static_cast<size_t>(form))
+            known.resize(static_cast<size_t>(form) + 1, false);
+        known[static_cast<size_t>(form)] = true;
+        add(k, word);
     }
 };
 
@@ -54,20 +68,18 @@ void areaWords(const SpeakerView& v, int i, WordArea area, std::vector<std::stri
     const std::span<const CountedWord> counted = v.words(i);
     if (area == WordArea::MainBody) {
         for (const CountedWord& w : counted) {
-            forms.push_back(t.forms.name(w.form));
-            roots.push_back(t.roots.name(w.root));
+            forms.push_back(t.forms.name(t.spelling(w).form));
+            roots.push_back(t.roots.name(t.spelling(w).root));
         }
         return;
     }
     built.clear();
     const std::span<const Word> words = v.utt(i).words;
-    size_t next = 0; // the next counted word
     for (size_t k = 0; k < words.size(); ++k) {
         const Word& w = words[k];
         bool maze = isMazeWord(w);
-        while (next < counted.size() && counted[next].word < k)
-            ++next;
-        bool body = !maze && next < counted.size() && counted[next].word == k;
+        bool body =
+            !maze && isCountedWord(v.utt(i), static_cast<int>(k), v.c.options.wordBase, v.c.codes);
         if ((body && area != WordArea::Mazes) || (maze && area != WordArea::MainBody)) {
             forms.push_back(built.emplace_back(surfaceForm(w)));
             roots.push_back(built.emplace_back(rootKey(w)));
@@ -85,18 +97,69 @@ bool phraseMatchesAt(const WordListEntry& e, const std::vector<std::string_view>
     return true;
 }
 
+void addPhrase(const WordListEntry& e, int kind, const std::vector<std::string_view>& forms,
+               size_t at, Tally<kWordListKinds>& tally) {
+    std::string text(forms[at]);
+    for (size_t k = 1; k < e.words.size(); ++k) {
+        text += " ";
+        text += forms[at + k];
+    }
+    tally.add(kind, text);
+}
+
 void countPhrases(const StandardWordLists& lists, int set,
                   const std::vector<std::string_view>& forms, Tally<kWordListKinds>& tally) {
     for (const auto& [kind, entry] : lists.phrases(set))
         for (size_t at = 0; at < forms.size(); ++at)
-            if (phraseMatchesAt(entry, forms, at)) {
-                std::string text(forms[at]);
-                for (size_t k = 1; k < entry.words.size(); ++k) {
-                    text += " ";
-                    text += forms[at + k];
-                }
-                tally.add(kind, text);
-            }
+            if (phraseMatchesAt(entry, forms, at))
+                addPhrase(entry, kind, forms, at, tally);
+}
+
+// What the word lists say of each numbered surface form, found once: its
+// lists (kindMask) and the phrase entries whose first word it matches.
+struct FormLookups {
+    static constexpr std::uint64_t kNotLooked = ~std::uint64_t{0};
+    std::vector<std::uint32_t> kinds;
+    std::vector<bool> kindsKnown;
+    std::vector<std::uint64_t> phraseStarts; // bit p: phrase entry p, when 64 or fewer
+
+    explicit FormLookups(size_t forms)
+        : kinds(forms, 0), kindsKnown(forms, false), phraseStarts(forms, kNotLooked) {}
+};
+
+// countPhrases for numbered forms: only the phrases whose first word matches
+// are tried at each place.
+void countPhrasesNumbered(const StandardWordLists& lists, int set,
+                          const std::vector<std::string_view>& forms,
+                          std::span<const CountedWord> counted, const FactTables& t,
+                          FormLookups& look, Tally<kWordListKinds>& tally) {
+    const auto& phrases = lists.phrases(set);
+    if (phrases.size() > 64 || phrases.empty()) {
+        countPhrases(lists, set, forms, tally);
+        return;
+    }
+    // Matches in the order countPhrases finds them: phrase by phrase.
+    std::uint64_t any = 0;
+    for (size_t at = 0; at < forms.size(); ++at) {
+        std::uint64_t& starts =
+            look.phraseStarts[static_cast<size_t>(t.spelling(counted[at]).form)];
+        if (starts == FormLookups::kNotLooked) {
+            starts = 0;
+            for (size_t p = 0; p < phrases.size(); ++p)
+                if (wordMatchesPattern(forms[at], phrases[p].second.words.front()))
+                    starts |= std::uint64_t{1} << p;
+        }
+        any |= starts;
+    }
+    for (size_t p = 0; any != 0; ++p, any >>= 1) {
+        if (!(any & 1u))
+            continue;
+        const auto& [kind, entry] = phrases[p];
+        for (size_t at = 0; at < forms.size(); ++at)
+            if ((look.phraseStarts[static_cast<size_t>(t.spelling(counted[at]).form)] >> p) & 1u &&
+                phraseMatchesAt(entry, forms, at))
+                addPhrase(entry, kind, forms, at, tally);
+    }
 }
 
 bool isVerbCategory(int c) {
@@ -116,27 +179,44 @@ void fillWordLists(const SpeakerView& v, SpeakerMeasures& m) {
     // The lists of each root number, looked up once; kNotLooked until then.
     constexpr std::uint32_t kNotLooked = ~0u;
     std::vector<std::uint32_t> rootKinds(static_cast<size_t>(v.c.rootIds().size()), kNotLooked);
+    const bool numbered = o.wordListArea == WordArea::MainBody;
+    FormLookups look(numbered ? static_cast<size_t>(v.c.tables.forms.size()) : 0);
     for (int i : o.wordListsOnAnalysisSet ? v.analysisSet : v.total) {
         areaWords(v, i, o.wordListArea, form, roots, built);
-        const bool numbered = o.wordListArea == WordArea::MainBody;
+        const std::span<const CountedWord> counted = v.words(i);
         for (size_t k = 0; k < form.size(); ++k) {
             const std::string_view root = roots[k];
             std::uint32_t kinds = 0;
             if (numbered) {
-                std::uint32_t& known = rootKinds[static_cast<size_t>(v.words(i)[k].root)];
+                const SpellingFacts& w = v.spelling(counted[k]);
+                std::uint32_t& known = rootKinds[static_cast<size_t>(w.root)];
                 if (known == kNotLooked)
                     known = o.wordLists->kindMask(set, root);
                 kinds = known;
-            } else {
-                kinds = o.wordLists->kindMask(set, root);
+                if (root != form[k]) {
+                    const size_t f = static_cast<size_t>(w.form);
+                    if (!look.kindsKnown[f]) {
+                        look.kinds[f] = o.wordLists->kindMask(set, form[k]);
+                        look.kindsKnown[f] = true;
+                    }
+                    kinds |= look.kinds[f];
+                }
+                for (int kind = 0; kinds != 0; ++kind, kinds >>= 1)
+                    if (kinds & 1u)
+                        tally.addForm(kind, w.form, form[k]);
+                continue;
             }
+            kinds = o.wordLists->kindMask(set, root);
             if (root != form[k])
                 kinds |= o.wordLists->kindMask(set, form[k]);
             for (int kind = 0; kinds != 0; ++kind, kinds >>= 1)
                 if (kinds & 1u)
                     tally.add(kind, form[k]);
         }
-        countPhrases(*o.wordLists, set, form, tally);
+        if (numbered)
+            countPhrasesNumbered(*o.wordLists, set, form, counted, v.c.tables, look, tally);
+        else
+            countPhrases(*o.wordLists, set, form, tally);
     }
     for (int k = 0; k < kWordListKinds; ++k) {
         m[*measureIdByName(kStandardWordLists[k].totalColumn)] = Value::count(m.wordLists[k].total);
@@ -157,12 +237,13 @@ void fillCategoriesAndVerbs(const SpeakerView& v, SpeakerMeasures& m) {
     for (int i : v.analysisSet) {
         int here = 0;
         for (const CountedWord& w : v.words(i)) {
-            const WordTraits& t = w.traits;
+            const SpellingFacts& spelling = v.spelling(w);
+            const WordTraits& t = spelling.traits;
             if (t.skipped)
                 continue;
-            const int id = w.root;
+            const int id = spelling.root;
             if (!entries[id])
-                entries[id] = dictionaryCategories(v.utt(i).words[w.word].root(), *dictionary);
+                entries[id] = dictionaryCategories(spelling.word->root(), *dictionary);
             std::vector<int> guessed;
             if (entries[id]->empty())
                 guessed = guessCategories(v.c.tables.roots.name(id), t.endingGroups);

@@ -1,5 +1,7 @@
 // Utterance counts by kind, terminator and code, errors and omissions, and
 // the standard utterance lists.
+#include <array>
+
 #include "analysis/measure_context.h"
 
 namespace tavi {
@@ -12,18 +14,24 @@ void percentOf(SpeakerMeasures& m, Id id, int part, int whole) {
     m[id] = Value::ratio(part, whole, 100);
 }
 
-bool isIncompleteOrCode(const Utterance& u, Terminator t) {
-    return u.terminator == t;
-}
-
 } // namespace
 
 void fillUtteranceKinds(const SpeakerView& v, SpeakerMeasures& m) {
     const auto& T = v.total;
     const int total = static_cast<int>(T.size());
-    auto byTerm = [&](Terminator t) {
-        return v.countIf(T, [&](int i) { return isIncompleteOrCode(v.utt(i), t); });
-    };
+    // Utterances by terminator, nonverbal and by intelligibility, in one walk.
+    std::array<int, 6> terms{};
+    std::array<int, 3> intel{};
+    int nonverbal = 0;
+    for (int i : T) {
+        const Utterance& u = v.utt(i);
+        const auto term = static_cast<size_t>(u.terminator);
+        if (term < terms.size())
+            ++terms[term];
+        ++intel[static_cast<size_t>(u.intelligibility)];
+        nonverbal += u.nonverbal ? 1 : 0;
+    }
+    auto byTerm = [&](Terminator t) { return terms[static_cast<size_t>(t)]; };
     m[Id::TotNumUt] = Value::count(total);
     m[Id::TotASetUt] = Value::count(static_cast<int>(v.analysisSet.size()));
     m[Id::Statements] = Value::count(byTerm(Terminator::Statement));
@@ -36,11 +44,8 @@ void fillUtteranceKinds(const SpeakerView& v, SpeakerMeasures& m) {
     m[Id::PctAbanUtt] = m[Id::PctAbanUt];
     m[Id::InterruptUt] = Value::count(byTerm(Terminator::Interrupted));
 
-    const int nonverbal = v.countIf(T, [&](int i) { return v.utt(i).nonverbal; });
-    const int unintel = v.countIf(
-        T, [&](int i) { return v.utt(i).intelligibility == Intelligibility::Unintelligible; });
-    const int partly =
-        v.countIf(T, [&](int i) { return v.utt(i).intelligibility == Intelligibility::Partly; });
+    const int unintel = intel[static_cast<size_t>(Intelligibility::Unintelligible)];
+    const int partly = intel[static_cast<size_t>(Intelligibility::Partly)];
     m[Id::NonVerbalUt] = Value::count(nonverbal);
     m[Id::TotVerbalUt] = Value::count(total - nonverbal);
     m[Id::UnintelUt] = Value::count(unintel);
@@ -66,34 +71,35 @@ void fillCodesAndErrors(const SpeakerView& v, SpeakerMeasures& m) {
     const auto& T = v.total;
     const int total = static_cast<int>(T.size());
     auto has = [&](auto pred) { return v.countIf(T, pred); };
-    m[Id::UttwWdCode] = Value::count(has([&](int i) { return v.facts(i).wordCode; }));
-    m[Id::UttwUtCode] = Value::count(has([&](int i) { return v.facts(i).utteranceCode; }));
-    m[Id::UttwExclCode] = Value::count(has([&](int i) { return v.facts(i).excludeCode; }));
+    m[Id::UttwWdCode] = Value::count(has([&](int i) { return v.codes(i).wordCode; }));
+    m[Id::UttwUtCode] = Value::count(has([&](int i) { return v.codes(i).utteranceCode; }));
+    m[Id::UttwExclCode] = Value::count(has([&](int i) { return v.codes(i).excludeCode; }));
     m[Id::UtWCode] = Value::count(has([&](int i) { return !v.utt(i).codes().empty(); }));
 
     CodeTally err, fl, nm, cs;
     int omitWd = 0, omitBm = 0, omitCl = 0, errorWords = 0, words = 0;
     for (int i : T) {
         const UtteranceFacts& f = v.facts(i);
-        for (auto [sum, part] : {std::pair{&err, &f.errors},
-                                 {&fl, &f.fluency},
-                                 {&nm, &f.nonmainstream},
-                                 {&cs, &f.codeSwitch}}) {
+        const CodeFacts& c = v.codes(i);
+        for (auto [sum, part] : {std::pair{&err, &c.errors},
+                                 {&fl, &c.fluency},
+                                 {&nm, &c.nonmainstream},
+                                 {&cs, &c.codeSwitch}}) {
             sum->onWords += part->onWords;
             sum->onUtterance += part->onUtterance;
         }
         omitWd += f.omittedWords;
         omitBm += f.omittedMorphemes;
         omitCl += f.omittedClitics;
-        errorWords += f.errorWords;
+        errorWords += c.errorWords;
         words += f.wordCount;
     }
-    const int utErr = has([&](int i) { return v.facts(i).errors.total() > 0; });
-    const int utFl = has([&](int i) { return v.facts(i).fluency.total() > 0; });
-    const int utNm = has([&](int i) { return v.facts(i).nonmainstream.total() > 0; });
-    const int utCs = has([&](int i) { return v.facts(i).codeSwitch.total() > 0; });
+    const int utErr = has([&](int i) { return v.codes(i).errors.total() > 0; });
+    const int utFl = has([&](int i) { return v.codes(i).fluency.total() > 0; });
+    const int utNm = has([&](int i) { return v.codes(i).nonmainstream.total() > 0; });
+    const int utCs = has([&](int i) { return v.codes(i).codeSwitch.total() > 0; });
     const int utErrOrOmit =
-        has([&](int i) { return v.facts(i).errors.total() > 0 || v.facts(i).hasOmission(); });
+        has([&](int i) { return v.codes(i).errors.total() > 0 || v.facts(i).hasOmission(); });
 
     m[Id::UtWErrCode] = Value::count(utErr);
     m[Id::UtWFLuencyCode] = m[Id::UttwFC] = Value::count(utFl);
@@ -124,7 +130,7 @@ void fillCodesAndErrors(const SpeakerView& v, SpeakerMeasures& m) {
     // Nonmainstream forms are a syntax measure: over analysis-set utterances.
     const int aset = static_cast<int>(v.analysisSet.size());
     const int asetNm =
-        v.countIf(v.analysisSet, [&](int i) { return v.facts(i).nonmainstream.total() > 0; });
+        v.countIf(v.analysisSet, [&](int i) { return v.codes(i).nonmainstream.total() > 0; });
     m[Id::UttWithNMForms] = Value::count(asetNm);
     percentOf(m, Id::PctUtWNMForms, asetNm, aset);
     m[Id::PCUttWithNMForms] = m[Id::PctUtWNMForms];
@@ -135,6 +141,7 @@ void fillUtteranceLists(const SpeakerView& v, SpeakerMeasures& m) {
         const Utterance& u = v.utt(i);
         const ResponseType& r = v.response(i);
         const UtteranceFacts& f = v.facts(i);
+        const CodeFacts& c = v.codes(i);
         const bool in[kUtteranceLists] = {r.question || r.prompt,                   // PRIP
                                           r.imitation,                              // PIMIT
                                           !r.question && !r.prompt && !r.imitation, // PSPON
@@ -147,10 +154,10 @@ void fillUtteranceLists(const SpeakerView& v, SpeakerMeasures& m) {
                                           u.hasComment,                             // PCOMMENT
                                           u.hasQuotation,                           // PDIAL
                                           !u.codes().empty(),                       // PCODE
-                                          f.errors.total() > 0,                     // PECODE
-                                          f.fluency.total() > 0,                    // PFLCODE
-                                          f.nonmainstream.total() > 0,              // PNMCODE
-                                          f.codeSwitch.total() > 0,                 // PCSCODE
+                                          c.errors.total() > 0,                     // PECODE
+                                          c.fluency.total() > 0,                    // PFLCODE
+                                          c.nonmainstream.total() > 0,              // PNMCODE
+                                          c.codeSwitch.total() > 0,                 // PCSCODE
                                           u.terminator == Terminator::Statement,    // PSTMT
                                           u.terminator == Terminator::Exclamation,  // PEXMK
                                           u.terminator == Terminator::Question,     // PQUES

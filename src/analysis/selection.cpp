@@ -14,31 +14,58 @@ namespace tavi {
 
 namespace {
 
-std::vector<std::string> mainBodyForms(const Utterance& u, int count) {
-    std::vector<std::string> forms;
-    forms.reserve(static_cast<size_t>(count));
+// Reused room for comparing the words of two utterances.
+struct ImitationScratch {
+    std::vector<const Word*> mine, theirs;
+    std::string key, form, other;
+};
+
+void mainBodyWords(const Utterance& u, std::vector<const Word*>& out) {
+    out.clear();
     for (const Word& w : u.words)
         if (w.isMainBodyWord())
-            forms.push_back(surfaceForm(w));
-    return forms;
+            out.push_back(&w);
 }
 
-// Whether `part` is `whole` with some words left out, order kept.
-bool isInOrderSubset(const std::vector<std::string>& part, const std::vector<std::string>& whole) {
-    size_t j = 0;
-    for (const std::string& w : part) {
-        while (j < whole.size() && whole[j] != w)
-            ++j;
-        if (j == whole.size())
+// A word whose surface form is its text in lower case: no parts, not a
+// part word, no bound prefix mark.
+bool formIsLowerText(const Word& w) {
+    return !w.parts() && !w.incomplete && w.text().find('\\') == std::string_view::npos;
+}
+
+bool equalAsciiCase(std::string_view a, std::string_view b) {
+    if (a.size() != b.size())
+        return false;
+    for (size_t k = 0; k < a.size(); ++k) {
+        char x = a[k], y = b[k];
+        if (x >= 'A' && x <= 'Z')
+            x = static_cast<char>(x + 32);
+        if (y >= 'A' && y <= 'Z')
+            y = static_cast<char>(y + 32);
+        if (x != y)
             return false;
-        ++j;
     }
     return true;
 }
 
+// Whether two words have the same surface form (as surfaceForm gives it).
+bool sameForm(const Word& a, const Word& b, ImitationScratch& s) {
+    if (a.linked == b.linked && a.text() == b.text())
+        return true; // one spelling: one form
+    if (formIsLowerText(a) && formIsLowerText(b))
+        return equalAsciiCase(a.text(), b.text());
+    rootKeyInto(a, s.key);
+    surfaceFormInto(a, s.key, s.form);
+    rootKeyInto(b, s.key);
+    surfaceFormInto(b, s.key, s.other);
+    return s.form == s.other;
+}
+
 // `mineCount` and `theirsCount`: the main-body words of `u` and of `prev`.
+// An exact imitation has the same surface forms in the same order; a reduced
+// one fewer of them, some left out, order kept.
 void classifyImitation(const Utterance& u, int mineCount, const Utterance& prev, int theirsCount,
-                       ResponseType& r) {
+                       ResponseType& r, ImitationScratch& s) {
     if (mineCount == 0)
         return;
     if (mineCount > theirsCount) {
@@ -46,11 +73,29 @@ void classifyImitation(const Utterance& u, int mineCount, const Utterance& prev,
         r.exactImitation = r.reducedImitation = r.imitation = false;
         return;
     }
-    std::vector<std::string> mine = mainBodyForms(u, mineCount),
-                             theirs = mainBodyForms(prev, theirsCount);
-    r.exactImitation = mine == theirs;
-    r.reducedImitation =
-        !r.exactImitation && mine.size() < theirs.size() && isInOrderSubset(mine, theirs);
+    mainBodyWords(u, s.mine);
+    mainBodyWords(prev, s.theirs);
+    if (s.mine.size() == s.theirs.size()) {
+        bool same = true;
+        for (size_t k = 0; k < s.mine.size() && same; ++k)
+            same = sameForm(*s.mine[k], *s.theirs[k], s);
+        r.exactImitation = same;
+        r.reducedImitation = false;
+    } else {
+        r.exactImitation = false;
+        bool subset = true;
+        size_t j = 0;
+        for (const Word* w : s.mine) {
+            while (j < s.theirs.size() && !sameForm(*w, *s.theirs[j], s))
+                ++j;
+            if (j == s.theirs.size()) {
+                subset = false;
+                break;
+            }
+            ++j;
+        }
+        r.reducedImitation = subset;
+    }
     r.imitation = r.exactImitation || r.reducedImitation;
 }
 
@@ -316,6 +361,7 @@ std::optional<int> elapsedInCut(const SegmentedTranscript& t, size_t first, size
 std::vector<ResponseType> classifyResponses(const SegmentedTranscript& t, const YesNoTest& yesNo) {
     std::vector<ResponseType> result(t.utterances.size());
     int wordsBefore = 0; // main-body words of the utterance before
+    ImitationScratch scratch;
     for (size_t i = 0; i < t.utterances.size(); ++i) {
         const Utterance& u = t.utterances[i];
         const int words = mainBodyWordCount(u);
@@ -330,7 +376,7 @@ std::vector<ResponseType> classifyResponses(const SegmentedTranscript& t, const 
         r.question = prev.terminator == Terminator::Question;
         r.prompt = prev.terminator == Terminator::Prompt;
         r.yesNo = r.question && yesNo && firstWordIsYesNo(u, yesNo);
-        classifyImitation(u, words, prev, prevWords, r);
+        classifyImitation(u, words, prev, prevWords, r, scratch);
     }
     return result;
 }

@@ -45,7 +45,36 @@ WordTraits traitsOf(const Word& w) {
     return t;
 }
 
-void tallyCodes(const Utterance& u, const CodeMatchers& m, UtteranceFacts& f) {
+// The facts of `w`'s spelling, worked out at its first use.
+std::uint32_t spellingOf(const Word& w, FactTables& t) {
+    auto& known = t.spellings[w.linked ? 1 : 0];
+    auto [it, added] =
+        known.try_emplace(w.text(), static_cast<std::uint32_t>(t.spellingList.size()));
+    if (!added)
+        return it->second;
+    SpellingFacts f;
+    f.word = &w;
+    f.traits = traitsOf(w);
+    f.endingsFrom = static_cast<std::uint32_t>(t.spellingEndings.size());
+    for (std::string_view e : w.boundMorphemes()) {
+        t.form.assign(e);
+        for (char& c : t.form)
+            if (c >= 'A' && c <= 'Z')
+                c = static_cast<char>(c + 32);
+        t.spellingEndings.push_back(t.endings.idOf(t.form));
+    }
+    rootKeyInto(w, t.key);
+    f.root = t.roots.idOf(t.key);
+    surfaceFormInto(w, t.key, t.form);
+    f.form = t.forms.idOf(t.form);
+    f.morphemes = morphemeCount(w);
+    f.boundMorphemes = static_cast<int>(w.boundMorphemes().size());
+    f.clitics = static_cast<int>(w.clitics().size());
+    t.spellingList.push_back(f);
+    return it->second;
+}
+
+void tallyCodes(const Utterance& u, const CodeMatchers& m, CodeFacts& f) {
     for (const Code& c : u.codes()) {
         bool onWord = c.word >= 0;
         (onWord ? f.wordCode : f.utteranceCode) = true;
@@ -63,12 +92,18 @@ void tallyCodes(const Utterance& u, const CodeMatchers& m, UtteranceFacts& f) {
 
 } // namespace
 
+bool isCountedWord(const Utterance& u, int index, const WordBase& base, const CodeMatchers& m) {
+    const Word& w = u.words[static_cast<size_t>(index)];
+    return !w.inMaze && !w.omitted && !w.unintelligible &&
+           passesWordBase(u, index, base, m.wordBase);
+}
+
 UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeMatchers& m,
                            FactTables& t) {
     UtteranceFacts f;
     f.wordsFrom = static_cast<std::uint32_t>(t.words.size());
     f.remarksFrom = static_cast<std::uint32_t>(t.remarkRoots.size());
-    f.endingsFrom = static_cast<std::uint32_t>(t.endingIds.size());
+    CodeFacts codes;
     f.overlap = u.hasOverlap;
     for (int index = 0; index < static_cast<int>(u.words.size()); ++index) {
         const Word& w = u.words[index];
@@ -92,31 +127,25 @@ UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeM
         if (!passesWordBase(u, index, base, m.wordBase))
             continue;
         CountedWord counted;
-        counted.word = static_cast<std::uint32_t>(index);
-        counted.traits = traitsOf(w);
-        for (std::string_view e : w.boundMorphemes()) {
-            t.form.assign(e);
-            for (char& c : t.form)
-                if (c >= 'A' && c <= 'Z')
-                    c = static_cast<char>(c + 32);
-            t.endingIds.push_back(t.endings.idOf(t.form));
-        }
-        rootKeyInto(w, t.key);
-        counted.root = t.roots.idOf(t.key);
-        surfaceFormInto(w, t.key, t.form);
-        counted.form = t.forms.idOf(t.form);
+        counted.spelling = spellingOf(w, t);
+        const SpellingFacts& known = t.spellingList[counted.spelling];
         t.words.push_back(counted);
         ++f.counted;
-        f.morphemes += morphemeCount(w);
-        f.boundMorphemes += static_cast<int>(w.boundMorphemes().size());
-        f.clitics += static_cast<int>(w.clitics().size());
-        f.errorWords += wordCarries(u, index, m.errors) ? 1 : 0;
+        f.morphemes += known.morphemes;
+        f.boundMorphemes += known.boundMorphemes;
+        f.clitics += known.clitics;
+        if (!u.codes().empty())
+            codes.errorWords += wordCarries(u, index, m.errors) ? 1 : 0;
     }
     f.wordCount = static_cast<int>(f.counted);
     if (!base.excludeParenthetical)
         addParentheticalWords(u, f, t);
     f.morphemes += f.wordCount - static_cast<int>(f.counted);
-    tallyCodes(u, m, f);
+    if (!u.codes().empty()) {
+        tallyCodes(u, m, codes);
+        f.codes = static_cast<std::uint32_t>(t.codeFacts.size());
+        t.codeFacts.push_back(codes);
+    }
     return f;
 }
 

@@ -2,6 +2,7 @@
 // over its words and codes under the word base and the code lists.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <deque>
 #include <span>
@@ -59,12 +60,29 @@ private:
 // The roots of one transcript.
 using RootIds = Numbering;
 
-// A counted main-body word of an utterance.
+// What a counted word's spelling gives, the same wherever the spelling
+// recurs: a word is split from its text and whether it is linked alone.
+struct SpellingFacts {
+    const Word* word = nullptr;    // the first word of this spelling
+    int root = 0;                  // root number (RootIds)
+    int form = 0;                  // surface form number
+    WordTraits traits;             // what the category and verb counts need
+    std::uint32_t endingsFrom = 0; // FactTables::spellingEndings[endingsFrom, + boundMorphemes)
+    int boundMorphemes = 0;
+    int clitics = 0;
+    int morphemes = 0;
+};
+
+// A counted main-body word of an utterance, in the order of the utterance's words.
 struct CountedWord {
-    int root = 0;           // root number (RootIds)
-    int form = 0;           // surface form number
-    WordTraits traits;      // what the category and verb counts need
-    std::uint32_t word = 0; // index in Utterance::words
+    std::uint32_t spelling = 0; // FactTables::spellingList
+};
+
+// What an utterance's codes give; most utterances have none.
+struct CodeFacts {
+    bool wordCode = false, utteranceCode = false, excludeCode = false;
+    CodeTally errors, fluency, nonmainstream, codeSwitch;
+    int errorWords = 0; // counted words carrying an error code
 };
 
 // The counted words, roots and endings of every utterance, one run each,
@@ -75,15 +93,24 @@ struct FactTables {
     Numbering endings; // bound morphemes in lower case
     std::vector<CountedWord> words;
     std::vector<int> remarkRoots; // root numbers of counted parenthetical words
-    std::vector<int> endingIds;
-    std::string key, form; // scratch
+    std::string key, form;        // scratch
+    // Each spelling met, plain and linked: its number in spellingList.
+    std::array<std::unordered_map<std::string_view, std::uint32_t>, 2> spellings;
+    std::vector<SpellingFacts> spellingList;
+    std::vector<int> spellingEndings;
+    std::vector<CodeFacts> codeFacts{CodeFacts{}}; // [0]: an utterance without codes
+
+    const SpellingFacts& spelling(const CountedWord& w) const { return spellingList[w.spelling]; }
+    std::span<const int> endingsOf(const SpellingFacts& s) const {
+        return {spellingEndings.data() + s.endingsFrom, static_cast<size_t>(s.boundMorphemes)};
+    }
 };
 
 struct UtteranceFacts {
     std::uint32_t wordsFrom = 0;   // counted words: FactTables::words[wordsFrom, + counted)
     std::uint32_t counted = 0;     // counted main-body words
     std::uint32_t remarksFrom = 0; // FactTables::remarkRoots[remarksFrom, + wordCount - counted)
-    std::uint32_t endingsFrom = 0; // FactTables::endingIds[endingsFrom, + boundMorphemes)
+    std::uint32_t codes = 0;       // FactTables::codeFacts[codes]
     int wordCount = 0;             // counted words and counted parenthetical words
     int morphemes = 0;
     int mazeWords = 0;
@@ -91,9 +118,6 @@ struct UtteranceFacts {
     int omittedWords = 0, omittedMorphemes = 0, omittedClitics = 0;
     int boundMorphemes = 0, clitics = 0;
     bool overlap = false;
-    bool wordCode = false, utteranceCode = false, excludeCode = false;
-    CodeTally errors, fluency, nonmainstream, codeSwitch;
-    int errorWords = 0; // counted words carrying an error code
 
     bool hasOmission() const { return omittedWords + omittedMorphemes + omittedClitics > 0; }
 
@@ -103,10 +127,11 @@ struct UtteranceFacts {
     std::span<const int> remarkRoots(const FactTables& t) const {
         return {t.remarkRoots.data() + remarksFrom, static_cast<size_t>(wordCount) - counted};
     }
-    std::span<const int> endings(const FactTables& t) const {
-        return {t.endingIds.data() + endingsFrom, static_cast<size_t>(boundMorphemes)};
-    }
+    const CodeFacts& codeFacts(const FactTables& t) const { return t.codeFacts[codes]; }
 };
+
+// Whether word `index` of `u` is a counted main-body word under the word base.
+bool isCountedWord(const Utterance& u, int index, const WordBase& base, const CodeMatchers& codes);
 
 // Gathers the facts of `u`, adding its words, roots and endings to `tables`.
 UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeMatchers& codes,

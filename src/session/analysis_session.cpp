@@ -97,7 +97,9 @@ TranscriptAnalysis analyseFile(const std::filesystem::path& path, const Analysis
         analysis.load = LoadStatus::Corrupted;
         return analysis;
     }
-    analysis = analyseText(text, context, request);
+    // The segmentation keeps the text itself rather than a copy of its lines.
+    analysis.check = checkOwnedText(std::move(text), keepingSegmentation(context, request));
+    measure(analysis, context, request);
     return analysis;
 }
 

@@ -78,16 +78,17 @@ struct Checker::State final : ProblemSink {
     void noteUntimedPause(PauseTally& tally);
     void finish();
     Entry& addEntry(EntryKind kind);
-    std::span<const std::string_view> keepCodes(const std::vector<std::string>& codes);
+    EntryCodes keepCodes(const std::vector<std::string>& codes);
 };
 
-std::span<const std::string_view> Checker::State::keepCodes(const std::vector<std::string>& codes) {
+EntryCodes Checker::State::keepCodes(const std::vector<std::string>& codes) {
     if (codes.empty())
         return {};
     std::vector<std::string_view> kept;
     for (const std::string& c : codes)
         kept.push_back(result.segmented.store->keepText(c));
-    return result.segmented.store->keep(kept);
+    TranscriptStore& store = *result.segmented.store;
+    return EntryCodes(store.keepOne(store.keep(kept)));
 }
 
 Entry& Checker::State::addEntry(EntryKind kind) {
@@ -367,6 +368,10 @@ void Checker::reserve(size_t lines) {
     state_->result.segmented.entries.reserve(lines);
 }
 
+std::string_view Checker::adoptText(std::string text) {
+    return state_->result.segmented.store->adoptText(std::move(text));
+}
+
 void Checker::checkLine(std::string_view text, int line) {
     state_->line = line;
     state_->check(text);
@@ -374,6 +379,7 @@ void Checker::checkLine(std::string_view text, int line) {
 
 CheckResult Checker::finish() {
     state_->finish();
+    state_->result.segmented.store->endSharing();
     CheckResult result = std::move(state_->result);
     CheckOptions options = std::move(state_->options);
     state_ = std::make_unique<State>();
@@ -393,9 +399,20 @@ CheckResult checkTranscript(const TranLines& lines, const CheckOptions& options)
 // Each line of `text` in turn (ended by LF, CR LF or CR), as splitLines cuts
 // them, without a list of all the lines.
 template <class F> void forEachLine(std::string_view text, F&& f) {
+    // The next CR or LF from `from`, npos when none. The next CR and the next
+    // LF are each searched for again only once passed, so a text without one
+    // of them is searched for it once.
+    size_t nextCr = text.find('\r'), nextLf = text.find('\n');
+    auto lineEnd = [&](size_t from) {
+        if (nextCr != std::string_view::npos && nextCr < from)
+            nextCr = text.find('\r', from);
+        if (nextLf != std::string_view::npos && nextLf < from)
+            nextLf = text.find('\n', from);
+        return std::min(nextCr, nextLf);
+    };
     size_t start = 0;
     while (start < text.size()) {
-        size_t end = text.find_first_of("\r\n", start);
+        size_t end = lineEnd(start);
         if (end == std::string_view::npos) {
             f(text.substr(start));
             return;
@@ -405,8 +422,9 @@ template <class F> void forEachLine(std::string_view text, F&& f) {
     }
 }
 
-CheckResult checkText(std::string_view text, const CheckOptions& options) {
-    Checker checker(options);
+namespace {
+
+CheckResult checkAll(Checker& checker, std::string_view text, const CheckOptions& options) {
     if (options.keepSegmentation) {
         size_t lines = 0;
         forEachLine(text, [&](std::string_view) { ++lines; });
@@ -415,6 +433,21 @@ CheckResult checkText(std::string_view text, const CheckOptions& options) {
     int number = 0;
     forEachLine(text, [&](std::string_view l) { checker.checkLine(l, ++number); });
     return checker.finish();
+}
+
+} // namespace
+
+CheckResult checkText(std::string_view text, const CheckOptions& options) {
+    Checker checker(options);
+    return checkAll(checker, text, options);
+}
+
+CheckResult checkOwnedText(std::string text, const CheckOptions& options) {
+    Checker checker(options);
+    if (!options.keepSegmentation)
+        return checkAll(checker, text, options);
+    const std::string_view kept = checker.adoptText(std::move(text));
+    return checkAll(checker, kept, options);
 }
 
 Utterance segmentUtterance(std::string_view line, int lineNumber, const SpeakerTable& speakers,

@@ -81,6 +81,10 @@ CheckResult checkTranscript(const TranLines& lines, const CheckOptions& options 
 // building line records first: the cheapest way for very large files.
 CheckResult checkText(std::string_view text, const CheckOptions& options = {});
 
+// The same for a text the result may keep: the segmentation views the text
+// instead of copying its utterance lines.
+CheckResult checkOwnedText(std::string text, const CheckOptions& options = {});
+
 // The same walk line by line, for callers that produce lines as they go.
 class Checker {
 public:
@@ -92,6 +96,9 @@ public:
     void checkLine(std::string_view text, int line);
     // Room for the segmentation of about `lines` lines (when it is kept).
     void reserve(size_t lines);
+    // Hands `text` to the segmentation (when it is kept) and returns a view of
+    // it; lines checked from that view are kept without a copy.
+    std::string_view adoptText(std::string text);
     // Runs the end-of-transcript checks and hands out the result; the checker
     // is then empty and ready for the next transcript.
     CheckResult finish();

@@ -37,15 +37,35 @@ enum class EntryKind : std::int8_t {
     End,       // "@end"
 };
 
+// The codes written on a timing or pause line: one pointer to a run kept in
+// the transcript's store, as most lines have none.
+class EntryCodes {
+public:
+    EntryCodes() = default;
+    explicit EntryCodes(const std::span<const std::string_view>* run) : run_(run) {}
+
+    std::span<const std::string_view> view() const {
+        return run_ ? *run_ : std::span<const std::string_view>();
+    }
+    auto begin() const { return view().begin(); }
+    auto end() const { return view().end(); }
+    bool empty() const { return view().empty(); }
+    size_t size() const { return view().size(); }
+
+private:
+    const std::span<const std::string_view>* run_ = nullptr;
+};
+
 struct Entry {
     EntryKind kind = EntryKind::Utterance;
     std::int8_t pauseKind = 0;
     int line = 0;
     int utterance = -1;
     int seconds = -1;
-    std::span<const std::string_view>
-        codes; // codes written on a timing or pause line (in the store)
+    EntryCodes codes; // codes written on a timing or pause line (in the store)
 };
+
+static_assert(sizeof(Entry) <= 24, "an entry is kept for every line of a transcript");
 
 struct HeaderLine {
     std::string keyword; // text between "+" and ":", trimmed

@@ -631,20 +631,11 @@ void UtteranceSegmenter::segment(std::string_view line, int lineNumber, int spea
     startUtterance(out, lineNumber, speakerGroup, s.buf);
     LineCutter(line, s, out, sink, &store).run();
     out.words = store.keep(s.words);
-    if (s.codes.empty() && s.mazeWords.empty() && s.parentheticals.empty() && s.pauses.empty() &&
-        s.parentheticalWords.empty())
-        return;
-    UtteranceExtras extras;
-    extras.codes = store.keep(s.codes);
     std::vector<Maze> mazes;
     mazes.reserve(s.mazeWords.size());
     for (const std::vector<int>& words : s.mazeWords)
         mazes.push_back(Maze{store.keep(words)});
-    extras.mazes = store.keep(mazes);
-    extras.parentheticals = store.keep(s.parentheticals);
-    extras.pauses = store.keep(s.pauses);
-    extras.parentheticalWords = store.keep(s.parentheticalWords);
-    out.extras = store.keepOne(extras);
+    out.extras = store.keepExtras(s.codes, mazes, s.parentheticals, s.parentheticalWords, s.pauses);
 }
 
 void UtteranceSegmenter::check(std::string_view line, int lineNumber, int speakerGroup,

@@ -34,9 +34,47 @@ void* TranscriptStore::allocate(size_t bytes, size_t align) {
     return out;
 }
 
+const UtteranceExtras* TranscriptStore::keepExtras(std::span<const Code> codes,
+                                                   std::span<const Maze> mazes,
+                                                   std::span<const std::string_view> parentheticals,
+                                                   std::span<const Word> parentheticalWords,
+                                                   std::span<const Pause> pauses) {
+    if (codes.empty() && mazes.empty() && parentheticals.empty() && parentheticalWords.empty() &&
+        pauses.empty())
+        return nullptr;
+    UtteranceExtras header;
+    header.counts = {static_cast<std::uint32_t>(codes.size()),
+                     static_cast<std::uint32_t>(mazes.size()),
+                     static_cast<std::uint32_t>(parentheticals.size()),
+                     static_cast<std::uint32_t>(parentheticalWords.size()),
+                     static_cast<std::uint32_t>(pauses.size())};
+    auto* out = static_cast<std::byte*>(allocate(header.bytes(), alignof(UtteranceExtras)));
+    auto* extras = new (out) UtteranceExtras(header);
+    std::byte* next = out + sizeof(UtteranceExtras);
+    auto put = [&next](auto items) {
+        using T = typename decltype(items)::value_type;
+        std::uninitialized_copy(items.begin(), items.end(), reinterpret_cast<T*>(next));
+        next += items.size_bytes();
+    };
+    put(codes);
+    put(mazes);
+    put(parentheticals);
+    put(parentheticalWords);
+    put(pauses);
+    return extras;
+}
+
+std::string_view TranscriptStore::adoptText(std::string text) {
+    adopted_ = std::move(text);
+    return adopted_;
+}
+
 std::string_view TranscriptStore::keepText(std::string_view text) {
     if (text.empty())
         return {};
+    if (!adopted_.empty() && text.data() >= adopted_.data() &&
+        text.data() + text.size() <= adopted_.data() + adopted_.size())
+        return text;
     char* out = static_cast<char*>(allocate(text.size(), 1));
     std::memcpy(out, text.data(), text.size());
     return {out, text.size()};
@@ -49,7 +87,35 @@ bool inside(std::string_view part, std::string_view whole) {
            part.data() + part.size() <= whole.data() + whole.size();
 }
 
+// Whether `p` (a kept parts record) holds the parts of `draft`, whose text
+// equals the text after `p`.
+bool sameParts(const WordParts& p, const WordDraft& draft) {
+    if (p.omittedRoot != draft.omittedRoot ||
+        p.hasRootIdentification == draft.rootIdentification.empty())
+        return false;
+    std::uint32_t rootStart = 0, rootSize = 0;
+    if (!draft.omittedRoot && inside(draft.root, draft.text)) {
+        rootStart = static_cast<std::uint32_t>(draft.root.data() - draft.text.data());
+        rootSize = static_cast<std::uint32_t>(draft.root.size());
+    }
+    if (p.rootStart != rootStart || p.rootSize != rootSize)
+        return false;
+    size_t at = 0;
+    for (size_t k = 0; k < draft.pieces.size(); ++k) {
+        if (draft.pieces[k].size() > 0xFFFF || p.counts[k] != draft.pieces[k].size())
+            return false;
+        for (std::string_view piece : draft.pieces[k])
+            if (p.pieces[at++] != piece)
+                return false;
+    }
+    return draft.rootIdentification.empty() || p.pieces[at] == draft.rootIdentification;
+}
+
 } // namespace
+
+void TranscriptStore::endSharing() {
+    std::unordered_map<std::string_view, const char*>().swap(parted_);
+}
 
 Word TranscriptStore::keepWord(const WordDraft& draft, std::string_view stable) {
     Word word = draft.flags;
@@ -61,6 +127,15 @@ Word TranscriptStore::keepWord(const WordDraft& draft, std::string_view stable) 
         word.assignPlain(inside(draft.text, stable) || draft.text.empty() ? draft.text
                                                                           : keepText(draft.text));
         return word;
+    }
+    if (!draft.text.empty()) {
+        if (auto it = parted_.find(draft.text); it != parted_.end()) {
+            const char* kept = it->second;
+            if (sameParts(*reinterpret_cast<const WordParts*>(kept - sizeof(WordParts)), draft)) {
+                word.assignParted({kept, draft.text.size()});
+                return word;
+            }
+        }
     }
     // The parts record, then the text right after it.
     auto* block = static_cast<std::byte*>(
@@ -98,6 +173,8 @@ Word TranscriptStore::keepWord(const WordDraft& draft, std::string_view stable) 
     }
     new (block) WordParts(parts);
     word.assignParted(text);
+    if (!text.empty() && parted_.size() < kMaxShared)
+        parted_.emplace(text, text.data());
     return word;
 }
 

@@ -8,8 +8,10 @@
 #include <cstddef>
 #include <memory>
 #include <span>
+#include <string>
 #include <string_view>
 #include <type_traits>
+#include <unordered_map>
 #include <vector>
 
 #include "transcript/utterance.h"
@@ -35,8 +37,12 @@ public:
     TranscriptStore(const TranscriptStore&) = delete;
     TranscriptStore& operator=(const TranscriptStore&) = delete;
 
-    // A copy of `text` that lives as long as the store.
+    // A copy of `text` that lives as long as the store; `text` itself when it
+    // lies inside the adopted text.
     std::string_view keepText(std::string_view text);
+
+    // Keeps `text` (once per store): views into it need no copy.
+    std::string_view adoptText(std::string text);
 
     // A copy of `items` that lives as long as the store.
     template <class T> std::span<const T> keep(std::span<const T> items) {
@@ -54,16 +60,32 @@ public:
         return keep(std::span<const T>(&item, 1)).data();
     }
 
+    // An extras record with its pieces right after it (null when all are empty).
+    const UtteranceExtras* keepExtras(std::span<const Code> codes, std::span<const Maze> mazes,
+                                      std::span<const std::string_view> parentheticals,
+                                      std::span<const Word> parentheticalWords,
+                                      std::span<const Pause> pauses);
+
     // The word record of `draft`. Views inside `stable` (text the caller keeps
     // alive as long as the store) are kept as they are; others are copied.
+    // A word with parts whose text and parts equal those of a word kept
+    // before shares that word's text and parts record.
     Word keepWord(const WordDraft& draft, std::string_view stable = {});
 
-    // Bytes held by the store's blocks.
-    size_t bytes() const { return held_; }
+    // Frees what keepWord uses to find the words kept before; words kept
+    // afterwards are not shared with earlier ones.
+    void endSharing();
+
+    // Bytes held by the store's blocks and adopted text.
+    size_t bytes() const { return held_ + adopted_.capacity(); }
 
 private:
     void* allocate(size_t bytes, size_t align);
 
+    // The text of each word with parts kept, by its text (at most kMaxShared).
+    static constexpr size_t kMaxShared = size_t{1} << 20;
+    std::unordered_map<std::string_view, const char*> parted_;
+    std::string adopted_;
     std::vector<std::unique_ptr<std::byte[]>> blocks_;
     std::byte* next_ = nullptr;
     size_t left_ = 0;

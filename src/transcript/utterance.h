@@ -4,6 +4,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string_view>
@@ -145,14 +146,45 @@ struct Pause {
     int seconds = 0; // for a timed pause
 };
 
-// What an utterance has besides its words, for the utterances that have any.
-struct UtteranceExtras {
-    std::span<const Code> codes;
-    std::span<const Maze> mazes;
-    std::span<const std::string_view> parentheticals;
-    std::span<const Pause> pauses;
-    std::span<const Word> parentheticalWords;
+// What an utterance has besides its words, for the utterances that have any:
+// the counts of each kind of piece, the pieces right after the record in the
+// transcript's store (TranscriptStore::keepExtras), kind after kind.
+struct alignas(8) UtteranceExtras {
+    // codes, mazes, parentheticals, parenthetical words, pauses
+    std::array<std::uint32_t, 5> counts{};
+
+    std::span<const Code> codes() const { return {at<Code>(0), counts[0]}; }
+    std::span<const Maze> mazes() const { return {at<Maze>(mazesAt()), counts[1]}; }
+    std::span<const std::string_view> parentheticals() const {
+        return {at<std::string_view>(parentheticalsAt()), counts[2]};
+    }
+    std::span<const Word> parentheticalWords() const {
+        return {at<Word>(parentheticalWordsAt()), counts[3]};
+    }
+    std::span<const Pause> pauses() const {
+        return {at<Pause>(parentheticalWordsAt() + counts[3] * sizeof(Word)), counts[4]};
+    }
+    // Bytes of the record and its pieces.
+    size_t bytes() const {
+        return sizeof(UtteranceExtras) + parentheticalWordsAt() + counts[3] * sizeof(Word) +
+               counts[4] * sizeof(Pause);
+    }
+
+private:
+    size_t mazesAt() const { return counts[0] * sizeof(Code); }
+    size_t parentheticalsAt() const { return mazesAt() + counts[1] * sizeof(Maze); }
+    size_t parentheticalWordsAt() const {
+        return parentheticalsAt() + counts[2] * sizeof(std::string_view);
+    }
+    template <class T> const T* at(size_t offset) const {
+        return reinterpret_cast<const T*>(reinterpret_cast<const std::byte*>(this) +
+                                          sizeof(UtteranceExtras) + offset);
+    }
 };
+
+// Every piece after an extras record starts aligned without padding.
+static_assert(sizeof(UtteranceExtras) % 8 == 0 && sizeof(Code) % 8 == 0 && sizeof(Maze) % 8 == 0 &&
+              sizeof(std::string_view) % 8 == 0 && sizeof(Word) % 8 == 0 && alignof(Pause) <= 8);
 
 // An utterance record; its words and other pieces are kept by the transcript's
 // store (see TranscriptStore), the record holds views of them.
@@ -172,19 +204,23 @@ struct Utterance {
     bool hasTerminator = true; // false when the line has no end-of-utterance punctuation
     bool nonverbal = false;    // no main-body words but a comment, e.g. "C {nods}."
 
-    std::span<const Code> codes() const { return extras ? extras->codes : std::span<const Code>(); }
-    std::span<const Maze> mazes() const { return extras ? extras->mazes : std::span<const Maze>(); }
+    std::span<const Code> codes() const {
+        return extras ? extras->codes() : std::span<const Code>();
+    }
+    std::span<const Maze> mazes() const {
+        return extras ? extras->mazes() : std::span<const Maze>();
+    }
     // Inner text of each "(( ))".
     std::span<const std::string_view> parentheticals() const {
-        return extras ? extras->parentheticals : std::span<const std::string_view>();
+        return extras ? extras->parentheticals() : std::span<const std::string_view>();
     }
     // Within-utterance pauses.
     std::span<const Pause> pauses() const {
-        return extras ? extras->pauses : std::span<const Pause>();
+        return extras ? extras->pauses() : std::span<const Pause>();
     }
     // The words of the "(( ))" remarks, inParenthetical.
     std::span<const Word> parentheticalWords() const {
-        return extras ? extras->parentheticalWords : std::span<const Word>();
+        return extras ? extras->parentheticalWords() : std::span<const Word>();
     }
 };
 

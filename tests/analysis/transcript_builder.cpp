@@ -161,19 +161,10 @@ TranscriptBuilder& TranscriptBuilder::utt(int group, std::string_view text) {
             overlap = false;
     }
     u.words = store.keep(words);
-    if (!codes.empty() || !mazes.empty() || !parentheticals.empty() || !pauses.empty() ||
-        !parentheticalWords.empty()) {
-        UtteranceExtras extras;
-        extras.codes = store.keep(codes);
-        std::vector<Maze> kept;
-        for (const std::vector<int>& m : mazes)
-            kept.push_back(Maze{store.keep(m)});
-        extras.mazes = store.keep(kept);
-        extras.parentheticals = store.keep(parentheticals);
-        extras.pauses = store.keep(pauses);
-        extras.parentheticalWords = store.keep(parentheticalWords);
-        u.extras = store.keepOne(extras);
-    }
+    std::vector<Maze> kept;
+    for (const std::vector<int>& m : mazes)
+        kept.push_back(Maze{store.keep(m)});
+    u.extras = store.keepExtras(codes, kept, parentheticals, parentheticalWords, pauses);
     int body = 0, marks = 0;
     for (const Word& w : u.words) {
         if (w.inMaze || w.omitted)
@@ -189,12 +180,11 @@ TranscriptBuilder& TranscriptBuilder::utt(int group, std::string_view text) {
     return *this;
 }
 
-std::span<const std::string_view>
-TranscriptBuilder::keepCodes(const std::vector<std::string>& codes) {
+EntryCodes TranscriptBuilder::keepCodes(const std::vector<std::string>& codes) {
     std::vector<std::string_view> kept;
     for (const std::string& c : codes)
         kept.push_back(t_.store->keepText(c));
-    return t_.store->keep(kept);
+    return EntryCodes(t_.store->keepOne(t_.store->keep(kept)));
 }
 
 TranscriptBuilder& TranscriptBuilder::timing(int seconds, std::vector<std::string> codes) {

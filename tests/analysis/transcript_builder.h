@@ -39,7 +39,7 @@ public:
 
 private:
     int nextLine() { return ++line_; }
-    std::span<const std::string_view> keepCodes(const std::vector<std::string>& codes);
+    EntryCodes keepCodes(const std::vector<std::string>& codes);
     SegmentedTranscript t_;
     int line_ = 1; // line 1 is the "$" line
 };
