@@ -4,6 +4,8 @@
 // transcripts are generated (10,000 by default, about 200 MB).
 #include <benchmark/benchmark.h>
 
+#include "bench_support.h"
+
 #include <sys/resource.h>
 
 #include <cstdlib>
@@ -26,6 +28,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using namespace tavi;
+using namespace tavi::bench;
 
 constexpr const char* kWords[] = {
     "the",      "a",      "dog",     "cat",  "went",   "run/ing", "big",  "house",   "my",
@@ -102,13 +105,6 @@ const Corpus& corpus() {
     return c;
 }
 
-class SilentPrompter final : public Prompter {
-public:
-    void inform(std::string_view) override {}
-    Answer ask(std::string_view) override { return Answer::Yes; }
-    bool confirm(std::string_view) override { return true; }
-};
-
 // The word lists and dictionary of the source tree's data folder, as a run
 // with the installed data would load them.
 const MeasureResources& resources() {
@@ -119,16 +115,10 @@ const MeasureResources& resources() {
         settings.standardWordListFound =
             readFile(settings.folders.sharedData + "TaviSWL.txt", bytes);
         settings.standardWordListLines = keywordTextLines(bytes);
-        SilentPrompter prompter;
+        SilentPrompter prompter(Answer::Yes);
         return loadMeasureResources(settings, prompter);
     }();
     return r;
-}
-
-double peakMegabytes() {
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
-    return static_cast<double>(usage.ru_maxrss) / 1024.0; // kilobytes on Linux
 }
 
 // Arg: threads (0: every core). The selection is the general columns and the
@@ -142,7 +132,7 @@ void BM_Batch(benchmark::State& state) {
     const VariableGroup& smr = catalogue.groups()[2];
     for (int i = 0; i < smr.count; ++i)
         chooseVariable(options.selections, catalogue, smr.first + i);
-    SilentPrompter prompter;
+    SilentPrompter prompter(Answer::Yes);
     NoProgress progress;
     size_t rows = 0;
     for (auto _ : state) {

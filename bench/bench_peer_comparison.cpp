@@ -4,6 +4,8 @@
 // waits; it is printed for one and two threads, never asserted.
 #include <benchmark/benchmark.h>
 
+#include "bench_support.h"
+
 #include <filesystem>
 
 #include "base/file_io.h"
@@ -14,14 +16,8 @@
 namespace {
 
 using namespace tavi;
+using namespace tavi::bench;
 using namespace tavi::db;
-
-class SilentPrompter final : public Prompter {
-public:
-    void inform(std::string_view) override {}
-    Answer ask(std::string_view) override { return Answer::Yes; }
-    bool confirm(std::string_view) override { return true; }
-};
 
 constexpr int kSamples = 10000;
 
@@ -52,7 +48,7 @@ const std::filesystem::path& databasePath() {
     static const std::filesystem::path path = [] {
         std::filesystem::path p = std::filesystem::temp_directory_path() / "tavi-bench-peers.tvidb";
         std::filesystem::remove(p);
-        SilentPrompter prompter;
+        SilentPrompter prompter(Answer::Yes);
         DescriptiveHeader info;
         info.context = "Conversation";
         createDatabase(p, info, prompter);
@@ -77,7 +73,7 @@ AnalysisContext context() {
     std::string bytes;
     settings.standardWordListFound = readFile(settings.folders.sharedData + "TaviSWL.txt", bytes);
     settings.standardWordListLines = keywordTextLines(bytes);
-    SilentPrompter prompter;
+    SilentPrompter prompter(Answer::Yes);
     return analysisContext(settings, prompter);
 }
 
@@ -89,7 +85,7 @@ void BM_CompareWith10000Samples(benchmark::State& state) {
     const TranLines lines = splitTranscriptLines(transcript);
     const TranscriptAnalysis analysis = analyseTranscript(lines, ctx);
     const PeerTarget target = peerTarget("t.tvi", lines, analysis, ctx);
-    SilentPrompter prompter;
+    SilentPrompter prompter(Answer::Yes);
     NoProgress progress;
     const auto& path = databasePath();
     for (auto _ : state) {
@@ -126,7 +122,7 @@ void BM_CompareAgainCached(benchmark::State& state) {
     const TranLines lines = splitTranscriptLines(transcript);
     const TranscriptAnalysis analysis = analyseTranscript(lines, ctx);
     const PeerTarget target = peerTarget("t.tvi", lines, analysis, ctx);
-    SilentPrompter prompter;
+    SilentPrompter prompter(Answer::Yes);
     NoProgress progress;
     auto database = PeerDatabase::open(databasePath(), prompter);
     PeerSelection selection;
@@ -145,7 +141,7 @@ BENCHMARK(BM_CompareAgainCached)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 // Selection alone: the record test over 10,000 records.
 void BM_SelectOnly(benchmark::State& state) {
-    SilentPrompter prompter;
+    SilentPrompter prompter(Answer::Yes);
     NoProgress progress;
     auto database = PeerDatabase::open(databasePath(), prompter);
     PeerTarget target;

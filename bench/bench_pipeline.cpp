@@ -31,76 +31,13 @@
 #include "transcript/checker.h"
 #include "transcript/transcript_file.h"
 
+#include "bench_support.h"
+
 namespace {
 
 using namespace tavi;
+using namespace tavi::bench;
 namespace fs = std::filesystem;
-
-class SilentPrompter final : public Prompter {
-public:
-    void inform(std::string_view) override {}
-    Answer ask(std::string_view) override { return Answer::No; }
-    bool confirm(std::string_view) override { return false; }
-};
-
-// About `bytes` of conversation with mazes, codes, pauses, bound morphemes,
-// clitics, linked words, overlaps, comments, timing lines and every terminator.
-std::string makeTranscript(size_t bytes) {
-    static const char* child[] = {"I went/ed to the park with my mom/z friend.",
-                                  "(um) the (b) big dog/s ran/*ed away!",
-                                  "he+'s X happy : now.",
-                                  "and then we jump/ed [EW:jumped] over *the fence.",
-                                  "I like/ed it {laughs}.",
-                                  "the cat >",
-                                  "because it was raining and we could/n't go outside.",
-                                  "<yeah>.",
-                                  "what is that?",
-                                  "we ate ice_ _cream and %goed home ((laughs)).",
-                                  "(I want) I want the red one ~"};
-    static const char* adult[] = {"what did you do?", "tell me more about that ~",
-                                  "really?",          "and then what happened ^",
-                                  "oh wow.",          "did you like it?"};
-    std::mt19937 rng(42);
-    std::string t = "$ Child, Examiner\n+ Name: Bench\n+ Context: Con\n- 0:00\n";
-    t.reserve(bytes + 256);
-    int seconds = 0;
-    while (t.size() < bytes) {
-        t += "E ";
-        t += adult[rng() % std::size(adult)];
-        t += "\n";
-        for (int k = 0, n = 1 + static_cast<int>(rng() % 3); k < n; ++k) {
-            t += "C ";
-            t += child[rng() % std::size(child)];
-            t += "\n";
-        }
-        if (rng() % 10 == 0)
-            t += ": 0:02\n";
-        if (rng() % 20 == 0) {
-            seconds += 30;
-            t += "- " + std::to_string(seconds / 60) + ":" + (seconds % 60 < 10 ? "0" : "") +
-                 std::to_string(seconds % 60) + "\n";
-        }
-    }
-    return t;
-}
-
-std::string dataFolder() {
-    if (const char* env = std::getenv("TAVI_DATA_GROUP"))
-        return std::string(env) + "/";
-    for (fs::path p = fs::current_path(); !p.empty(); p = p.parent_path()) {
-        if (fs::exists(p / "data/GC/GCDictionaryFile.txt"))
-            return (p / "data/").string();
-        if (p == p.root_path())
-            break;
-    }
-    return {};
-}
-
-double peakMegabytes() {
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
-    return static_cast<double>(usage.ru_maxrss) / 1024.0; // kilobytes on Linux
-}
 
 // Processor time of the process: on a shared machine it is steadier than
 // the time on the wall, and it is what one core spends.
