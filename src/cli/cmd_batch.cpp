@@ -111,11 +111,13 @@ std::vector<std::string> splitCommas(const std::string& list) {
 }
 
 // The analysis settings in force: analysis set, word base, cut, window, code
-// lists and the word lists and dictionary in `resources`.
-BatchRunOptions runOptions(const Settings& settings, Prompter& prompter) {
+// lists, and the word lists and dictionary (not loaded for a check alone,
+// which needs neither).
+BatchRunOptions runOptions(const Settings& settings, bool checkOnly, Prompter& prompter) {
     BatchRunOptions options;
     options.selections = defaultBatchSelections(settings);
-    options.analysis = analysisContext(settings, prompter);
+    options.analysis =
+        checkOnly ? analysisContext(settings, nullptr) : analysisContext(settings, prompter);
     return options;
 }
 
@@ -212,7 +214,7 @@ int run(cli::CommandContext& ctx) {
     LoadedSettings loaded = cli::loadCommandSettings(ctx, prompter);
     if (!loaded.ok)
         return cli::kExitUsage;
-    BatchRunOptions options = runOptions(loaded.settings, prompter);
+    BatchRunOptions options = runOptions(loaded.settings, args.has("--check"), prompter);
     if (!applyFlags(args, options, prompter, ctx.err))
         return cli::kExitUsage;
 
