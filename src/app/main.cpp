@@ -31,9 +31,10 @@ void takeScreenshots(tavi::app::CMainFrame& frame, tavi::app::CTAVIApp& app, con
     tavi::app::CTAVIDoc& doc = transcripts.front()->doc();
     frame.grab().save(QDir(dir).filePath(QStringLiteral("transcript.png")));
     const tavi::TranscriptAnalysis analysis = analyseForReport(app, doc.lines(), 0);
-    frame.showReport(makeReport(app, tavi::app::ReportKind::StandardMeasures, analysis,
-                                doc.title().toStdString()),
-                     &doc);
+    tavi::app::ReportSource source;
+    source.name = doc.title().toStdString();
+    source.choices.smrVariables = app.smrVariables;
+    frame.showReport(makeReport(app, "smr", analysis, source), &doc);
     frame.mdiArea().tileSubWindows();
     QApplication::processEvents();
     frame.grab().save(QDir(dir).filePath(QStringLiteral("report.png")));

@@ -95,16 +95,18 @@ private:
     CTAVIDoc* analysisTarget();
     std::optional<TranscriptAnalysis> reportAnalysis(CTAVIDoc*& doc);
     bool acceptErrors(CTAVIFrame& frame, const std::vector<err>& problems);
+    ReportSource reportSource(CTAVIDoc& doc) const;
     void analyzeStandardMeasures();
-    void analyzeUtteranceTypes();
-    void analyzePerformance();
+    void analyzeReport(std::string_view kind, bool askSpeaker = true);
+    bool chooseReportSpeaker(const ReportDefinition& report, TranscriptAnalysis& analysis);
+    void registerReportCommands();
     // Database
     CTAVIDoc* databaseTarget() const;
     void refreshDatabaseMenu();
     std::optional<TranscriptAnalysis> checkedAnalysis(CTAVIDoc& doc, int speaker);
     void databaseSelect();
     const db::PeerSnapshot* compareWithDatabase(CTAVIDoc& doc, TranscriptAnalysis& analysis);
-    void databaseReport(PeerReportKind kind);
+    void databaseReport(std::string_view kind);
     // Reports
     QPageLayout pdfLayout() const;
     // Link

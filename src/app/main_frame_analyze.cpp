@@ -2,6 +2,7 @@
 #include <QInputDialog>
 
 #include "app/main_frame.h"
+#include "app/report_options_dialog.h"
 #include "app/report_runner.h"
 #include "app/rept_doc.h"
 #include "app/rept_frame.h"
@@ -9,6 +10,7 @@
 #include "app/tavi_app.h"
 #include "app/tavi_doc.h"
 #include "app/tavi_frame.h"
+#include "app/transcript_peers.h"
 
 namespace tavi::app {
 
@@ -43,6 +45,14 @@ std::optional<TranscriptAnalysis> CMainFrame::reportAnalysis(CTAVIDoc*& doc) {
     return analysis;
 }
 
+ReportSource CMainFrame::reportSource(CTAVIDoc& doc) const {
+    ReportSource source;
+    source.name = doc.title().toStdString();
+    source.lines = doc.lines();
+    source.choices.smrVariables = app_.smrVariables;
+    return source;
+}
+
 void CMainFrame::analyzeStandardMeasures() {
     CTAVIDoc* doc = nullptr;
     std::optional<TranscriptAnalysis> analysis = reportAnalysis(doc);
@@ -55,29 +65,63 @@ void CMainFrame::analyzeStandardMeasures() {
     app_.smrVariables = dialog.variables();
     app_.reportSpeaker = dialog.speaker();
     analysis->speaker = app_.reportSpeaker;
-    showReport(
-        makeReport(app_, ReportKind::StandardMeasures, *analysis, doc->title().toStdString()), doc);
+    showReport(makeReport(app_, "smr", *analysis, reportSource(*doc)), doc);
 }
 
-void CMainFrame::analyzeUtteranceTypes() {
+// Any other report of the table: the speaker chosen (or the last one chosen,
+// for a report that does not ask), then the report's own choices (its
+// dialog, when it has one), then the report.
+void CMainFrame::analyzeReport(std::string_view kind, bool askSpeaker) {
+    const ReportDefinition* definition = findReport(kind);
     CTAVIDoc* doc = nullptr;
     std::optional<TranscriptAnalysis> analysis = reportAnalysis(doc);
-    if (!analysis)
+    if (!definition || !analysis)
         return;
-    const auto speakers = mainSpeakerLabels(*analysis);
+    if (askSpeaker && !chooseReportSpeaker(*definition, *analysis))
+        return;
+    ReportSource source = reportSource(*doc);
+    if (!chooseReportOptions(*definition, *analysis, source.choices, this))
+        return;
+    showReport(makeReport(app_, kind, *analysis, source), doc);
+}
+
+bool CMainFrame::chooseReportSpeaker(const ReportDefinition& report, TranscriptAnalysis& analysis) {
+    const auto speakers = mainSpeakerLabels(analysis);
     QStringList choices = {QString::fromStdString("1st speaker (" + speakers.first + ")")};
     if (!speakers.second.empty())
         choices << QString::fromStdString("2nd speaker (" + speakers.second + ")");
     bool ok = false;
-    const QString chosen =
-        QInputDialog::getItem(this, QStringLiteral("Summary of Utterance Types"),
-                              QStringLiteral("Speaker:"), choices, app_.reportSpeaker, false, &ok);
+    const QString chosen = QInputDialog::getItem(
+        this, QString::fromUtf8(report.title.data(), static_cast<qsizetype>(report.title.size())),
+        QStringLiteral("Speaker:"), choices, app_.reportSpeaker, false, &ok);
     if (!ok)
-        return;
+        return false;
     app_.reportSpeaker = static_cast<int>(choices.indexOf(chosen));
-    analysis->speaker = app_.reportSpeaker;
-    showReport(makeReport(app_, ReportKind::UtteranceTypes, *analysis, doc->title().toStdString()),
-               doc);
+    analysis.speaker = app_.reportSpeaker;
+    return true;
+}
+
+// Every report of the table whose menu command is working and has no
+// handler of its own: the Analyze menu's open for the target transcript, the
+// Database menu's against its comparison.
+void CMainFrame::registerReportCommands() {
+    for (const ReportDefinition& report : reportDefinitions()) {
+        const std::optional<CommandId> id = commandByName(report.commandId);
+        if (!id || commandStatus(*id) != CommandStatus::Working || commands_.has(*id))
+            continue;
+        const std::string_view kind = report.name;
+        if (report.commandId.starts_with("ID_DB_"))
+            on(
+                *id, [this, kind] { databaseReport(kind); },
+                [this] {
+                    const CTAVIDoc* doc = databaseTarget();
+                    return doc && doc->peers().ready();
+                });
+        else
+            on(
+                *id, [this, kind] { analyzeReport(kind); },
+                [this] { return activeTranscriptFrame() || activeReportFrame(); });
+    }
 }
 
 } // namespace tavi::app

@@ -58,10 +58,10 @@ void CMainFrame::registerCommands() {
     // Analyze
     on(
         ID_ANAL_SMR, [this] { analyzeStandardMeasures(); }, analysable);
+    // The Performance Report is of the speaker chosen last (the database
+    // selection's target): it asks nothing.
     on(
-        ID_ANAL_PERF, [this] { analyzePerformance(); }, analysable);
-    on(
-        ID_ANAL_UTT_TYPES, [this] { analyzeUtteranceTypes(); }, analysable);
+        ID_ANAL_PERF, [this] { analyzeReport("performance", false); }, analysable);
 
     // Database: the reports wait for a selection that matched samples.
     auto compared = [this] {
@@ -71,11 +71,12 @@ void CMainFrame::registerCommands() {
     on(
         ID_DB_SELECT, [this] { databaseSelect(); }, analysable);
     on(
-        ID_DB_SMR, [this] { databaseReport(PeerReportKind::StandardMeasures); }, compared);
+        ID_DB_SMR, [this] { databaseReport("smr"); }, compared);
     on(
-        ID_DB_PERF, [this] { databaseReport(PeerReportKind::Performance); }, compared);
+        ID_DB_PERF, [this] { databaseReport("performance"); }, compared);
     on(
-        ID_DB_GOALS, [this] { databaseReport(PeerReportKind::GoalBank); }, compared);
+        ID_DB_GOALS, [this] { databaseReport("goals"); }, compared);
+    registerReportCommands();
 
     // Edit
     on(

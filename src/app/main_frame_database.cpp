@@ -133,7 +133,7 @@ const db::PeerSnapshot* CMainFrame::compareWithDatabase(CTAVIDoc& doc,
 
 // A report against the database, compared again with the transcript as it
 // stands now.
-void CMainFrame::databaseReport(PeerReportKind kind) {
+void CMainFrame::databaseReport(std::string_view kind) {
     CTAVIDoc* doc = analysisTarget();
     if (!doc || !doc->peers().selection)
         return;
@@ -144,19 +144,9 @@ void CMainFrame::databaseReport(PeerReportKind kind) {
     const db::PeerSnapshot* peers = compareWithDatabase(*doc, *analysis);
     if (!peers)
         return;
-    showReport(
-        makePeerReport(app_, kind, *analysis, doc->lines(), doc->title().toStdString(), peers),
-        doc);
-}
-
-void CMainFrame::analyzePerformance() {
-    CTAVIDoc* doc = nullptr;
-    std::optional<TranscriptAnalysis> analysis = reportAnalysis(doc);
-    if (!analysis)
-        return;
-    showReport(makePeerReport(app_, PeerReportKind::Performance, *analysis, doc->lines(),
-                              doc->title().toStdString(), nullptr),
-               doc);
+    ReportSource source = reportSource(*doc);
+    source.peers = peers;
+    showReport(makeReport(app_, kind, *analysis, source), doc);
 }
 
 } // namespace tavi::app

@@ -6,7 +6,6 @@
 #include "app/tavi_app.h"
 #include "batch/peer_report_inputs.h"
 #include "reports/html_writer.h"
-#include "reports/performance_report.h"
 #include "reports/rtf_writer.h"
 #include "reports/text_writer.h"
 #include "reports/transcript_report.h"
@@ -31,39 +30,21 @@ std::pair<std::string, std::string> mainSpeakerLabels(const TranscriptAnalysis& 
     return {firstLabel(speakers.groups[0]), firstLabel(speakers.groups[1])};
 }
 
-ReportContent makeReport(CTAVIApp& app, ReportKind kind, const TranscriptAnalysis& analysis,
-                         const std::string& name) {
+ReportContent makeReport(CTAVIApp& app, std::string_view kind, const TranscriptAnalysis& analysis,
+                         const ReportSource& source) {
+    if (std::string_view message = analysis.cutMessage(); !message.empty())
+        app.prompter().inform(message);
     TranscriptReportRequest request;
-    request.kind = kind == ReportKind::StandardMeasures ? TranscriptReportKind::StandardMeasures
-                                                        : TranscriptReportKind::UtteranceTypes;
-    request.transcriptName = name;
-    request.smrVariables = app.smrVariables;
-    if (std::string_view message = analysis.cutMessage(); !message.empty())
-        app.prompter().inform(message);
-
-    return reportContent(buildTranscriptReport(analysis, app.settings(), request));
-}
-
-ReportContent makePeerReport(CTAVIApp& app, PeerReportKind kind, const TranscriptAnalysis& analysis,
-                             const TranLines& lines, const std::string& name,
-                             const db::PeerSnapshot* peers) {
-    if (std::string_view message = analysis.cutMessage(); !message.empty())
-        app.prompter().inform(message);
-    const std::string date = todayText(app.analysisContext());
-    if (kind == PeerReportKind::StandardMeasures) {
-        TranscriptReportRequest request;
-        request.kind = TranscriptReportKind::StandardMeasures;
-        request.transcriptName = name;
-        request.smrVariables = app.smrVariables;
-        if (peers)
-            request.database = smrDatabase(*peers, analysis.measures(), date);
-        return reportContent(buildTranscriptReport(analysis, app.settings(), request));
+    request.kind = kind;
+    request.transcriptName = source.name;
+    request.choices = source.choices;
+    request.lines = &source.lines;
+    if (source.peers) {
+        const std::string date = todayText(app.analysisContext());
+        request.database = smrDatabase(*source.peers, analysis.measures(), date);
+        request.performancePeers = performancePeers(*source.peers, date);
     }
-    PerformanceInputs inputs = performanceInputs(analysis, lines);
-    if (peers)
-        inputs.peers = performancePeers(*peers, date);
-    return reportContent(kind == PeerReportKind::Performance ? buildPerformanceReport(inputs)
-                                                             : buildGoalBank(inputs));
+    return reportContent(buildTranscriptReport(analysis, app.settings(), request));
 }
 
 ReportContent reportContent(Report report) {

@@ -9,14 +9,13 @@
 #include "app/rept_doc.h"
 #include "database/peer_selection.h"
 #include "reports/report.h"
+#include "reports/report_registry.h"
 #include "session/analysis_session.h"
 #include "transcript/tran_line.h"
 
 namespace tavi::app {
 
 class CTAVIApp;
-
-enum class ReportKind { StandardMeasures, UtteranceTypes };
 
 // The analysis of an open transcript under the settings in force, for the
 // speaker asked for (0 or 1); both main speakers are measured, so the speaker
@@ -27,22 +26,20 @@ TranscriptAnalysis analyseForReport(CTAVIApp& app, const TranLines& lines, int s
 // 2nd speaker's first label (empty when there is none).
 std::pair<std::string, std::string> mainSpeakerLabels(const TranscriptAnalysis& analysis);
 
-// The report of the analysis's speaker for the transcript named `name`. The
-// transcript cut's outcome, when it is not a complete cut, is told through
-// the app's prompter.
-ReportContent makeReport(CTAVIApp& app, ReportKind kind, const TranscriptAnalysis& analysis,
-                         const std::string& name);
+// What a report needs besides the analysis: the transcript's name and
+// lines, the choices of the report's dialog, and a database comparison.
+struct ReportSource {
+    std::string name;      // the transcript's title
+    TranLines lines;       // for reports that read its header lines
+    ReportChoices choices; // the dialog's choices (the app's SMR variables by default)
+    const db::PeerSnapshot* peers = nullptr; // compared with a database, when given
+};
 
-// The reports that compare with a database, and the Performance Report
-// without one.
-enum class PeerReportKind { StandardMeasures, Performance, GoalBank };
-
-// The report of the analysis's speaker against the comparison `peers` (null:
-// the Performance Report or goal bank of the transcript alone). `lines` are
-// the transcript's, for the header facts of the Performance Report.
-ReportContent makePeerReport(CTAVIApp& app, PeerReportKind kind, const TranscriptAnalysis& analysis,
-                             const TranLines& lines, const std::string& name,
-                             const db::PeerSnapshot* peers);
+// The report `kind` (a name of the report table, e.g. "syntax-summary") of
+// the analysis's speaker. The transcript cut's outcome, when it is not a
+// complete cut, is told through the app's prompter.
+ReportContent makeReport(CTAVIApp& app, std::string_view kind, const TranscriptAnalysis& analysis,
+                         const ReportSource& source);
 
 // A built report in every form the report window needs.
 ReportContent reportContent(Report report);

@@ -11,7 +11,7 @@
 #include "cli/args.h"
 #include "cli/cli_settings.h"
 #include "cli/command.h"
-#include "cli/json_text.h"
+#include "base/json_text.h"
 #include "cli/stream_prompter.h"
 #include "session/analysis_session.h"
 #include "transcript/check_listing.h"
@@ -20,7 +20,7 @@
 namespace {
 
 using namespace tavi;
-using cli::jsonString;
+using tavi::jsonString;
 
 // "MM-DD-YY" or "DD.MM.YY" (any of "-", ".", "/").
 bool parseDateFormat(const std::string& text, DateFormat& format) {

@@ -12,7 +12,7 @@
 #include "batch/peer_report_inputs.h"
 #include "cli/cli_analysis.h"
 #include "cli/db_select.h"
-#include "cli/json_text.h"
+#include "base/json_text.h"
 #include "cli/peer_flags.h"
 #include "cli/stream_prompter.h"
 #include "database/peer_selection.h"

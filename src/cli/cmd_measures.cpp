@@ -10,15 +10,15 @@
 #include "cli/args.h"
 #include "cli/cli_analysis.h"
 #include "cli/command.h"
-#include "cli/json_text.h"
+#include "base/json_text.h"
 #include "cli/stream_prompter.h"
 #include "transcript/time_value.h"
 
 namespace {
 
 using namespace tavi;
-using cli::jsonNumber;
-using cli::jsonString;
+using tavi::jsonNumber;
+using tavi::jsonString;
 
 std::string jsonValue(const Value& v) {
     if (v.isMissing())

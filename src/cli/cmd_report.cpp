@@ -1,6 +1,6 @@
-// `tavi report`: a single-transcript report (Standard Measures Report or
-// Summary of Utterance Types) printed as plain text, or written in the format
-// of the -o file's extension (.txt .rtf .pdf .html .csv .tsv).
+// `tavi report`: any report of the report table for one transcript, printed
+// as plain text or JSON, or written in the format of the -o file's extension
+// (.txt .rtf .pdf .html .csv .tsv).
 #include <filesystem>
 #include <ostream>
 #include <string>
@@ -14,9 +14,11 @@
 #include "cli/stream_prompter.h"
 #include "reports/grid_writer.h"
 #include "reports/html_writer.h"
+#include "reports/json_writer.h"
 #include "reports/performance_report.h"
 #include "reports/report_file.h"
 #include "reports/report_grid.h"
+#include "reports/report_registry.h"
 #include "reports/rtf_writer.h"
 #include "reports/text_writer.h"
 #include "reports/transcript_report.h"
@@ -53,30 +55,59 @@ std::string writeReport(const Report& report, const std::filesystem::path& path,
     return "unknown report format " + ext + " (use .txt, .rtf, .pdf, .html, .csv or .tsv)";
 }
 
+// The items of a comma-separated flag value, trimmed, empty ones dropped.
+std::vector<std::string> commaList(std::string_view text) {
+    std::vector<std::string> items;
+    while (!text.empty()) {
+        const size_t comma = std::min(text.find(','), text.size());
+        if (std::string_view item = trim(text.substr(0, comma)); !item.empty())
+            items.emplace_back(item);
+        text.remove_prefix(std::min(comma + 1, text.size()));
+    }
+    return items;
+}
+
+// The choices a report's flags make; false (after saying why) on a bad value.
+bool readChoices(const cli::Args& args, std::ostream& err, ReportChoices& choices) {
+    if (auto lists = args.value("--lists"))
+        choices.utteranceLists = commaList(*lists);
+    if (auto kinds = args.value("--kinds"))
+        choices.kinds = commaList(*kinds);
+    if (auto sort = args.value("--sort")) {
+        if (*sort != "frequency" && *sort != "alpha") {
+            err << "tavi report: --sort takes frequency or alpha\n";
+            return false;
+        }
+        choices.sortAlphabetically = *sort == "alpha";
+    }
+    choices.includeMazes = args.has("--with-mazes");
+    return true;
+}
+
 int run(cli::CommandContext& ctx) {
-    cli::Args args(ctx.args, {"--speaker", "-o", "--db", TAVI_PEER_VALUED_FLAGS},
-                   {cli::kIncludeErrors, TAVI_PEER_SWITCHES});
+    cli::Args args(
+        ctx.args,
+        {"--speaker", "-o", "--db", "--lists", "--sort", "--kinds", TAVI_PEER_VALUED_FLAGS},
+        {cli::kIncludeErrors, "--json", "--with-mazes", TAVI_PEER_SWITCHES});
     const auto& positional = args.positional();
     if (!args.ok() || positional.size() != 2) {
         ctx.err << "tavi report: "
-                << (args.ok() ? "usage: tavi report smr|types|performance|goals [--speaker 1|2] "
-                                "[--db DB [selection flags]] "
-                                "[-o FILE] FILE"
+                << (args.ok() ? "usage: tavi report KIND [--speaker 1|2] "
+                                "[--db DB [selection flags]] [--json] [-o FILE] FILE"
                               : args.error())
                 << '\n';
         return cli::kExitUsage;
     }
-    TranscriptReportRequest request;
-    const bool performance = positional[0] == "performance", goals = positional[0] == "goals";
-    if (positional[0] == "smr" || performance || goals)
-        request.kind = TranscriptReportKind::StandardMeasures;
-    else if (positional[0] == "types")
-        request.kind = TranscriptReportKind::UtteranceTypes;
-    else {
-        ctx.err << "tavi report: unknown report " << positional[0]
-                << " (use smr, types, performance or goals)\n";
+    const ReportDefinition* definition = findReport(positional[0]);
+    if (!definition) {
+        ctx.err << "tavi report: unknown report " << positional[0] << " (use " << reportNames()
+                << ")\n";
         return cli::kExitUsage;
     }
+    TranscriptReportRequest request;
+    request.kind = definition->name;
+    if (!readChoices(args, ctx.err, request.choices))
+        return cli::kExitUsage;
     const std::string speaker = args.value("--speaker").value_or("1");
     if (speaker != "1" && speaker != "2") {
         ctx.err << "tavi report: --speaker takes 1 or 2\n";
@@ -97,33 +128,36 @@ int run(cli::CommandContext& ctx) {
         return outcome.exitStatus;
 
     request.transcriptName = file.filename().string();
+    TranLines lines;
+    if (definition->needsLines) {
+        std::string text;
+        readTranscriptText(file, text);
+        lines = splitTranscriptLines(text);
+        request.lines = &lines;
+    }
     std::optional<db::PeerSnapshot> snapshot;
+    if (args.has("--db") && definition->database == DatabaseUse::None) {
+        ctx.err << "tavi report: " << definition->name << " does not compare with a database\n";
+        return cli::kExitUsage;
+    }
     if (args.has("--db")) {
-        if (request.kind != TranscriptReportKind::StandardMeasures && !performance && !goals) {
-            ctx.err << "tavi report: --db goes with smr, performance or goals\n";
-            return cli::kExitUsage;
-        }
         int status = cli::kExitOk;
         snapshot = cli::compareForCommand(ctx, args, file.string(), *outcome.analysis,
                                           prepared->settings, prepared->context, prompter, status);
         if (!snapshot)
             return status;
-        if (!performance && !goals)
-            request.database =
-                smrDatabase(*snapshot, outcome.analysis->measures(), todayText(prepared->context));
+        const std::string date = todayText(prepared->context);
+        request.database = smrDatabase(*snapshot, outcome.analysis->measures(), date);
+        request.performancePeers = performancePeers(*snapshot, date);
+    } else if (definition->database == DatabaseUse::Required) {
+        ctx.err << "tavi report: " << definition->name << " needs --db DB\n";
+        return cli::kExitUsage;
     }
-    Report report;
-    if (performance || goals) {
-        std::string text;
-        readTranscriptText(file, text);
-        const TranLines lines = splitTranscriptLines(text);
-        PerformanceInputs inputs = performanceInputs(*outcome.analysis, lines);
-        if (snapshot) {
-            inputs.peers = performancePeers(*snapshot, todayText(prepared->context));
-        }
-        report = performance ? buildPerformanceReport(inputs) : buildGoalBank(inputs);
-    } else {
-        report = buildTranscriptReport(*outcome.analysis, prepared->settings, request);
+    const Report report = buildTranscriptReport(*outcome.analysis, prepared->settings, request);
+    if (args.has("--json")) {
+        ctx.out << reportToJson(
+            report, {definition->name, request.transcriptName, outcome.analysis->speaker});
+        return cli::kExitOk;
     }
     const auto output = args.value("-o");
     if (!output) {
@@ -137,34 +171,51 @@ int run(cli::CommandContext& ctx) {
     return cli::kExitOk;
 }
 
+// The kinds of the report table, one per line, for the end of --help.
+std::string reportList() {
+    std::string list = "\nReports (KIND):\n";
+    for (const ReportDefinition& report : reportDefinitions()) {
+        std::string name(report.name);
+        name.resize(std::max<size_t>(name.size() + 1, 26), ' ');
+        list += "  " + name + std::string(report.title) +
+                (report.database == DatabaseUse::Required ? " (--db)" : "") + "\n";
+    }
+    return list;
+}
+
 const cli::CommandRegistrar reg{
-    {"report", "write a Standard Measures Report or Summary of Utterance Types",
-     "Usage: tavi report smr|types|performance|goals [--speaker 1|2] [--db DB [selection flags]] "
+    {"report", "write a report of one transcript (Standard Measures Report and others)",
+     "Usage: tavi report KIND [--speaker 1|2] [--db DB [selection flags]] [--json] "
      "[-o FILE] FILE\n\n"
      "Analyses one transcript with the settings in force (analysis set, word base,\n"
-     "transcript cut, labels) and writes a report of one speaker:\n"
-     "  smr     the Standard Measures Report\n"
-     "  types   the Summary of Utterance Types\n"
-     "  performance  the Performance Report: the measures in sentences, compared\n"
-     "          with the database's matched samples when --db is given\n"
-     "  goals   the goal bank: a goal for each measure below the database, its\n"
-     "          target the lowest value within normal limits\n\n"
+     "transcript cut, labels) and writes a report of one speaker. KIND is one of\n"
+     "the reports listed at the end; docs/reports.md describes each.\n\n"
      "Without -o the report is printed as plain text. With -o the extension of FILE\n"
      "chooses the format: .txt, .rtf, .pdf, .html, .csv or .tsv (the last two write\n"
      "the report's lines and tables as cells).\n\n"
      "Options:\n"
      "  --speaker 1|2      the 1st (default) or 2nd speaker of the transcript\n"
      "  -o FILE            write the report to FILE\n"
+     "  --json             print the report as JSON: {\"report\", \"title\", \"transcript\",\n"
+     "                     \"speaker\", \"header\", \"sections\": [{\"title\", \"columns\",\n"
+     "                     \"rows\": [{\"label\", \"cells\"}]}], \"footnotes\"}; numbers as\n"
+     "                     numbers, a missing value as null\n"
+     "  --lists KEYS       (utterance-lists) the lists to show, e.g. PQUES,PIMIT\n"
+     "  --sort frequency|alpha  (word and morpheme tables) the order of the rows\n"
+     "  --with-mazes       (word-roots) count the words of mazes too\n"
+     "  --kinds A,B,...    (custom-pdf) the reports the PDF holds\n"
      "  --include-errors   report on a transcript that has errors as it stands\n"
-     "  --db DB            (smr) compare with the matched samples of the reference\n"
-     "                     database DB: each value is followed by the database mean\n"
-     "                     and SD, and marked \"*\" at or beyond the SD interval; the\n"
-     "                     header says where the numbers come from\n\n" TAVI_PEER_FLAGS_HELP "\n"
+     "  --db DB            compare with the matched samples of the reference\n"
+     "                     database DB (smr: each value is followed by the database\n"
+     "                     mean and SD, and marked \"*\" at or beyond the SD interval;\n"
+     "                     performance and goals: sentences against the database);\n"
+     "                     the header says where the numbers come from\n\n" TAVI_PEER_FLAGS_HELP
+     "\n"
      "A transcript with errors is refused: its problems go to stderr and the\n"
      "exit status is 1, unless --include-errors is given.\n\n"
      "Exit status: 0 written, 1 the transcript has errors or the file could not be\n"
      "written, 2 bad usage, settings that cannot be loaded or an unreadable\n"
      "transcript.\n",
-     run}};
+     run, reportList}};
 
 } // namespace

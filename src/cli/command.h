@@ -27,6 +27,7 @@ struct CommandInfo {
     const char* summary; // one line for `tavi --help`
     const char* help;    // full text for `tavi COMMAND --help`
     int (*run)(CommandContext&);
+    std::string (*helpTail)() = nullptr; // appended to `help`: lists built from tables
 };
 
 const std::vector<CommandInfo>& commands();

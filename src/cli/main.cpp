@@ -74,7 +74,7 @@ int runMain(int argc, char** argv) {
         std::vector<std::string> rest(args.begin() + static_cast<long>(i) + 1, args.end());
         for (size_t k = 0; k < rest.size(); ++k) {
             if (rest[k] == "--help" || rest[k] == "-h") {
-                std::cout << c.help;
+                std::cout << c.help << (c.helpTail ? c.helpTail() : std::string());
                 return kExitOk;
             }
             if (rest[k] == "--settings-dir" && k + 1 < rest.size()) {

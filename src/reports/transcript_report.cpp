@@ -2,9 +2,9 @@
 #include "reports/transcript_report.h"
 
 #include <cmath>
+#include <stdexcept>
 
 #include "analysis/selection.h"
-#include "reports/utterance_types_report.h"
 
 namespace tavi {
 
@@ -32,13 +32,13 @@ MeasureSource measureSource(const SpeakerMeasures& measures) {
     };
 }
 
-Report buildTranscriptReport(const TranscriptAnalysis& analysis, const Settings& settings,
-                             const TranscriptReportRequest& request) {
+TranscriptReportContext transcriptReportContext(const TranscriptAnalysis& analysis,
+                                                const Settings& settings,
+                                                const TranscriptReportRequest& request) {
     const int speaker = analysis.speaker;
     const SegmentedTranscript& transcript = analysis.check.segmented;
     const LabelSource labels = labelSource(settings.labels, request.slot);
     const SpeakerMeasures& record = analysis.measures();
-    const MeasureSource values = measureSource(record);
     TranscriptReportContext context;
     context.transcriptName = request.transcriptName;
     context.speaker = speaker;
@@ -48,17 +48,32 @@ Report buildTranscriptReport(const TranscriptAnalysis& analysis, const Settings&
     context.cutDescription = settings.transcriptCut.isEntireTranscript()
                                  ? labels("RL_ENTIRETRAN")
                                  : describeCut(settings.transcriptCut, kCutDescriptionLength);
-    if (auto seconds = values("TimeSec"); seconds && !record.timingMissing)
-        context.elapsedSeconds = static_cast<int>(std::lround(*seconds));
-
+    if (const Value* seconds = record.find("TimeSec");
+        seconds && seconds->number() && !record.timingMissing)
+        context.elapsedSeconds = static_cast<int>(std::lround(*seconds->number()));
     context.pausesUntimed = record.pausesUntimed;
     context.somePausesUntimed = record.somePausesUntimed;
-    if (request.kind != TranscriptReportKind::StandardMeasures)
-        return buildUtteranceTypesReport(context, values, labels);
-    if (request.database)
-        return buildStandardMeasuresReport(context, values, request.smrVariables, labels,
-                                           *request.database);
-    return buildStandardMeasuresReport(context, values, request.smrVariables, labels);
+    return context;
+}
+
+Report buildTranscriptReport(const TranscriptAnalysis& analysis, const Settings& settings,
+                             const TranscriptReportRequest& request) {
+    const ReportDefinition* definition = findReport(request.kind);
+    if (!definition)
+        throw std::invalid_argument("unknown report " + std::string(request.kind));
+    const TranscriptReportContext context = transcriptReportContext(analysis, settings, request);
+    const LabelSource labels = labelSource(settings.labels, request.slot);
+    const MeasureSource values = measureSource(analysis.measures());
+    const ReportInputs inputs{analysis,
+                              settings,
+                              context,
+                              labels,
+                              values,
+                              request.choices,
+                              request.lines,
+                              request.database ? &*request.database : nullptr,
+                              request.performancePeers ? &*request.performancePeers : nullptr};
+    return definition->build(inputs);
 }
 
 } // namespace tavi

@@ -11,6 +11,7 @@
 #include "reports/labels.h"
 #include "reports/measure_source.h"
 #include "reports/report.h"
+#include "reports/report_registry.h"
 #include "reports/standard_measures_report.h"
 #include "session/analysis_session.h"
 #include "settings/label_table.h"
@@ -18,15 +19,15 @@
 
 namespace tavi {
 
-enum class TranscriptReportKind { StandardMeasures, UtteranceTypes };
-
 struct TranscriptReportRequest {
-    TranscriptReportKind kind = TranscriptReportKind::StandardMeasures;
+    std::string_view kind = "smr"; // a name of the report table
     std::string transcriptName;
     LanguageSlot slot = LanguageSlot::Primary;
-    SmrVariables smrVariables = SmrVariables::defaults();
-    // The Standard Measures Report compared with a database, when given.
+    ReportChoices choices;
+    const TranLines* lines = nullptr; // the transcript's lines, for reports that read its header
+    // The comparison with a database, when given.
     std::optional<SmrDatabase> database;
+    std::optional<PerformancePeers> performancePeers;
 };
 
 // The labels of one slot (empty texts fall back to PRIMARY).
@@ -34,8 +35,15 @@ LabelSource labelSource(const LabelTable& table, LanguageSlot slot);
 // The values of one speaker's measure record, by identifier.
 MeasureSource measureSource(const SpeakerMeasures& measures);
 
+// The header facts of the analysed speaker's report.
+TranscriptReportContext transcriptReportContext(const TranscriptAnalysis& analysis,
+                                                const Settings& settings,
+                                                const TranscriptReportRequest& request);
+
 // The report of the analysed speaker; the analysis set, word base and cut
 // named in its header are those of `settings`, the ones the analysis used.
+// An unknown kind is a broken invariant (std::invalid_argument): front ends
+// look names up with findReport first.
 Report buildTranscriptReport(const TranscriptAnalysis& analysis, const Settings& settings,
                              const TranscriptReportRequest& request);
 

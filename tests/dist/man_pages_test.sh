@@ -29,8 +29,10 @@ for command in $commands; do
     for option in $(options_of <<<"$help"); do
         named "$option" || missing+=("tavi $command $option")
     done
-    # Kinds in the usage line ("tavi report smr|types") and db's subcommands.
+    # Kinds in the usage line ("tavi x a|b") or listed under "Reports (KIND):",
+    # and db's subcommands.
     kinds=$(sed -nE "s/^Usage: [^ ]+ ${command} ([a-z0-9]+(\\|[a-z0-9]+)+).*/\\1/p" <<<"$help")
+    kinds+=" $(sed -n '/^Reports (KIND):/,$ s/^  \([a-z][a-z0-9-]*\) .*/\1/p' <<<"$help")"
     for kind in ${kinds//|/ }; do
         named "$kind" || missing+=("tavi $command $kind")
     done

@@ -1,11 +1,11 @@
-// JSON texts for the command line.
-#include "cli/json_text.h"
+// JSON texts.
+#include "base/json_text.h"
 
 #include <charconv>
 
 #include "base/format.h"
 
-namespace tavi::cli {
+namespace tavi {
 
 std::string jsonString(std::string_view s) {
     std::string out = "\"";
@@ -43,4 +43,4 @@ std::string jsonNumber(double x) {
     return std::string(buf, res.ptr);
 }
 
-} // namespace tavi::cli
+} // namespace tavi

@@ -1,0 +1,85 @@
+// The table of reports. Each builder turns the shared inputs into one report;
+// the builders themselves live beside the report they make.
+#include "reports/report_registry.h"
+
+#include <algorithm>
+#include <array>
+
+#include "reports/utterance_types_report.h"
+
+namespace tavi {
+
+namespace {
+
+Report standardMeasures(const ReportInputs& in) {
+    if (in.database)
+        return buildStandardMeasuresReport(in.context, in.values, in.choices.smrVariables,
+                                           in.labels, *in.database);
+    return buildStandardMeasuresReport(in.context, in.values, in.choices.smrVariables, in.labels);
+}
+
+Report utteranceTypes(const ReportInputs& in) {
+    return buildUtteranceTypesReport(in.context, in.values, in.labels);
+}
+
+PerformanceInputs performanceFrom(const ReportInputs& in) {
+    static const TranLines kNoLines;
+    PerformanceInputs inputs = performanceInputs(in.analysis, in.lines ? *in.lines : kNoLines);
+    if (in.performancePeers)
+        inputs.peers = *in.performancePeers;
+    return inputs;
+}
+
+Report performance(const ReportInputs& in) {
+    return buildPerformanceReport(performanceFrom(in));
+}
+
+Report goalBank(const ReportInputs& in) {
+    return buildGoalBank(performanceFrom(in));
+}
+
+using enum ReportKind;
+
+// clang-format off
+constexpr std::array kReports{
+    ReportDefinition{"smr", "Standard Measures Report", "ID_ANAL_SMR", RichText, standardMeasures,
+                     false, DatabaseUse::Optional},
+    ReportDefinition{"types", "Summary of Utterance Types", "ID_ANAL_UTT_TYPES", Grid, utteranceTypes},
+    ReportDefinition{"performance", "Performance Report", "ID_ANAL_PERF", RichText, performance,
+                     true, DatabaseUse::Optional},
+    // Without a database the goal bank lists the goals with their targets open.
+    ReportDefinition{"goals", "Goal Bank", "ID_DB_GOALS", RichText, goalBank, true,
+                     DatabaseUse::Optional},
+    // Summaries and distribution tables of the Analyze menu.
+    // Lists and tables of words, morphemes and codes of the Analyze menu.
+    // Macro analysis: scoring schemes, questions, Subordination Index.
+    // Reports against a database (the Database menu).
+};
+// clang-format on
+
+} // namespace
+
+std::span<const ReportDefinition> reportDefinitions() {
+    return kReports;
+}
+
+const ReportDefinition* findReport(std::string_view name) {
+    auto it = std::ranges::find(kReports, name, &ReportDefinition::name);
+    return it == kReports.end() ? nullptr : &*it;
+}
+
+const ReportDefinition* findReportByCommand(std::string_view commandId) {
+    if (commandId.empty())
+        return nullptr;
+    auto it = std::ranges::find(kReports, commandId, &ReportDefinition::commandId);
+    return it == kReports.end() ? nullptr : &*it;
+}
+
+std::string reportNames() {
+    std::string names;
+    for (const ReportDefinition& report : kReports)
+        names += (names.empty() ? "" : ", ") + std::string(report.name);
+    return names;
+}
+
+} // namespace tavi
