@@ -2,6 +2,7 @@
 #include "explore/explore.h"
 
 #include <algorithm>
+#include <set>
 
 #include "analysis/code_lists.h"
 #include "analysis/maze_kind.h"
@@ -278,6 +279,56 @@ ExploreResult exploreText(std::string_view text, const AnalysisContext& context,
     const TranLines lines = splitTranscriptLines(text);
     result.matches = exploreAnalysis(result.analysis, lines, criteria, &result.searched);
     return result;
+}
+
+std::vector<ExploreItemTally> tallyExploreItems(const TranscriptAnalysis& analysis,
+                                                const std::vector<ExploreMatch>& within,
+                                                const ExploreCriteria& criteria) {
+    const SegmentedTranscript& t = analysis.check.segmented;
+    std::vector<ExploreItemTally> tallies;
+    for (const std::string& item : criteria.items) {
+        ExploreItemTally tally;
+        tally.item = item;
+        const bool code = item.size() >= 2 && item.front() == '[' && item.back() == ']';
+        const std::string_view bare =
+            code ? std::string_view(item).substr(1, item.size() - 2) : std::string_view(item);
+        std::set<std::string> forms, roots;
+        for (const ExploreMatch& m : within) {
+            const Utterance& u = t.utterances[static_cast<size_t>(m.utterance)];
+            int found = 0;
+            if (code) {
+                for (const Code& c : u.codes()) {
+                    bool onWord = c.word >= 0;
+                    if ((onWord && criteria.codes == ExploreCodes::Utterance) ||
+                        (!onWord && criteria.codes == ExploreCodes::Word))
+                        continue;
+                    if (!codeMatchesItem(c.text, bare) && !exploreItemMatches(bare, c.text))
+                        continue;
+                    ++found;
+                    forms.insert(toLowerAscii(c.text));
+                    roots.insert(toLowerAscii(c.text.substr(0, c.text.find(':'))));
+                }
+            } else {
+                for (const Word& w : u.words) {
+                    if (!wordInArea(w, criteria.area) || !wordMatches(w, bare, criteria.roots))
+                        continue;
+                    ++found;
+                    forms.insert(toLowerAscii(w.text()));
+                    roots.insert(toLowerAscii(w.root()));
+                }
+            }
+            if (found == 0)
+                continue;
+            tally.occurrences += found;
+            ++tally.utterances;
+            if (tally.firstLine == 0 || u.line < tally.firstLine)
+                tally.firstLine = u.line;
+        }
+        tally.forms = static_cast<int>(forms.size());
+        tally.words = static_cast<int>(roots.size());
+        tallies.push_back(std::move(tally));
+    }
+    return tallies;
 }
 
 std::vector<std::string> exploreListLines(const std::vector<ExploreMatch>& matches) {

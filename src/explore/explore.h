@@ -41,6 +41,21 @@ std::vector<ExploreMatch> exploreAnalysis(const TranscriptAnalysis& analysis,
 ExploreResult exploreText(std::string_view text, const AnalysisContext& context,
                           const ExploreCriteria& criteria);
 
+// What the utterances found hold of each item of the criteria: the counts the
+// batch's explore variables report.
+struct ExploreItemTally {
+    std::string item;
+    int occurrences = 0; // words or codes matching it
+    int utterances = 0;  // utterances holding one
+    int forms = 0;       // different forms as written (without regard to case)
+    int words = 0;       // different roots (codes: different codes before any ":")
+    int firstLine = 0;   // entry of the first occurrence; 0 when none
+};
+// Tallies every item of `criteria` over the utterances of `within`.
+std::vector<ExploreItemTally> tallyExploreItems(const TranscriptAnalysis& analysis,
+                                                const std::vector<ExploreMatch>& within,
+                                                const ExploreCriteria& criteria);
+
 // The lines of a plain list of matches: per match "<line>: <text>" and,
 // when items matched, "    found: item, item".
 std::vector<std::string> exploreListLines(const std::vector<ExploreMatch>& matches);
