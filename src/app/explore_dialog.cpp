@@ -140,11 +140,24 @@ CExploreDialog::CExploreDialog(const ExploreCriteria& criteria, const QString& t
     layout->addLayout(join);
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    saveDefault_ =
+        buttons->addButton(QStringLiteral("Save as &Default"), QDialogButtonBox::ActionRole);
+    saveDefault_->setObjectName(QStringLiteral("saveDefault"));
+    saveDefault_->hide();
+    connect(saveDefault_, &QPushButton::clicked, this, [this] {
+        if (save_)
+            save_(this->criteria());
+    });
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout->addWidget(buttons);
 
     setCriteria(criteria);
+}
+
+void CExploreDialog::offerSavingDefaults(std::function<void(const ExploreCriteria&)> save) {
+    save_ = std::move(save);
+    saveDefault_->setVisible(static_cast<bool>(save_));
 }
 
 void CExploreDialog::setCriteria(const ExploreCriteria& c) {

@@ -9,9 +9,11 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QSpinBox>
 #include <array>
+#include <functional>
 
 #include "explore/explore_criteria.h"
 
@@ -25,6 +27,8 @@ public:
                    QWidget* parent = nullptr);
 
     ExploreCriteria criteria() const;
+    // Shows a "Save as Default" button that hands the criteria to `save`.
+    void offerSavingDefaults(std::function<void(const ExploreCriteria&)> save);
     // Sets the fields from criteria (also used by the tests).
     void setCriteria(const ExploreCriteria& criteria);
 
@@ -49,6 +53,8 @@ private:
     QRadioButton* any_;
     QRadioButton* all_;
     QCheckBox* negate_;
+    QPushButton* saveDefault_;
+    std::function<void(const ExploreCriteria&)> save_;
 };
 
 } // namespace tavi::app

@@ -117,7 +117,9 @@ private:
     void exploreInsertCode(bool multiple);
     void exploreDeleteCode(bool multiple, bool fromExplore);
     void exploreSave(bool multiple);
-    std::optional<std::pair<std::string, CodePlace>> askCodeToInsert();
+    std::optional<std::pair<std::string, CodePlace>> askCodeToInsert(bool multiple);
+    QString rememberedCode(const char* keyword, bool* onWords = nullptr) const;
+    bool separateOptions(bool multiple, SeparateOptions& options);
     void replaceTranscriptText(CTAVIFrame& frame, const std::string& text);
     std::string writeExploreEdit(const QString& path, const CodeEdit& edit);
     void editFiles(const ExploreCriteria& criteria,

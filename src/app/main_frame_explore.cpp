@@ -2,13 +2,19 @@
 // Transcripts: the criteria dialog, the list of found utterances as a report,
 // stepping through them in the transcript view, inserting and deleting codes,
 // and saving the found utterances as separate transcripts.
+#include <QCheckBox>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFormLayout>
 #include <QInputDialog>
+#include <QLabel>
+#include <QLineEdit>
 #include <QStatusBar>
 #include <QTextBlock>
 #include <QTextCursor>
+#include <QVBoxLayout>
 
 #include "app/doc_template.h"
 #include "app/explore_dialog.h"
@@ -19,8 +25,12 @@
 #include "app/tavi_doc.h"
 #include "app/tavi_frame.h"
 #include "app/tavi_view.h"
+#include "base/file_io.h"
 #include "base/format.h"
+#include "base/text.h"
 #include "explore/explore_edit.h"
+#include "settings/keyword_file.h"
+#include "settings/section_save.h"
 #include "transcript/transcript_file.h"
 
 namespace tavi::app {
@@ -83,6 +93,28 @@ std::optional<ExploreCriteria> CMainFrame::exploreCriteria(bool multiple) {
                           multiple ? QStringLiteral("Explore Multiple Transcripts")
                                    : QStringLiteral("Explore"),
                           app_.listDir(), this);
+    // The criteria as the program default: the criteria section through the
+    // one save procedure, then its item list beside it.
+    dialog.offerSavingDefaults([this, keyword, listKeyword](const ExploreCriteria& c) {
+        Settings& s = app_.settings();
+        const SaveOutcome saved = saveSection({s.userSettingsFile(),
+                                               keyword,
+                                               exploreCriteriaLines(keyword, c),
+                                               kSaveCriteriaQuestion,
+                                               kSettingsSavedIn,
+                                               s.canSaveDefaults(),
+                                               {}},
+                                              app_.prompter());
+        if (saved != SaveOutcome::Saved)
+            return;
+        std::string present;
+        readFile(s.userSettingsFile(), present);
+        if (writeKeywordFile(
+                s.userSettingsFile(),
+                mergedSectionLines(present, listKeyword, exploreItemLines(listKeyword, c))) !=
+            WriteStatus::Ok)
+            app_.prompter().inform("Cannot write to " + s.userSettingsFile() + " (not saved)");
+    });
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     const ExploreCriteria chosen = dialog.criteria();
@@ -270,21 +302,41 @@ void CMainFrame::editFiles(
         app_.prompter().inform(outcome.join(QLatin1Char('\n')).toStdString());
 }
 
-std::optional<std::pair<std::string, CodePlace>> CMainFrame::askCodeToInsert() {
+// The last code inserted or deleted, kept in "YOLINS"/"EMULTINS" and
+// "YOLDEL"/"EMULTDEL" ("CODE text", "PLACE WORD" or "PLACE UTT").
+QString CMainFrame::rememberedCode(const char* keyword, bool* onWords) const {
+    QString code;
+    for (const KeywordLine& line : app_.settings().sectionLines(keyword)) {
+        if (equalsIgnoreCase(line.subKey, "CODE"))
+            code = QString::fromStdString(line.rest);
+        else if (onWords && equalsIgnoreCase(line.subKey, "PLACE"))
+            *onWords = equalsIgnoreCase(line.rest, "WORD");
+    }
+    return code;
+}
+
+std::optional<std::pair<std::string, CodePlace>> CMainFrame::askCodeToInsert(bool multiple) {
+    const char* keyword = multiple ? "EMULTINS" : "YOLINS";
+    bool onWords = false;
+    const QString last = rememberedCode(keyword, &onWords);
     bool ok = false;
     const QString code =
         QInputDialog::getText(this, QStringLiteral("Insert Code"),
-                              QStringLiteral("Code to insert:"), QLineEdit::Normal, QString(), &ok)
+                              QStringLiteral("Code to insert:"), QLineEdit::Normal, last, &ok)
             .trimmed();
     if (!ok || code.isEmpty())
         return std::nullopt;
     const QStringList places = {QStringLiteral("Each found utterance"),
                                 QStringLiteral("Each found word")};
-    const QString place =
-        QInputDialog::getItem(this, QStringLiteral("Insert Code"),
-                              QStringLiteral("Insert the code after:"), places, 0, false, &ok);
+    const QString place = QInputDialog::getItem(this, QStringLiteral("Insert Code"),
+                                                QStringLiteral("Insert the code after:"), places,
+                                                onWords ? 1 : 0, false, &ok);
     if (!ok)
         return std::nullopt;
+    const std::string k(keyword);
+    app_.settings().replaceSectionLines(k,
+                                        {k + " CODE " + code.toStdString(),
+                                         k + (place == places[1] ? " PLACE WORD" : " PLACE UTT")});
     return std::make_pair(code.toStdString(),
                           place == places[1] ? CodePlace::Words : CodePlace::Utterance);
 }
@@ -293,7 +345,7 @@ void CMainFrame::exploreInsertCode(bool multiple) {
     std::optional<ExploreCriteria> criteria = exploreCriteria(multiple);
     if (!criteria)
         return;
-    std::optional<std::pair<std::string, CodePlace>> code = askCodeToInsert();
+    std::optional<std::pair<std::string, CodePlace>> code = askCodeToInsert(multiple);
     if (!code)
         return;
     if (multiple) {
@@ -315,13 +367,16 @@ void CMainFrame::exploreInsertCode(bool multiple) {
 }
 
 void CMainFrame::exploreDeleteCode(bool multiple, bool fromExplore) {
+    const char* keyword = multiple ? "EMULTDEL" : "YOLDEL";
     bool ok = false;
     const QString code = QInputDialog::getText(this, QStringLiteral("Delete Code"),
                                                QStringLiteral("Code to delete (EW, EW*):"),
-                                               QLineEdit::Normal, QString(), &ok)
+                                               QLineEdit::Normal, rememberedCode(keyword), &ok)
                              .trimmed();
     if (!ok || code.isEmpty())
         return;
+    app_.settings().replaceSectionLines(keyword,
+                                        {std::string(keyword) + " CODE " + code.toStdString()});
     const std::string item = code.toStdString();
     // From the Explore menus the code goes from the found utterances or from
     // every utterance, as chosen; Edit > Delete Code takes it from every one.
@@ -364,15 +419,61 @@ void CMainFrame::exploreDeleteCode(bool multiple, bool fromExplore) {
     app_.prompter().inform(format("%d codes deleted", edit.changed));
 }
 
+// What a separate transcript keeps besides the found utterances, asked with
+// the choices of the last time ("YOLSAVE"/"EMULTSAVE").
+bool CMainFrame::separateOptions(bool multiple, SeparateOptions& options) {
+    const std::string keyword = multiple ? "EMULTSAVE" : "YOLSAVE";
+    Settings& settings = app_.settings();
+    for (const KeywordLine& line : settings.sectionLines(keyword))
+        applySeparateOptionLine(line, options);
+    QDialog dialog(this);
+    dialog.setWindowTitle(multiple ? QStringLiteral("Save as Separate Transcripts")
+                                   : QStringLiteral("Save as Separate Transcript"));
+    auto* layout = new QVBoxLayout(&dialog);
+    layout->addWidget(
+        new QLabel(QStringLiteral("Keep the \"$\" line, the found utterances and:"), &dialog));
+    auto box = [&](const char* text, const char* name, bool on) {
+        auto* b = new QCheckBox(QString::fromLatin1(text), &dialog);
+        b->setObjectName(QString::fromLatin1(name));
+        b->setChecked(on);
+        layout->addWidget(b);
+        return b;
+    };
+    QCheckBox* plus = box("Header lines (+)", "plusLines", options.plusLines);
+    QCheckBox* timing = box("Timing lines (-)", "timing", options.timing);
+    QCheckBox* pauses = box("Pause lines (: and ;)", "pauses", options.pauses);
+    QCheckBox* comments = box("Comment lines (=)", "comments", options.comments);
+    QLineEdit* prefix = nullptr;
+    if (multiple) {
+        auto* row = new QFormLayout;
+        prefix = new QLineEdit(QString::fromStdString(options.prefix), &dialog);
+        prefix->setObjectName(QStringLiteral("prefix"));
+        row->addRow(QStringLiteral("File name prefix:"), prefix);
+        layout->addLayout(row);
+    }
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
+    connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    layout->addWidget(buttons);
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+    options.plusLines = plus->isChecked();
+    options.timing = timing->isChecked();
+    options.pauses = pauses->isChecked();
+    options.comments = comments->isChecked();
+    if (prefix)
+        options.prefix = prefix->text().trimmed().toStdString();
+    settings.replaceSectionLines(keyword, separateOptionLines(keyword, options));
+    return true;
+}
+
 void CMainFrame::exploreSave(bool multiple) {
     std::optional<ExploreCriteria> criteria = exploreCriteria(multiple);
     if (!criteria)
         return;
-    Settings& settings = app_.settings();
-    const std::string keyword = multiple ? "EMULTSAVE" : "YOLSAVE";
     SeparateOptions options;
-    for (const KeywordLine& line : settings.sectionLines(keyword))
-        applySeparateOptionLine(line, options);
+    if (!separateOptions(multiple, options))
+        return;
     if (!multiple) {
         std::optional<ExploreResult> r = exploreActive(*criteria, false);
         if (!r)

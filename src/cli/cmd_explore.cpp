@@ -121,6 +121,8 @@ struct FileOutcome {
 };
 
 void printList(const std::vector<FileOutcome>& files, std::ostream& out) {
+    if (files.empty())
+        return; // nothing was searched: no summary that could read as a result
     int found = 0, searched = 0;
     for (const FileOutcome& f : files) {
         if (files.size() > 1)
@@ -206,24 +208,48 @@ int run(cli::CommandContext& ctx) {
     std::vector<FileOutcome> files;
     int status = cli::kExitOk;
     for (const std::string& path : args.positional()) {
+        // The analysis through the session, with the one policy for errors:
+        // a list or count goes on past them with --include-errors, an edit
+        // only with --force.
+        FileOutcome f{path, {}};
+        if (editing) {
+            f.result.analysis = analyseFile(path, prepared->context);
+            if (f.result.analysis.load != LoadStatus::Ok) {
+                ctx.err << "tavi explore: "
+                        << (f.result.analysis.load == LoadStatus::CannotOpen ? "cannot read "
+                                                                             : "corrupted: ")
+                        << path << '\n';
+                status = cli::kExitUsage;
+                continue;
+            }
+            if (f.result.analysis.hasErrors()) {
+                for (const err& e : f.result.analysis.check.problems)
+                    ctx.err << formatProblem(e) << '\n';
+                if (!keepErrors) {
+                    ctx.err << "tavi explore: " << path
+                            << " contains errors; not changed (give --force to change it as it "
+                               "stands)\n";
+                    status = std::max(status, cli::kExitFailed);
+                    continue;
+                }
+            }
+        } else {
+            cli::CommandOutcome outcome = cli::analyseForCommand(
+                ctx, "explore", path, prepared->context, {}, keepErrors, prompter);
+            if (!outcome.analysis) {
+                status = std::max(status, outcome.exitStatus);
+                continue;
+            }
+            f.result.analysis = std::move(*outcome.analysis);
+        }
         std::string text;
         if (!readTranscriptText(path, text)) {
             ctx.err << "tavi explore: cannot read " << path << '\n';
             status = cli::kExitUsage;
             continue;
         }
-        FileOutcome f{path, exploreText(text, prepared->context, criteria)};
-        if (f.result.analysis.hasErrors()) {
-            for (const err& e : f.result.analysis.check.problems)
-                ctx.err << formatProblem(e) << '\n';
-            if (!keepErrors) {
-                ctx.err << "tavi explore: " << path << " contains errors; left out (give "
-                        << (editing ? "--force" : cli::kIncludeErrors)
-                        << " to take it as it stands)\n";
-                status = std::max(status, cli::kExitFailed);
-                continue;
-            }
-        }
+        f.result.matches = exploreAnalysis(f.result.analysis, splitTranscriptLines(text), criteria,
+                                           &f.result.searched);
         const std::string name = fs::path(path).filename().string();
         if (action == Action::Insert || action == Action::Delete) {
             CodeEdit edit =

@@ -2,9 +2,11 @@
 // menus and dialogs: the criteria dialog and its settings, the list report,
 // Find stepping through the found utterances, code insertion undone and
 // deleted, and separate transcripts.
+#include <QCheckBox>
 #include <QFile>
 #include <QInputDialog>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QSpinBox>
 
 #include "app/explore_dialog.h"
@@ -107,16 +109,57 @@ TEST_F(ExploreTest, InsertedCodesAreUndoneAndDeleted) {
     run("ID_EDIT_REDO");
     EXPECT_EQ(f->doc().utf8Text(), coded);
 
-    answerInput("LONG");
+    whenModal([](QWidget* w) {
+        auto* input = qobject_cast<QInputDialog*>(w);
+        ASSERT_NE(input, nullptr);
+        EXPECT_EQ(input->textValue(), ""); // nothing deleted yet
+        input->setTextValue("LONG");
+        input->accept();
+    });
     pressOnMessage("OK");
     run("ID_EDIT_DELETE_CODE");
     EXPECT_EQ(messages.back(), "3 codes deleted");
     EXPECT_EQ(f->doc().utf8Text(), original);
+
+    // The next insertion offers the code inserted last.
+    chooseLongUtterances();
+    whenModal([](QWidget* w) {
+        auto* input = qobject_cast<QInputDialog*>(w);
+        ASSERT_NE(input, nullptr);
+        EXPECT_EQ(input->textValue(), "LONG");
+        input->reject();
+    });
+    run("ID_EXPLORE_INSERT");
+}
+
+TEST_F(ExploreTest, CriteriaSavedAsTheProgramDefault) {
+    app->settings().customizeAllowed = true;
+    ASSERT_NE(openPark(), nullptr);
+    whenModal([this](QWidget* w) {
+        auto* dialog = qobject_cast<CExploreDialog*>(w);
+        ASSERT_NE(dialog, nullptr);
+        dialog->findChild<QPlainTextEdit*>(QStringLiteral("items"))->setPlainText("swing*");
+        pressOnMessage("Yes");
+        pressOnMessage("OK");
+        dialog->findChild<QPushButton*>(QStringLiteral("saveDefault"))->click();
+        dialog->reject();
+    });
+    run("ID_EXPLORE_LIST");
+    std::string ini;
+    ASSERT_TRUE(readFile(app->settings().userSettingsFile(), ini));
+    EXPECT_NE(ini.find("YOL WBSUT_OR\n"), std::string::npos) << ini;
+    EXPECT_NE(ini.find("YOLIST swing*\n"), std::string::npos) << ini;
 }
 
 TEST_F(ExploreTest, SavedSeparateTranscriptOpensAndChecksClean) {
     ASSERT_NE(openPark(), nullptr);
     chooseLongUtterances();
+    whenModal([](QWidget* w) {
+        auto* comments = w->findChild<QCheckBox*>(QStringLiteral("comments"));
+        ASSERT_NE(comments, nullptr);
+        EXPECT_TRUE(w->findChild<QCheckBox*>(QStringLiteral("plusLines"))->isChecked());
+        qobject_cast<QDialog*>(w)->accept();
+    });
     chooseFile(tempPath("long.tvi"));
     run("ID_EXPLORE_SAVE");
     CTAVIFrame* saved = frame->activeTranscriptFrame();
