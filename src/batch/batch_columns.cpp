@@ -165,7 +165,10 @@ ExploreCriteria exploreCriteriaOf(const ExploreOptions& e) {
     c.utterances = pick(e.utteranceChoice, ExploreUtterances::Total);
     c.area = pick(e.areaChoice, ExploreArea::MainBody);
     c.roots = pick(e.rootIdChoice, ExploreRoots::Produced);
-    c.codes = pick(e.codeTypeChoice, ExploreCodes::Word);
+    // Codes of either kind unless one is chosen.
+    const ExploreCodes codeTypes[] = {ExploreCodes::Either, ExploreCodes::Word,
+                                      ExploreCodes::Utterance};
+    c.codes = codeTypes[e.codeTypeChoice >= 0 && e.codeTypeChoice <= 2 ? e.codeTypeChoice : 0];
     c.all = e.wordBaseAnd;
     c.negate = e.wordBaseNot;
     c.mazeFilledPauses = e.mazeFilledPauses;

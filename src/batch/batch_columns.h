@@ -60,8 +60,8 @@ struct RowSource {
 
 // The explore criteria a batch's explore options stand for: "EXPLUTT" 0 total,
 // 1 analysis set, 2 outside it; "EXPLAREA" 0 main body, 1 mazes, 2 both;
-// "EXPLRID" 0 produced, 1 identified, 2 either; "EXPLCODETYPE" 0 word codes,
-// 1 utterance codes, 2 either; the "WBSUT" lines as the explore criteria keep
+// "EXPLRID" 0 produced, 1 identified, 2 either; "EXPLCODETYPE" 0 either kind
+// of code, 1 word codes, 2 utterance codes; the "WBSUT" lines as the explore criteria keep
 // them; the list entries are the items (speaker-code entries as codes).
 ExploreCriteria exploreCriteriaOf(const ExploreOptions& options);
 

@@ -44,7 +44,6 @@ TEST(BatchExplore, CountsPerEntryAndSpeakerWithTheirKey) {
         e.presence = e.mentionedFirst = true;
     e.lengthFrom = 4; // the selected utterances: four words or more
     e.wordList = {{false, "dog*"}, {true, "EU"}};
-    e.codeTypeChoice = 2;
 
     test::RecordingPrompter prompter;
     NoSteps progress;
@@ -81,7 +80,7 @@ TEST(BatchExplore, OptionsBecomeCriteria) {
     e.utteranceChoice = 1;
     e.areaChoice = 2;
     e.rootIdChoice = 1;
-    e.codeTypeChoice = 1;
+    e.codeTypeChoice = 2;
     e.wordBaseAnd = true;
     e.wordBaseNot = true;
     e.mazeRevisions = true;
@@ -100,6 +99,7 @@ TEST(BatchExplore, OptionsBecomeCriteria) {
     EXPECT_EQ(c.lengthFrom, 2);
     EXPECT_EQ(c.lengthTo, 5);
     EXPECT_EQ(c.items, (std::vector<std::string>{"go*", "[EW]", "[EO]"}));
+    EXPECT_EQ(exploreCriteriaOf(ExploreOptions{}).codes, ExploreCodes::Either);
     EXPECT_FALSE(anyExploreCount(e));
     e.presence = true;
     EXPECT_TRUE(anyExploreCount(e));
