@@ -46,7 +46,7 @@ enum class CommandStatus { Working, Unavailable };
     X(ID_EDIT_INSERT_CODE, Working) \
     X(ID_EDIT_INSERT_TEXT, Working) \
     X(ID_EDIT_INSERT_SYMBOL, Working) \
-    X(ID_EDIT_DELETE_CODE, Unavailable) \
+    X(ID_EDIT_DELETE_CODE, Working) \
     X(ID_EDIT_IDENTIFY_ROOTS, Unavailable) \
     X(ID_EDIT_INSERT_SI, Unavailable) \
     X(ID_TEMPLATE_NSS, Unavailable) \
@@ -113,19 +113,19 @@ enum class CommandStatus { Working, Unavailable };
     X(ID_DB_EXPLORE_WC, Unavailable) \
     X(ID_DB_EXPLORE_PLUS, Unavailable) \
     X(ID_DB_CUSTOM_PDF, Unavailable) \
-    X(ID_EXPLORE_LIST, Unavailable) \
-    X(ID_EXPLORE_FIND, Unavailable) \
-    X(ID_EXPLORE_INSERT, Unavailable) \
-    X(ID_EXPLORE_DELETE, Unavailable) \
-    X(ID_EXPLORE_SAVE, Unavailable) \
+    X(ID_EXPLORE_LIST, Working) \
+    X(ID_EXPLORE_FIND, Working) \
+    X(ID_EXPLORE_INSERT, Working) \
+    X(ID_EXPLORE_DELETE, Working) \
+    X(ID_EXPLORE_SAVE, Working) \
     X(ID_LINK_LINK, Working) \
     X(ID_LINK_UNLINK, Working) \
     X(ID_TOOLS_RDF, Unavailable) \
-    X(ID_EMULT_LIST, Unavailable) \
-    X(ID_EMULT_FIND, Unavailable) \
-    X(ID_EMULT_INSERT, Unavailable) \
-    X(ID_EMULT_DELETE, Unavailable) \
-    X(ID_EMULT_SAVE, Unavailable) \
+    X(ID_EMULT_LIST, Working) \
+    X(ID_EMULT_FIND, Working) \
+    X(ID_EMULT_INSERT, Working) \
+    X(ID_EMULT_DELETE, Working) \
+    X(ID_EMULT_SAVE, Working) \
     X(ID_TOOLS_GENVOC, Unavailable) \
     X(ID_TOOLS_GENBM, Unavailable) \
     X(ID_TOOLS_GENCODES, Unavailable) \

@@ -17,6 +17,7 @@
 #include "app/report_runner.h"
 #include "app/rept_doc.h"
 #include "database/peer_selection.h"
+#include "explore/explore_edit.h"
 #include "session/analysis_session.h"
 
 class QPrinter;
@@ -109,6 +110,23 @@ private:
     void databaseReport(std::string_view kind);
     // Reports
     QPageLayout pdfLayout() const;
+    // Explore, on the active transcript or (multiple) on chosen files
+    std::optional<ExploreCriteria> exploreCriteria(bool multiple);
+    std::optional<ExploreResult> exploreActive(const ExploreCriteria& criteria, bool editing);
+    QStringList exploreFiles(const QString& title);
+    void exploreList(bool multiple);
+    void exploreFind(bool multiple);
+    void exploreInsertCode(bool multiple);
+    void exploreDeleteCode(bool multiple, bool fromExplore);
+    void exploreSave(bool multiple);
+    std::optional<std::pair<std::string, CodePlace>> askCodeToInsert(bool multiple);
+    QString rememberedCode(const char* keyword, bool* onWords = nullptr) const;
+    bool separateOptions(bool multiple, SeparateOptions& options);
+    void replaceTranscriptText(CTAVIFrame& frame, const std::string& text);
+    std::string writeExploreEdit(const QString& path, const CodeEdit& edit);
+    void editFiles(const ExploreCriteria& criteria,
+                   const std::function<std::string(const std::string&)>& question,
+                   const std::function<CodeEdit(const std::string&, const ExploreResult&)>& edit);
     // Link
     void linkTranscripts();
     void unlinkTranscripts();
@@ -139,6 +157,10 @@ private:
     std::unique_ptr<QPrinter> printer_;
     int untitledCount_ = 0;
     QPointer<QMdiSubWindow> current_; // kept while the frame itself is not active
+    // Explore > Find: the transcript searched, its text then and the found entries.
+    QPointer<CTAVIDoc> findDoc_;
+    std::string findText_;
+    std::vector<int> findLines_;
 };
 
 } // namespace tavi::app

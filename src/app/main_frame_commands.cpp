@@ -107,6 +107,25 @@ void CMainFrame::registerCommands() {
     on(
         ID_EDIT_SELECT_ALL, [this] { activeChild()->selectAll(); }, document);
 
+    // Explore and Tools > Explore Multiple Transcripts
+    on(
+        ID_EXPLORE_LIST, [this] { exploreList(false); }, transcript);
+    on(
+        ID_EXPLORE_FIND, [this] { exploreFind(false); }, transcript);
+    on(
+        ID_EXPLORE_INSERT, [this] { exploreInsertCode(false); }, transcript);
+    on(
+        ID_EXPLORE_DELETE, [this] { exploreDeleteCode(false, true); }, transcript);
+    on(
+        ID_EDIT_DELETE_CODE, [this] { exploreDeleteCode(false, false); }, transcript);
+    on(
+        ID_EXPLORE_SAVE, [this] { exploreSave(false); }, transcript);
+    on(ID_EMULT_LIST, [this] { exploreList(true); });
+    on(ID_EMULT_FIND, [this] { exploreFind(true); });
+    on(ID_EMULT_INSERT, [this] { exploreInsertCode(true); });
+    on(ID_EMULT_DELETE, [this] { exploreDeleteCode(true, true); });
+    on(ID_EMULT_SAVE, [this] { exploreSave(true); });
+
     // Link
     on(
         ID_LINK_LINK, [this] { linkTranscripts(); },

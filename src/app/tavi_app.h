@@ -37,6 +37,7 @@ public:
     QString transcriptDir() const { return folder(settings_.folders.transcript); }
     QString reportDir() const { return folder(settings_.folders.report); }
     QString backupDir() const { return folder(settings_.folders.backup); }
+    QString listDir() const { return folder(settings_.folders.list); }
     QString sharedDataDir() const { return folder(settings_.folders.sharedData); }
     QString setupDir() const { return folder(settings_.folders.setup); }
 

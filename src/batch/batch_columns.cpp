@@ -1,6 +1,7 @@
 // Column lists and row texts of a batch.
 #include "batch/batch_columns.h"
 
+#include <algorithm>
 #include <charconv>
 
 #include "base/format.h"
@@ -80,20 +81,137 @@ std::string plusLineText(const BatchVariable& v, const RowSource& src, const Bat
 
 } // namespace
 
+namespace {
+
+struct ExploreCountText {
+    const char* suffix;
+    const char* description;
+};
+constexpr ExploreCountText kExploreTexts[] = {
+    {"ExplSelUtts", "Utterances meeting the explore criteria"},
+    {"_Occ", "number of occurrences"},
+    {"_Utt", "utterances containing word or code"},
+    {"_Forms", "number of different forms"},
+    {"_Words", "number of different words"},
+    {"_Pres", "presence or absence"},
+    {"_First", "mentioned first"},
+};
+
+const ExploreCountText& exploreText(ExploreCount c) {
+    return kExploreTexts[static_cast<int>(c)];
+}
+
+int exploreValue(const BatchColumn& column, const RowSource& src) {
+    if (column.count == ExploreCount::SelectedUtterances)
+        return src.exploreSelected;
+    const size_t i = static_cast<size_t>(column.item);
+    if (i >= src.exploreItems.size())
+        return 0;
+    const ExploreItemTally& t = src.exploreItems[i];
+    switch (column.count) {
+    case ExploreCount::SelectedUtterances:
+    case ExploreCount::Occurrences:
+        return t.occurrences;
+    case ExploreCount::Utterances:
+        return t.utterances;
+    case ExploreCount::DifferentForms:
+        return t.forms;
+    case ExploreCount::DifferentWords:
+        return t.words;
+    case ExploreCount::Presence:
+        return t.occurrences > 0 ? 1 : 0;
+    case ExploreCount::MentionedFirst:
+        break;
+    }
+    const int other = i < src.otherExploreItems.size() ? src.otherExploreItems[i].firstLine : 0;
+    return t.firstLine > 0 && (other == 0 || t.firstLine < other) ? 1 : 0;
+}
+
+} // namespace
+
 std::string BatchColumn::heading() const {
+    if (explore)
+        return count == ExploreCount::SelectedUtterances ? exploreText(count).suffix
+                                                         : plusLine + exploreText(count).suffix;
     return variable >= 0 ? catalogue().variable(variable).name : plusLine;
 }
 
 std::string BatchColumn::description() const {
+    if (explore)
+        return count == ExploreCount::SelectedUtterances
+                   ? exploreText(count).description
+                   : plusLine + " - " + exploreText(count).description;
     return variable >= 0 ? catalogue().variable(variable).description : kSpecificPlusLine;
 }
 
 std::string BatchColumn::category() const {
+    if (explore)
+        return "Explore";
     return variable >= 0 ? catalogue().groupOf(variable).title : "Plus Lines";
 }
 
 ValueType BatchColumn::type() const {
+    if (explore)
+        return ValueType::Integer;
     return variable >= 0 ? catalogue().variable(variable).type : ValueType::Text;
+}
+
+ExploreCriteria exploreCriteriaOf(const ExploreOptions& e) {
+    ExploreCriteria c;
+    auto pick = [](int choice, auto first) {
+        using E = decltype(first);
+        return static_cast<E>(choice >= 0 && choice <= 2 ? choice : 0);
+    };
+    c.utterances = pick(e.utteranceChoice, ExploreUtterances::Total);
+    c.area = pick(e.areaChoice, ExploreArea::MainBody);
+    c.roots = pick(e.rootIdChoice, ExploreRoots::Produced);
+    // Codes of either kind unless one is chosen.
+    const ExploreCodes codeTypes[] = {ExploreCodes::Either, ExploreCodes::Word,
+                                      ExploreCodes::Utterance};
+    c.codes = codeTypes[e.codeTypeChoice >= 0 && e.codeTypeChoice <= 2 ? e.codeTypeChoice : 0];
+    c.all = e.wordBaseAnd;
+    c.negate = e.wordBaseNot;
+    c.mazeFilledPauses = e.mazeFilledPauses;
+    c.mazeRepetitions = e.mazeRepetitions;
+    c.mazeRevisions = e.mazeRevisions;
+    for (int t : e.wordBaseChoices)
+        if (t >= 0 && t < kExploreTypes)
+            c.types.insert(static_cast<ExploreType>(t));
+    c.lengthFrom = std::max(0, e.lengthFrom);
+    c.lengthTo = std::max(0, e.lengthTo);
+    c.lengthInMorphemes = e.lengthInMorphemes;
+    for (const ExploreEntry& entry : e.wordList) {
+        std::string_view text = trim(entry.text);
+        if (text.empty())
+            continue;
+        if (entry.speakerCode && text.front() != '[')
+            c.items.push_back("[" + std::string(text) + "]");
+        else
+            c.items.emplace_back(text);
+    }
+    return c;
+}
+
+bool anyExploreCount(const ExploreOptions& e) {
+    return e.selectedUtterances || e.occurrences || e.utterances || e.differentForms ||
+           e.differentWords || e.presence || e.mentionedFirst;
+}
+
+void tallyExplore(const TranscriptAnalysis& analysis, const ExploreOptions& options,
+                  RowSource& source) {
+    ExploreCriteria criteria = exploreCriteriaOf(options);
+    const TranLines none;
+    auto speakerOf = [](int s) { return s == 1 ? ExploreSpeaker::Second : ExploreSpeaker::First; };
+    criteria.speaker = speakerOf(source.speaker);
+    source.exploreSelected = static_cast<int>(exploreAnalysis(analysis, none, criteria).size());
+    // The items are counted over the utterances that meet the other criteria.
+    ExploreCriteria within = criteria;
+    within.items.clear();
+    source.exploreItems =
+        tallyExploreItems(analysis, exploreAnalysis(analysis, none, within), criteria);
+    within.speaker = speakerOf(1 - source.speaker);
+    source.otherExploreItems =
+        tallyExploreItems(analysis, exploreAnalysis(analysis, none, within), criteria);
 }
 
 std::vector<BatchColumn> batchColumns(const BatchSelections& s, const VariableCatalogue& c) {
@@ -112,6 +230,30 @@ std::vector<BatchColumn> batchColumns(const BatchSelections& s, const VariableCa
         columns.push_back({index, {}});
     }
     addPlusList();
+    const ExploreOptions& e = s.explore;
+    auto addExplore = [&](ExploreCount count, int item, std::string label) {
+        BatchColumn column;
+        column.explore = true;
+        column.count = count;
+        column.item = item;
+        column.plusLine = std::move(label);
+        columns.push_back(std::move(column));
+    };
+    if (e.selectedUtterances)
+        addExplore(ExploreCount::SelectedUtterances, -1, {});
+    const std::vector<std::string> items = exploreCriteriaOf(e).items;
+    const std::pair<bool, ExploreCount> counts[] = {
+        {e.occurrences, ExploreCount::Occurrences},
+        {e.utterances, ExploreCount::Utterances},
+        {e.differentForms, ExploreCount::DifferentForms},
+        {e.differentWords, ExploreCount::DifferentWords},
+        {e.presence, ExploreCount::Presence},
+        {e.mentionedFirst, ExploreCount::MentionedFirst},
+    };
+    for (size_t i = 0; i < items.size(); ++i)
+        for (auto [on, count] : counts)
+            if (on)
+                addExplore(count, static_cast<int>(i), items[i]);
     return columns;
 }
 
@@ -142,6 +284,10 @@ std::vector<std::string> batchRow(const std::vector<BatchColumn>& columns, const
     std::vector<std::string> row;
     row.reserve(columns.size());
     for (const BatchColumn& column : columns) {
+        if (column.explore) {
+            row.push_back(format("%d", exploreValue(column, src)));
+            continue;
+        }
         if (column.variable < 0) {
             const HeaderLine* h = findHeader(*src.transcript, column.plusLine);
             row.push_back(h && !h->value.empty() ? h->value : s.missingText);

@@ -64,6 +64,8 @@ TranscriptOutcome analyse(const std::filesystem::path& path, const BatchRunOptio
         src.analysisSet = texts.analysisSet;
         src.wordBase = texts.wordBase;
         src.cut = texts.cut;
+        if (anyExploreCount(options.selections.explore))
+            tallyExplore(analysis, options.selections.explore, src);
         out.rows.push_back(batchRow(columns, src, options.selections));
     }
     return out;

@@ -36,7 +36,9 @@ public:
 
     void inform(std::string_view text) override { print(text, ""); }
     Answer ask(std::string_view text) override {
-        bool yes = text.find(" cut marker not found.") != std::string_view::npos
+        // Saving the defaults was asked for on the command line itself.
+        bool yes = text.find("as the program default?") != std::string_view::npos ? true
+                   : text.find(" cut marker not found.") != std::string_view::npos
                        ? includeMissingCut_
                        : includeErrors_;
         print(text, yes ? " [Yes]" : " [No]");
@@ -181,14 +183,16 @@ bool applyFlags(const cli::Args& args, BatchRunOptions& options, Prompter& promp
 int run(cli::CommandContext& ctx) {
     cli::Args args(
         ctx.args,
-        {"--selections", "--speaker", "--format", "--quote", "--variables", "--threads", "-o"},
-        {"--all", "--include-errors", "--include-missing-cut", "--check"});
+        {"--selections", "--speaker", "--format", "--quote", "--variables", "--threads", "-o",
+         "--save-selections"},
+        {"--all", "--include-errors", "--include-missing-cut", "--check", "--save-defaults"});
     if (!args.ok()) {
         ctx.err << "tavi batch: " << args.error() << '\n';
         return cli::kExitUsage;
     }
     std::optional<std::string> out = args.value("-o");
-    if (!out && !args.has("--check")) {
+    const bool saving = args.has("--save-selections") || args.has("--save-defaults");
+    if (!out && !args.has("--check") && !saving) {
         ctx.err << "tavi batch: no output file given (-o OUT)\n";
         return cli::kExitUsage;
     }
@@ -218,9 +222,19 @@ int run(cli::CommandContext& ctx) {
     if (!applyFlags(args, options, prompter, ctx.err))
         return cli::kExitUsage;
 
+    if (std::optional<std::string> sbt = args.value("--save-selections")) {
+        if (!saveSelectionFile(*sbt, options.selections, prompter))
+            return cli::kExitFailed;
+    }
+    if (args.has("--save-defaults") &&
+        saveBatchDefaults(options.selections, loaded.settings, prompter) != SaveOutcome::Saved)
+        return cli::kExitFailed;
+
     std::vector<fs::path> files(args.positional().begin(), args.positional().end());
     if (args.has("--check"))
         return runCheck(ctx, files, options);
+    if (!out)
+        return cli::kExitOk; // only saving was asked for
     cli::TerminalProgress bar(ctx.err);
     NoProgress none;
     Progress& progress = terminal ? static_cast<Progress&>(bar) : none;
@@ -247,6 +261,7 @@ const cli::CommandRegistrar reg{{
     "                  [--quote plain|rfc4180] [--variables NAME,...] [--all] [--threads N]\n"
     "                  [--include-errors] [--include-missing-cut] -o OUT FILE...\n"
     "       tavi batch --check [--threads N] FILE...\n"
+    "       tavi batch [selection flags] --save-selections FILE.SBT | --save-defaults\n"
     "\n"
     "Analyses every transcript in order and writes one row per transcript (and\n"
     "speaker) of the chosen variables to OUT, and the description of every column\n"
@@ -273,6 +288,11 @@ const cli::CommandRegistrar reg{{
     "  --check                the batch error check: the number of transcripts, each\n"
     "                         transcript's problems and the count of errors and\n"
     "                         warnings (exit 1 when there are errors)\n"
+    "  --save-selections FILE.SBT  save the selections in force (the defaults or\n"
+    "                         --selections, with --speaker, --variables and --all)\n"
+    "                         as a selection file\n"
+    "  --save-defaults        save the same selections as the program default (the\n"
+    "                         \"BATCH\" settings); without -o only saving is done\n"
     "\n"
     "Without a selection file the selections saved as the program default (the\n"
     "\"BATCH\" settings) are used: by default the general columns (Filename,\n"

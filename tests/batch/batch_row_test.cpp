@@ -60,7 +60,8 @@ TEST(BatchRow, ValuesMissingValuesAndDecimalPlaces) {
     m[MeasureId::TTR] = Value::real(0.45678);
     m[MeasureId::NTW] = Value::count(120);
     m[MeasureId::BrownStg] = Value::text("Late I");
-    RowSource src{"a.tvi", &t, -1, 1, &m, "C&I Verbal Utts", "All Words", "Entire Transcript"};
+    RowSource src{"a.tvi", &t, -1, 1, &m, "C&I Verbal Utts", "All Words", "Entire Transcript",
+                  0,       {}, {}};
     std::vector<BatchColumn> columns = batchColumns(s, VariableCatalogue::standard());
     std::vector<std::string> row = batchRow(columns, src, s);
     EXPECT_EQ(headings(columns),

@@ -64,6 +64,11 @@ expect "tavi measures --cut-base " total aset
 expect "tavi measures --window 50 s" story.tvi sub
 expect "tavi batch --format " csv tsv txt
 expect "tavi batch --selections " pick.SBT sub
+expect "tavi batch --save-selections " pick.SBT sub
+expect "tavi explore --speaker " 1 2 either
+expect "tavi explore --code-level " word utterance either
+expect "tavi explore --save-separate " sub
+expect "tavi explore --type maze " LOUD.TVI story.tvi sub
 expect "tavi db " create info list add remove clear convert select
 expect "tavi db add " norms.tvidb sub
 expect "tavi db add norms.tvidb " LOUD.TVI story.tvi sub
