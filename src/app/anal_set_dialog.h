@@ -23,6 +23,9 @@ public:
 protected:
     void resetValues() override { setValues(AnalysisSet{}); }
     std::string sectionKeyword() const override { return "ASET"; }
+    QString helpDocument() const override {
+        return QStringLiteral("docs/measures.md#which-utterances-are-counted");
+    }
     std::vector<std::string> sectionLines() const override;
     std::string_view saveQuestion() const override;
     bool validateForSave() override { return validateCodes(" (save cancelled)"); }

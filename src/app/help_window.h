@@ -6,6 +6,12 @@
 
 namespace tavi::app {
 
+class CTAVIApp;
+
+// Where a bundled document is: beside the data folder (the source tree when
+// run from a build, share/doc/tavi when installed). Empty when not found.
+QString findHelpDocument(const CTAVIApp& app, const QString& relativePath);
+
 class CHelpWindow final : public QTextBrowser {
     Q_OBJECT
 public:
@@ -13,5 +19,10 @@ public:
     // False when the document cannot be read.
     bool showDocument(const QString& path);
 };
+
+// Opens a document ("docs/measures.md", optionally "#anchor") in a window of
+// its own beside `parent`, so a modal dialog's Help can be read while the
+// dialog stays open. False (nothing opened) when it cannot be read.
+bool openHelpWindow(const CTAVIApp& app, const QString& document, QWidget* parent);
 
 } // namespace tavi::app

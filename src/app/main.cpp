@@ -6,6 +6,7 @@
 // is needed.
 #include <QApplication>
 #include <QDir>
+#include <QIcon>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QTimer>
@@ -52,6 +53,8 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(QStringLiteral("TAVI"));
     QApplication::setApplicationVersion(QStringLiteral(TAVI_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("tavi"));
+    Q_INIT_RESOURCE(tavi); // the resources live in the desktop program's static library
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/tavi.svg")));
     tavi::app::CTAVIApp app;
     if (!app.ok())
         return 1;

@@ -6,6 +6,7 @@
 #include <QMenuBar>
 #include <QPrinter>
 #include <QStatusBar>
+#include <algorithm>
 #include <vector>
 
 #include "app/child_frame.h"
@@ -125,6 +126,8 @@ void CMainFrame::buildMenus() {
             m->setToolTipsVisible(true);
             connect(m, &QMenu::hovered, this,
                     [this](QAction* a) { statusBar()->showMessage(a->statusTip()); });
+            connect(m, &QMenu::aboutToHide, this,
+                    [this] { statusBar()->showMessage(QStringLiteral("Ready")); });
             open.push_back(m);
             break;
         }
@@ -272,6 +275,18 @@ QList<CReptFrame*> CMainFrame::reportFrames() const {
     return frames;
 }
 
+void CMainFrame::placeNewWindow(QMdiSubWindow* window) {
+    constexpr int kStep = 28; // the cascade step: a title bar's height
+    const QRect area = mdi_->viewport()->rect();
+    const QSize size = (area.size() * 0.8).expandedTo(QSize(320, 200)).boundedTo(area.size());
+    const int room =
+        std::max(0, std::min(area.width() - size.width(), area.height() - size.height()));
+    const int steps = room / kStep + 1;
+    const int others = static_cast<int>(mdi_->subWindowList().size()) - 1;
+    const int offset = static_cast<int>((std::max(0, others) % steps)) * kStep;
+    window->setGeometry(QRect(area.topLeft() + QPoint(offset, offset), size));
+}
+
 // Every document window: its context menu, and the menus refreshed when
 // what they depend on changes.
 void CMainFrame::addFrame(CChildFrame* frame) {
@@ -280,7 +295,7 @@ void CMainFrame::addFrame(CChildFrame* frame) {
     connect(frame, &CChildFrame::commandsChanged, this, &CMainFrame::updateCommands);
     connect(frame, &CChildFrame::contextMenuWanted, this,
             [this, frame](QPoint at) { makeContextMenu(frame->contextTable())->popup(at); });
-    frame->resize(mdi_->size() * 0.8);
+    placeNewWindow(frame);
     frame->show();
     mdi_->setActiveSubWindow(frame);
     current_ = frame;

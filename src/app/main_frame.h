@@ -76,6 +76,9 @@ private:
     void refreshRecentFiles();
     void refreshWindowList();
     void addFrame(CChildFrame* frame);
+    // Sizes a new window to most of the visible area and cascades it from
+    // the windows already open, never past the area's edges.
+    void placeNewWindow(QMdiSubWindow* window);
 
     // File
     void fileNew();

@@ -1,6 +1,7 @@
 // The Analyze menu's single-transcript reports.
 #include <QInputDialog>
 
+#include "app/help_window.h"
 #include "app/main_frame.h"
 #include "app/report_options_dialog.h"
 #include "app/report_runner.h"
@@ -60,6 +61,9 @@ void CMainFrame::analyzeStandardMeasures() {
         return;
     CSmrVariablesDialog dialog(app_.smrVariables, app_.reportSpeaker, mainSpeakerLabels(*analysis),
                                app_.labelSource(), this);
+    connect(&dialog, &CSmrVariablesDialog::helpRequested, this, [this, &dialog] {
+        openHelpWindow(app_, QStringLiteral("docs/reading-the-smr.md"), &dialog);
+    });
     if (dialog.exec() != QDialog::Accepted)
         return;
     app_.smrVariables = dialog.variables();

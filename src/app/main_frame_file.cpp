@@ -26,10 +26,13 @@ QString transcriptFilter() {
 } // namespace
 
 void CMainFrame::fileNew() {
-    CNewTranscriptDialog dialog(this);
+    const LanguageSettings& language = app_.settings().language;
+    const DateFormat dates{language.monthFirst ? DateOrder::MonthDayYear : DateOrder::DayMonthYear,
+                           language.dateSeparator};
+    CNewTranscriptDialog dialog(app_.labelSource(), dates, this);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    newTranscript(QString::fromStdString(composeNewTranscript(dialog.values())));
+    newTranscript(QString::fromStdString(composeNewTranscript(dialog.values(), dialog.labels())));
 }
 
 void CMainFrame::fileOpen() {

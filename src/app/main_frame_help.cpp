@@ -9,11 +9,8 @@
 #include "app/tavi_app.h"
 
 namespace tavi::app {
-namespace {
 
-// The documents live beside the data folder: the source tree when run from a
-// build, share/doc/tavi when installed.
-QString findDocument(const CTAVIApp& app, const QString& relativePath) {
+QString findHelpDocument(const CTAVIApp& app, const QString& relativePath) {
     const QString shared = app.sharedDataDir();
     const QStringList roots = {shared + QStringLiteral("/.."),
                                shared + QStringLiteral("/../doc/tavi"),
@@ -26,10 +23,27 @@ QString findDocument(const CTAVIApp& app, const QString& relativePath) {
     return QString();
 }
 
-} // namespace
+bool openHelpWindow(const CTAVIApp& app, const QString& document, QWidget* parent) {
+    const qsizetype hash = document.indexOf(QLatin1Char('#'));
+    const QString path = findHelpDocument(app, document.left(hash));
+    auto* help = new CHelpWindow(parent);
+    help->setWindowFlag(Qt::Window);
+    help->setAttribute(Qt::WA_DeleteOnClose);
+    help->setObjectName(QStringLiteral("CHelpWindow"));
+    if (path.isEmpty() || !help->showDocument(path)) {
+        delete help;
+        return false;
+    }
+    if (hash >= 0)
+        help->scrollToAnchor(document.mid(hash + 1));
+    help->setWindowTitle(QStringLiteral("TAVI Help"));
+    help->resize(720, 600);
+    help->show();
+    return true;
+}
 
 void CMainFrame::showHelpDocument(const QString& relativePath) {
-    const QString path = findDocument(app_, relativePath);
+    const QString path = findHelpDocument(app_, relativePath);
     auto* help = new CHelpWindow;
     if (path.isEmpty() || !help->showDocument(path)) {
         delete help;
@@ -39,7 +53,7 @@ void CMainFrame::showHelpDocument(const QString& relativePath) {
     QMdiSubWindow* frame = mdi_->addSubWindow(help);
     frame->setAttribute(Qt::WA_DeleteOnClose);
     frame->setObjectName(QStringLiteral("CHelpFrame"));
-    frame->resize(mdi_->size() * 0.8);
+    placeNewWindow(frame);
     frame->show();
     mdi_->setActiveSubWindow(frame);
 }

@@ -1,7 +1,10 @@
 // The Setup menu: the options dialogs, file locations, fonts and backups.
 #include <QFileDialog>
+#include <QFontDatabase>
 #include <QFontDialog>
+#include <QFontInfo>
 #include <QInputDialog>
+#include <limits>
 
 #include "app/anal_set_dialog.h"
 #include "app/main_frame.h"
@@ -40,6 +43,26 @@ constexpr FolderKind kFolders[] = {
 
 constexpr int kPixelsPerInch = 96;
 
+// The family's style name that matches the font's weight and slant ("Book"
+// rather than "Oblique"), so the font dialog opens on the style in use: with
+// no style name it may select the first style of the family, and OK would
+// then change the font.
+QString matchingStyle(const QFont& font) {
+    const QString family = QFontInfo(font).family();
+    QString best;
+    int bestDistance = std::numeric_limits<int>::max();
+    for (const QString& style : QFontDatabase::styles(family)) {
+        const int distance =
+            std::abs(QFontDatabase::weight(family, style) - static_cast<int>(font.weight())) +
+            (QFontDatabase::italic(family, style) != font.italic() ? 10000 : 0);
+        if (distance < bestDistance) {
+            best = style;
+            bestDistance = distance;
+        }
+    }
+    return best;
+}
+
 QFont toQFont(const FontSetting& setting, const QFont& fallback) {
     QFont font = fallback;
     if (!setting.faceName.empty())
@@ -48,6 +71,7 @@ QFont toQFont(const FontSetting& setting, const QFont& fallback) {
         font.setPointSizeF(std::abs(setting.height) * 72.0 / kPixelsPerInch);
     font.setWeight(setting.weight >= 600 ? QFont::Bold : QFont::Normal);
     font.setItalic(setting.italic != 0);
+    font.setStyleName(matchingStyle(font));
     return font;
 }
 

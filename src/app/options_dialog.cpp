@@ -4,6 +4,7 @@
 #include <QDialogButtonBox>
 #include <QPushButton>
 
+#include "app/help_window.h"
 #include "app/tavi_app.h"
 #include "settings/section_save.h"
 
@@ -12,7 +13,7 @@ namespace tavi::app {
 COptionsDialog::COptionsDialog(CTAVIApp& app, const QString& title, QWidget* parent)
     : QDialog(parent), app_(app), buttons_(new QDialogButtonBox),
       reset_(new QPushButton(QStringLiteral("&Reset"))),
-      saveDefault_(new QPushButton(QStringLiteral("Save as\n&Default"))) {
+      saveDefault_(new QPushButton(QStringLiteral("Save as &Default"))) {
     setWindowTitle(title);
     reset_->setObjectName(QStringLiteral("reset"));
     saveDefault_->setObjectName(QStringLiteral("saveAsDefault"));
@@ -20,11 +21,20 @@ COptionsDialog::COptionsDialog(CTAVIApp& app, const QString& title, QWidget* par
     buttons_->addButton(QDialogButtonBox::Cancel)->setText(QStringLiteral("&Cancel"));
     buttons_->addButton(reset_, QDialogButtonBox::ResetRole);
     buttons_->addButton(saveDefault_, QDialogButtonBox::ActionRole);
-    buttons_->addButton(QDialogButtonBox::Help)->setText(QStringLiteral("&Help"));
+    QPushButton* help = buttons_->addButton(QDialogButtonBox::Help);
+    help->setText(QStringLiteral("&Help"));
+    connect(help, &QPushButton::clicked, this, [this] {
+        if (!openHelpWindow(app_, helpDocument(), this))
+            app_.prompter().inform("Cannot open " + helpDocument().toStdString());
+    });
     connect(buttons_, &QDialogButtonBox::accepted, this, &COptionsDialog::accept);
     connect(buttons_, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(reset_, &QPushButton::clicked, this, [this] { resetValues(); });
     connect(saveDefault_, &QPushButton::clicked, this, [this] { saveAsDefault(); });
+}
+
+QString COptionsDialog::helpDocument() const {
+    return QStringLiteral("docs/settings.md");
 }
 
 std::string_view COptionsDialog::saveQuestion() const {

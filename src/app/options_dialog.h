@@ -1,5 +1,5 @@
-// What every options dialog shares: the "&Reset" and "Save as\n&Default"
-// buttons and saving its section of TAVI.ini through the settings' one save
+// What every options dialog shares: the "&Reset", "Save as &Default" and
+// "&Help" buttons and saving its section of TAVI.ini through the settings' one save
 // procedure ("Default settings cannot be saved on this computer." when the
 // settings cannot be saved here).
 #pragma once
@@ -30,7 +30,7 @@ public:
 
 protected:
     // The button row to put at the bottom: OK, "&Cancel", "&Reset",
-    // "Save as\n&Default", "&Help".
+    // "Save as &Default", "&Help".
     QDialogButtonBox* buttons() const { return buttons_; }
     CTAVIApp& app() const { return app_; }
 
@@ -38,6 +38,8 @@ protected:
     virtual std::string sectionKeyword() const = 0;
     virtual std::vector<std::string> sectionLines() const = 0;
     virtual std::string_view saveQuestion() const;
+    // The document "&Help" opens, with an anchor: "docs/measures.md#...".
+    virtual QString helpDocument() const;
     // Validation after the save question; shows its own message. True: valid.
     virtual bool validateForSave() { return true; }
     // Validation on OK; shows its own message and keeps the dialog open.

@@ -11,6 +11,8 @@ CReptView::CReptView(CReptDoc& doc, QWidget* parent) : QTextEdit(parent), doc_(d
     setReadOnly(true);
     setHtml(doc.content().html);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    // Text can be selected and copied, but nothing can be typed: no caret.
+    setCursorWidth(0);
 }
 
 void CReptView::contextMenuEvent(QContextMenuEvent* e) {

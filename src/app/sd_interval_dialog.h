@@ -25,6 +25,9 @@ public:
 protected:
     void resetValues() override;
     std::string sectionKeyword() const override { return "SDINT"; }
+    QString helpDocument() const override {
+        return QStringLiteral("docs/reports.md#the-comparison-rule");
+    }
     std::vector<std::string> sectionLines() const override;
     std::string_view saveQuestion() const override;
     bool validateForSave() override { return validate(); }

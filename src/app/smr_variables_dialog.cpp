@@ -83,6 +83,10 @@ CSmrVariablesDialog::CSmrVariablesDialog(const SmrVariables& variables, int spea
         setVariables(all);
     });
     connect(reset, &QPushButton::clicked, this, [this] { setVariables(SmrVariables::defaults()); });
+    QPushButton* help = buttons->addButton(QDialogButtonBox::Help);
+    help->setText(QStringLiteral("&Help"));
+    help->setObjectName(QStringLiteral("help"));
+    connect(help, &QPushButton::clicked, this, &CSmrVariablesDialog::helpRequested);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 

@@ -25,6 +25,9 @@ public:
     int speaker() const;
     void setVariables(const SmrVariables& variables);
 
+Q_SIGNALS:
+    void helpRequested(); // "&Help": the frame opens the report's document
+
 private:
     std::array<QCheckBox*, kSmrLineCount> boxes_{};
     QRadioButton* first_;

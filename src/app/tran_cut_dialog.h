@@ -27,6 +27,9 @@ public:
 protected:
     void resetValues() override { setValues(TranscriptCut{}); }
     std::string sectionKeyword() const override { return "TCUT"; }
+    QString helpDocument() const override {
+        return QStringLiteral("docs/measures.md#the-transcript-cut");
+    }
     std::vector<std::string> sectionLines() const override;
     bool validateForSave() override { return validateTimes(); }
     bool validateForOk() override { return validateTimes(); }

@@ -17,6 +17,9 @@ public:
 protected:
     void resetValues() override;
     std::string sectionKeyword() const override { return "MATTRSET"; }
+    QString helpDocument() const override {
+        return QStringLiteral("docs/measures.md#length-and-vocabulary");
+    }
     std::vector<std::string> sectionLines() const override;
     bool validateForSave() override { return validate(); }
     bool validateForOk() override { return validate(); }

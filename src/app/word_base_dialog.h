@@ -21,6 +21,9 @@ public:
 protected:
     void resetValues() override { setValues(WordBase{}); }
     std::string sectionKeyword() const override { return "WBASE"; }
+    QString helpDocument() const override {
+        return QStringLiteral("docs/measures.md#the-word-base");
+    }
     std::vector<std::string> sectionLines() const override;
     std::string_view saveQuestion() const override;
     bool validateForSave() override { return validateCodes(" (save cancelled)"); }

@@ -12,7 +12,7 @@
 #include "cli/args.h"
 #include "cli/cli_analysis.h"
 #include "cli/command.h"
-#include "cli/json_text.h"
+#include "base/json_text.h"
 #include "cli/stream_prompter.h"
 #include "explore/explore.h"
 #include "explore/explore_edit.h"
@@ -140,18 +140,18 @@ void printJson(const std::vector<FileOutcome>& files, bool countOnly, std::ostre
     bool first = true;
     for (const FileOutcome& f : files) {
         if (countOnly) {
-            out << (first ? "\n  " : ",\n  ") << "{\"file\": " << cli::jsonString(f.path)
+            out << (first ? "\n  " : ",\n  ") << "{\"file\": " << jsonString(f.path)
                 << ", \"found\": " << f.result.matches.size()
                 << ", \"searched\": " << f.result.searched << '}';
             first = false;
             continue;
         }
         for (const ExploreMatch& m : f.result.matches) {
-            out << (first ? "\n  " : ",\n  ") << "{\"file\": " << cli::jsonString(f.path)
+            out << (first ? "\n  " : ",\n  ") << "{\"file\": " << jsonString(f.path)
                 << ", \"line\": " << m.line << ", \"speaker\": " << m.speaker + 1
-                << ", \"text\": " << cli::jsonString(m.text) << ", \"items\": [";
+                << ", \"text\": " << jsonString(m.text) << ", \"items\": [";
             for (size_t i = 0; i < m.items.size(); ++i)
-                out << (i ? ", " : "") << cli::jsonString(m.items[i]);
+                out << (i ? ", " : "") << jsonString(m.items[i]);
             out << "]}";
             first = false;
         }
