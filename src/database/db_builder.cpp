@@ -60,7 +60,10 @@ public:
             return tell(format(msg::kDuplicate, record.key.c_str()));
         }
         bool goOn = fillRecord(record, lines);
-        if (!db_.append(record, transcript.text, prompter_)) {
+        std::string deidentified;
+        if (options_.deidentify)
+            deidentified = deidentifiedText(transcript.text, record.ageMonths);
+        if (!db_.append(record, options_.deidentify ? deidentified : transcript.text, prompter_)) {
             result.stopped = true;
             return false;
         }
@@ -188,6 +191,17 @@ BuildResult addTranscripts(Database& database, const std::vector<std::string>& f
     }
     if (database.readOnly()) {
         prompter.inform(format(msg::kReadOnly, database.name().c_str()));
+        build.result.stopped = true;
+        return build.result;
+    }
+    // The switches and values used are the database's from now on: a later
+    // build (or the builder opened again) starts from them.
+    DescriptiveHeader withOptions = database.info();
+    storeBuildOptions(options, withOptions);
+    if (withOptions != database.info() &&
+        !database.rewrite(
+            withOptions, [](const sd2&) { return true; },
+            format(msg::kHeaderWriteSettings, database.name().c_str()), prompter)) {
         build.result.stopped = true;
         return build.result;
     }

@@ -36,6 +36,9 @@ struct BuildOptions {
     std::string values[kEnforcedFields];
     std::string transcriptFolder; // where names without a folder are found
     DateOrder dateOrder = DateOrder::MonthDayYear;
+    // Store the transcript without the speaker's name, identifier and dates,
+    // the age kept as "CA" (see deidentifiedText); the record never holds them.
+    bool deidentify = false;
     // Called with each added record's list line as soon as the record is
     // stored, so a listing shows every committed record even if the run is
     // stopped; may be empty.
