@@ -21,16 +21,6 @@ constexpr const char* kNonMatchingCounts[kEnforcedFields] = {
     "%d non-matching context", "%d non-matching subgroup", "%d non-matching ethnicity",
     "%d non-matching location", "%d non-matching +Select value"};
 
-std::string listLine(const sd2& r) {
-    std::string line = format("%s - %s", r.key.c_str(), r.context.c_str());
-    if (!r.subgroup.empty())
-        line += format(" (%s)", r.subgroup.c_str());
-    for (const std::string* text : {&r.ethnicity, &r.location, &r.select})
-        if (!text->empty())
-            line += format("; %s", text->c_str());
-    return line;
-}
-
 // One build: the counters, the keys already stored and the cancel state.
 class Build {
 public:
@@ -69,7 +59,7 @@ public:
         }
         keys.insert(record.key);
         ++result.counters.added;
-        result.listLines.push_back(listLine(record));
+        result.listLines.push_back(recordListLine(record));
         if (options_.recordAdded)
             options_.recordAdded(result.listLines.back());
         return goOn;
@@ -126,6 +116,16 @@ private:
 };
 
 } // namespace
+
+std::string recordListLine(const sd2& r) {
+    std::string line = format("%s - %s", r.key.c_str(), r.context.c_str());
+    if (!r.subgroup.empty())
+        line += format(" (%s)", r.subgroup.c_str());
+    for (const std::string* text : {&r.ethnicity, &r.location, &r.select})
+        if (!text->empty())
+            line += format("; %s", text->c_str());
+    return line;
+}
 
 TranscriptChecker standardChecker(CheckOptions options) {
     AnalysisContext context;

@@ -56,6 +56,11 @@ struct BuildCounters {
     std::int32_t nonMatching[kEnforcedFields] = {0, 0, 0, 0, 0};
 };
 
+// The builder's list line of a record: "%s - %s" of the key and context, the
+// subgroup in brackets, then "; %s" for each of ethnicity, location and
+// "+Select" value that is not empty.
+std::string recordListLine(const sd2& record);
+
 // "3 records added (1 duplicate records, 2 with errors)".
 std::string buildSummary(const BuildCounters& counters);
 
