@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "analysis/equating.h"
 #include "analysis/selection.h"
 #include "app/qt_prompter.h"
 #include "app/tavi_app.h"
@@ -57,6 +58,8 @@ CBatchDialog::CBatchDialog(CTAVIApp& app, QWidget* parent)
     auto* form = new QFormLayout;
     form->addRow(QStringLiteral("&Speaker:"), speaker_);
     const AnalysisContext context = app_.analysisContext();
+    form->addRow(QStringLiteral("Analysis set:"),
+                 new QLabel(q(analysisSetName(context.measures.analysisSet)), this));
     form->addRow(QStringLiteral("Word base:"),
                  new QLabel(q(wordBaseText(context.measures.wordBase)), this));
     form->addRow(QStringLiteral("Transcript cut:"),
