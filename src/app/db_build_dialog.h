@@ -39,7 +39,10 @@ public:
     // The summary of the last build.
     const db::BuildResult& lastResult() const { return last_; }
 
+    // Closing (Close, Escape) writes a changed header first; an empty
+    // sampling context keeps the dialog open ("Missing sampling context").
     void accept() override;
+    void reject() override { accept(); }
 
 private:
     db::DescriptiveHeader headerFromFields(db::DescriptiveHeader info) const;

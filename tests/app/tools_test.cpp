@@ -213,5 +213,37 @@ TEST_F(ToolsTest, DatabaseBuiltFromTheDialogEqualsTaviDbAdd) {
     EXPECT_FALSE(built.contains(QByteArray("K\0i\0m\0", 6)));
 }
 
+TEST_F(ToolsTest, BuilderKeepsItsHeaderEditsAndNeedsASamplingContext) {
+    const QString path = tempPath("edit.tvidb");
+    whenModal([&](QWidget* w) {
+        auto* dialog = qobject_cast<CDBBuildDialog*>(w);
+        ASSERT_NE(dialog, nullptr);
+        dialog->setDatabase(path);
+        dialog->findChild<QLineEdit*>("context")->setText("Conversation");
+        dialog->findChild<QLineEdit*>("errorCodes")->setText("[EW] [EO]");
+        dialog->addTranscripts(); // no transcripts: creates the database only
+        dialog->setDatabase(path);
+        EXPECT_EQ(dialog->findChild<QLineEdit*>("errorCodes")->text(), "[EW] [EO]");
+        dialog->findChild<QLineEdit*>("context")->setText("  ");
+        dialog->reject();
+        EXPECT_TRUE(dialog->isVisible());
+        dialog->findChild<QLineEdit*>("context")->setText("Play");
+        dialog->reject();
+        EXPECT_FALSE(dialog->isVisible());
+    });
+    pressOnMessage("OK"); // the summary: No records added
+    pressOnMessage("OK"); // Missing sampling context
+    run("ID_TOOLS_BUILD_DB");
+    EXPECT_EQ(messages, (QStringList{"No records added", "Missing sampling context"}));
+    whenModal([&](QWidget* w) {
+        auto* dialog = qobject_cast<CDBBuildDialog*>(w);
+        ASSERT_NE(dialog, nullptr);
+        dialog->setDatabase(path);
+        EXPECT_EQ(dialog->findChild<QLineEdit*>("context")->text(), "Play");
+        dialog->accept();
+    });
+    run("ID_TOOLS_BUILD_DB");
+}
+
 } // namespace
 } // namespace tavi::app::test
