@@ -120,17 +120,17 @@ enum class CommandStatus { Working, Unavailable };
     X(ID_EXPLORE_SAVE, Working) \
     X(ID_LINK_LINK, Working) \
     X(ID_LINK_UNLINK, Working) \
-    X(ID_TOOLS_RDF, Unavailable) \
+    X(ID_TOOLS_RDF, Working) \
     X(ID_EMULT_LIST, Working) \
     X(ID_EMULT_FIND, Working) \
     X(ID_EMULT_INSERT, Working) \
     X(ID_EMULT_DELETE, Working) \
     X(ID_EMULT_SAVE, Working) \
-    X(ID_TOOLS_GENVOC, Unavailable) \
-    X(ID_TOOLS_GENBM, Unavailable) \
-    X(ID_TOOLS_GENCODES, Unavailable) \
-    X(ID_TOOLS_CHECK, Unavailable) \
-    X(ID_TOOLS_BUILD_DB, Unavailable) \
+    X(ID_TOOLS_GENVOC, Working) \
+    X(ID_TOOLS_GENBM, Working) \
+    X(ID_TOOLS_GENCODES, Working) \
+    X(ID_TOOLS_CHECK, Working) \
+    X(ID_TOOLS_BUILD_DB, Working) \
     X(ID_SETUP_ASET, Working) \
     X(ID_SETUP_WBASE, Working) \
     X(ID_SETUP_TCUT, Working) \

@@ -16,6 +16,7 @@
 #include "app/command_table.h"
 #include "app/report_runner.h"
 #include "app/rept_doc.h"
+#include "batch/list_generation.h"
 #include "database/peer_selection.h"
 #include "explore/explore_edit.h"
 #include "session/analysis_session.h"
@@ -143,6 +144,12 @@ private:
     void setupFolder(const QString& which);
     void setupFont(int which);
     void applyFonts();
+    // Tools
+    void registerToolCommands();
+    void toolsGenerateList(ListKind kind);
+    void toolsCheck();
+    void toolsBuildDatabase();
+    void toolsRectangularData();
     // Window and Help
     void closeAll(bool reportsOnly);
     void showHelpDocument(const QString& relativePath);

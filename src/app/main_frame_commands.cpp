@@ -156,6 +156,9 @@ void CMainFrame::registerCommands() {
     on(ID_FONT_DISPREPT, [this] { setupFont(1); });
     on(ID_FONT_PRT, [this] { setupFont(2); });
 
+    // Tools
+    registerToolCommands();
+
     // Window
     on(
         ID_WINDOW_CLOSE_ALL, [this] { closeAll(false); }, window);

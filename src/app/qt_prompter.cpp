@@ -38,18 +38,23 @@ QtProgress::~QtProgress() {
 
 void QtProgress::start(int total, std::string_view caption) {
     delete dialog_;
-    dialog_ = new QProgressDialog(toQ(caption), QString(), 0, total, parent_);
+    dialog_ = new QProgressDialog(toQ(caption), cancellable_ ? QStringLiteral("Cancel") : QString(),
+                                  0, total, parent_);
     dialog_->setWindowTitle(QStringLiteral("TAVI"));
     dialog_->setWindowModality(Qt::WindowModal);
     dialog_->setMinimumDuration(300);
+    QObject::connect(dialog_, &QProgressDialog::canceled, [this] { cancelled_ = true; });
     done_ = 0;
+    cancelled_ = false;
 }
 
 void QtProgress::step() {
     if (!dialog_)
         return;
     dialog_->setValue(++done_);
-    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    // A Cancel button must be pressable; without one the person's input waits.
+    QApplication::processEvents(cancellable_ ? QEventLoop::AllEvents
+                                             : QEventLoop::ExcludeUserInputEvents);
 }
 
 void QtProgress::finish() {

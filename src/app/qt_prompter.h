@@ -26,15 +26,23 @@ private:
 
 class QtProgress final : public Progress {
 public:
-    explicit QtProgress(QWidget* parent = nullptr) : parent_(parent) {}
+    // A cancellable progress shows a Cancel button and lets the person press
+    // it between steps.
+    explicit QtProgress(QWidget* parent = nullptr, bool cancellable = false)
+        : parent_(parent), cancellable_(cancellable) {}
     ~QtProgress() override;
 
     void start(int total, std::string_view caption) override;
     void step() override;
     void finish() override;
+    bool cancelled() override { return cancelled_; }
+    // The dialog while the work runs (tests press its Cancel button).
+    QProgressDialog* dialog() const { return dialog_; }
 
 private:
     QPointer<QWidget> parent_;
+    bool cancellable_ = false;
+    bool cancelled_ = false;
     QProgressDialog* dialog_ = nullptr;
     int done_ = 0;
 };

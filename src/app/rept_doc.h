@@ -5,6 +5,8 @@
 #include <QObject>
 #include <QPointer>
 #include <QString>
+#include <QStringList>
+#include <functional>
 #include <string>
 
 #include "reports/report.h"
@@ -34,6 +36,11 @@ public:
     bool sourceClosed() const { return hadSource_ && source_.isNull(); }
     QString savedPath() const { return savedPath_; }
     void setSavedPath(const QString& path) { savedPath_ = path; }
+
+    // What a double-click on a line of the report does, given that line's
+    // text and the texts of the lines above it, nearest first (e.g. open a
+    // transcript at the line a problem names); empty: nothing.
+    std::function<void(const QStringList&)> lineActivated;
 
 private:
     ReportContent content_;

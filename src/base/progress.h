@@ -12,6 +12,8 @@ public:
     virtual void start(int total, std::string_view caption) = 0;
     virtual void step() = 0;
     virtual void finish() = 0;
+    // True once the user asked to stop; long work looks between its steps.
+    virtual bool cancelled() { return false; }
 };
 
 // Progress that shows nothing.

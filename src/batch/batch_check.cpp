@@ -45,6 +45,8 @@ BatchCheckResult checkTranscripts(const std::vector<std::filesystem::path>& file
         [&](size_t i) { return checkOne(files[i], options, static_cast<int>(i)); },
         [&](size_t i, Checked& c) {
             result.lines.push_back(files[i].string());
+            FileCheck file{files[i], c.load == LoadStatus::Ok, c.problems, c.errors, c.warnings};
+            result.files.push_back(std::move(file));
             if (c.load != LoadStatus::Ok) {
                 result.lines.push_back(format(
                     c.load == LoadStatus::CannotOpen ? "%s could not be opened" : "%s corrupted",

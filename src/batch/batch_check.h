@@ -8,11 +8,22 @@
 #include <vector>
 
 #include "transcript/checker.h"
+#include "transcript/err.h"
 
 namespace tavi {
 
+// One transcript's part of the check.
+struct FileCheck {
+    std::filesystem::path file;
+    bool read = true;          // false: it could not be opened (or is corrupted)
+    std::vector<err> problems; // in line order
+    int errors = 0;
+    int warnings = 0;
+};
+
 struct BatchCheckResult {
     std::vector<std::string> lines; // the listing, one line each
+    std::vector<FileCheck> files;   // the same, transcript by transcript
     int errors = 0;
     int warnings = 0;
     int unreadable = 0; // transcripts that could not be opened

@@ -149,6 +149,12 @@ std::string keyGridTitle(const std::optional<std::filesystem::path>& selectionFi
     return selectionFile ? fileStem(*selectionFile) + "_RDFKey" : "RDF Key";
 }
 
+std::filesystem::path batchKeyFilePath(const std::filesystem::path& out) {
+    std::filesystem::path key = out;
+    key.replace_filename(out.stem().string() + "_RDFKey" + out.extension().string());
+    return key;
+}
+
 std::optional<BatchResult> runBatch(const std::vector<std::filesystem::path>& transcripts,
                                     const BatchRunOptions& options, Prompter& prompter,
                                     Progress& progress) {
@@ -186,7 +192,7 @@ std::optional<BatchResult> runBatch(const std::vector<std::filesystem::path>& tr
         [&](size_t i, TranscriptOutcome& t) {
             Decision d = decide(t, transcripts[i].string(), cutInForce, prompter);
             progress.step();
-            if (d == Decision::Cancel) {
+            if (d == Decision::Cancel || progress.cancelled()) {
                 cancelled = true;
                 return false;
             }

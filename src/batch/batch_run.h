@@ -37,6 +37,9 @@ std::string wordBaseText(const WordBase& base);
 std::string dataGridTitle(const std::optional<std::filesystem::path>& selectionFile);
 std::string keyGridTitle(const std::optional<std::filesystem::path>& selectionFile);
 
+// The key file beside a data file: "_RDFKey" before the extension.
+std::filesystem::path batchKeyFilePath(const std::filesystem::path& dataFile);
+
 struct BatchResult {
     Grid data;           // heading row of column names, one row per transcript and speaker
     Grid key;            // "Variable", "Description", "Category"
@@ -47,7 +50,7 @@ struct BatchResult {
 // Runs the batch. Nothing is run, and nothing is returned, when the missing
 // values do not validate, when no transcript ("No transcripts selected") or no
 // variable ("No variables selected") is chosen, or when a question is answered
-// Cancel.
+// Cancel or the progress is cancelled.
 std::optional<BatchResult> runBatch(const std::vector<std::filesystem::path>& transcripts,
                                     const BatchRunOptions& options, Prompter& prompter,
                                     Progress& progress);

@@ -307,14 +307,23 @@ std::vector<int> chosenVariables(const BatchSelections& s, const VariableCatalog
 }
 
 void chooseVariable(BatchSelections& s, const VariableCatalogue& c, int index) {
+    setVariableChosen(s, c, index, true);
+}
+
+void setVariableChosen(BatchSelections& s, const VariableCatalogue& c, int index, bool on) {
     const BatchVariable& v = c.variable(index);
     const VariableGroup& g = c.groupOf(index);
-    if (g.keyword == "GENINFO")
-        s.general[static_cast<size_t>(v.indexInGroup)] = true;
-    else if (g.keyword == "PLUSLINE")
-        s.plusLines[static_cast<size_t>(v.indexInGroup)] = true;
-    else
+    if (g.keyword == "GENINFO") {
+        s.general[static_cast<size_t>(v.indexInGroup)] = on;
+    } else if (g.keyword == "PLUSLINE") {
+        s.plusLines[static_cast<size_t>(v.indexInGroup)] = on;
+    } else if (on) {
         s.groups[g.keyword].insert(v.indexInGroup);
+    } else if (auto it = s.groups.find(g.keyword); it != s.groups.end()) {
+        it->second.erase(v.indexInGroup);
+        if (it->second.empty())
+            s.groups.erase(it);
+    }
 }
 
 void chooseAllVariables(BatchSelections& s, const VariableCatalogue& c) {

@@ -97,5 +97,8 @@ std::vector<int> chosenVariables(const BatchSelections& s, const VariableCatalog
 // Chooses one catalogue variable (by index) or all of them.
 void chooseVariable(BatchSelections& s, const VariableCatalogue& c, int index);
 void chooseAllVariables(BatchSelections& s, const VariableCatalogue& c);
+// Chooses or leaves out one catalogue variable; a group left with nothing
+// chosen is dropped, as a file without its line reads.
+void setVariableChosen(BatchSelections& s, const VariableCatalogue& c, int index, bool on);
 
 } // namespace tavi

@@ -62,12 +62,6 @@ private:
 };
 
 // "out.csv" -> "out_RDFKey.csv".
-fs::path keyFilePath(const fs::path& out) {
-    fs::path key = out;
-    key.replace_filename(out.stem().string() + "_RDFKey" + out.extension().string());
-    return key;
-}
-
 bool parseFormat(const std::optional<std::string>& flag, const fs::path& out, GridFormat& format) {
     std::string word = flag ? toLowerAscii(*flag) : toLowerAscii(out.extension().string());
     if (!word.empty() && word.front() == '.')
@@ -242,7 +236,7 @@ int run(cli::CommandContext& ctx) {
     if (!result)
         return cli::kExitFailed;
     const char separator = gridSeparator(format);
-    const fs::path keyFile = keyFilePath(*out);
+    const fs::path keyFile = batchKeyFilePath(*out);
     const std::string problem =
         saveReportFiles({{*out, gridFileBytes(result->data, separator, quoting)},
                          {keyFile, gridFileBytes(result->key, separator, quoting)}});

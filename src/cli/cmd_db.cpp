@@ -43,11 +43,14 @@ constexpr const char* kHelp =
     "  add DB [--speaker 1|2] [--password P] [--date-format MM-DD-YY]\n"
     "         [--enforce-context] [--enforce-subgroup VALUE]\n"
     "         [--enforce-ethnicity VALUE] [--enforce-location VALUE]\n"
-    "         [--enforce-select VALUE] TRANSCRIPT...\n"
+    "         [--enforce-select VALUE] [--deidentify] TRANSCRIPT...\n"
     "      Adds each transcript that passes the checker as one record for the\n"
     "      speaker (default 1). With an enforce flag, a transcript whose value\n"
     "      differs is stored with the database's value (the context's is the\n"
-    "      database's sampling context). Messages go to stderr, each answered\n"
+    "      database's sampling context); the switches and values are kept in the\n"
+    "      database and hold for later adds. --deidentify stores each transcript\n"
+    "      without its Name, ParticipantId, DOB and DOE lines, the age worked out\n"
+    "      from the dates kept as CA. Messages go to stderr, each answered\n"
     "      OK; the list line of each added record and the summary go to stdout.\n"
     "      Transcripts are checked and their stored values measured under the\n"
     "      settings (date format unless --date-format is given, analysis set,\n"
@@ -262,6 +265,7 @@ int add(cli::CommandContext& ctx, const cli::Args& args) {
         check.dateFormat.separator = (*format)[2];
     }
     options.dateOrder = check.dateFormat.order;
+    options.deidentify = args.has("--deidentify");
     options.recordAdded = [&ctx](const std::string& line) { ctx.out << line << std::endl; };
     std::vector<std::string> files(args.positional().begin() + 2, args.positional().end());
     NoProgress progress;
@@ -311,7 +315,7 @@ int run(cli::CommandContext& ctx) {
                     "--error-codes", "--fluency-codes", "--nonmainstream-codes",
                     "--code-switch-codes", "--speaker", "--date-format", "--enforce-subgroup",
                     "--enforce-ethnicity", "--enforce-location", "--enforce-select"},
-                   {"--enforce-context"});
+                   {"--enforce-context", "--deidentify"});
     if (!args.ok())
         return usage(ctx, args.error());
     if (args.positional().empty())

@@ -21,16 +21,6 @@ constexpr const char* kNonMatchingCounts[kEnforcedFields] = {
     "%d non-matching context", "%d non-matching subgroup", "%d non-matching ethnicity",
     "%d non-matching location", "%d non-matching +Select value"};
 
-std::string listLine(const sd2& r) {
-    std::string line = format("%s - %s", r.key.c_str(), r.context.c_str());
-    if (!r.subgroup.empty())
-        line += format(" (%s)", r.subgroup.c_str());
-    for (const std::string* text : {&r.ethnicity, &r.location, &r.select})
-        if (!text->empty())
-            line += format("; %s", text->c_str());
-    return line;
-}
-
 // One build: the counters, the keys already stored and the cancel state.
 class Build {
 public:
@@ -60,13 +50,16 @@ public:
             return tell(format(msg::kDuplicate, record.key.c_str()));
         }
         bool goOn = fillRecord(record, lines);
-        if (!db_.append(record, transcript.text, prompter_)) {
+        std::string deidentified;
+        if (options_.deidentify)
+            deidentified = deidentifiedText(transcript.text, record.ageMonths);
+        if (!db_.append(record, options_.deidentify ? deidentified : transcript.text, prompter_)) {
             result.stopped = true;
             return false;
         }
         keys.insert(record.key);
         ++result.counters.added;
-        result.listLines.push_back(listLine(record));
+        result.listLines.push_back(recordListLine(record));
         if (options_.recordAdded)
             options_.recordAdded(result.listLines.back());
         return goOn;
@@ -123,6 +116,16 @@ private:
 };
 
 } // namespace
+
+std::string recordListLine(const sd2& r) {
+    std::string line = format("%s - %s", r.key.c_str(), r.context.c_str());
+    if (!r.subgroup.empty())
+        line += format(" (%s)", r.subgroup.c_str());
+    for (const std::string* text : {&r.ethnicity, &r.location, &r.select})
+        if (!text->empty())
+            line += format("; %s", text->c_str());
+    return line;
+}
 
 TranscriptChecker standardChecker(CheckOptions options) {
     AnalysisContext context;
@@ -188,6 +191,17 @@ BuildResult addTranscripts(Database& database, const std::vector<std::string>& f
     }
     if (database.readOnly()) {
         prompter.inform(format(msg::kReadOnly, database.name().c_str()));
+        build.result.stopped = true;
+        return build.result;
+    }
+    // The switches and values used are the database's from now on: a later
+    // build (or the builder opened again) starts from them.
+    DescriptiveHeader withOptions = database.info();
+    storeBuildOptions(options, withOptions);
+    if (withOptions != database.info() &&
+        !database.rewrite(
+            withOptions, [](const sd2&) { return true; },
+            format(msg::kHeaderWriteSettings, database.name().c_str()), prompter)) {
         build.result.stopped = true;
         return build.result;
     }

@@ -36,6 +36,9 @@ struct BuildOptions {
     std::string values[kEnforcedFields];
     std::string transcriptFolder; // where names without a folder are found
     DateOrder dateOrder = DateOrder::MonthDayYear;
+    // Store the transcript without the speaker's name, identifier and dates,
+    // the age kept as "CA" (see deidentifiedText); the record never holds them.
+    bool deidentify = false;
     // Called with each added record's list line as soon as the record is
     // stored, so a listing shows every committed record even if the run is
     // stopped; may be empty.
@@ -52,6 +55,11 @@ struct BuildCounters {
     std::int32_t withErrors = 0;
     std::int32_t nonMatching[kEnforcedFields] = {0, 0, 0, 0, 0};
 };
+
+// The builder's list line of a record: "%s - %s" of the key and context, the
+// subgroup in brackets, then "; %s" for each of ethnicity, location and
+// "+Select" value that is not empty.
+std::string recordListLine(const sd2& record);
 
 // "3 records added (1 duplicate records, 2 with errors)".
 std::string buildSummary(const BuildCounters& counters);

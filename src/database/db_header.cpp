@@ -43,7 +43,7 @@ std::optional<std::string> encodeHeader(const DbHeader& header) {
            encodeNumberField(static_cast<std::int32_t>(header.lastRecord), 12);
 }
 
-HeaderProblem decodeHeader(std::string_view bytes, DbHeader& header) {
+HeaderProblem decodeHeader(std::string_view bytes, DbHeader& header, PositionCheck check) {
     if (bytes.size() < 6)
         return HeaderProblem::MissingVersion;
     auto version = parseNumberField(bytes.substr(0, 6));
@@ -51,11 +51,13 @@ HeaderProblem decodeHeader(std::string_view bytes, DbHeader& header) {
         return HeaderProblem::WrongVersion;
     // Either both positions are 0 (no records) or both point past the header,
     // the last not before the first.
+    bool chain = check == PositionCheck::Chain;
     auto first = bytes.size() >= 30 ? parseNumberField(bytes.substr(6, 24)) : std::nullopt;
-    if (!first || *first < 0 || (*first > 0 && *first < std::int64_t(kFixedHeaderSize)))
+    if (!first ||
+        (chain && (*first < 0 || (*first > 0 && *first < std::int64_t(kFixedHeaderSize)))))
         return HeaderProblem::MissingFirst;
     auto last = bytes.size() >= 54 ? parseNumberField(bytes.substr(30, 24)) : std::nullopt;
-    if (!last || (*first == 0) != (*last == 0) || *last < *first)
+    if (!last || (chain && ((*first == 0) != (*last == 0) || *last < *first)))
         return HeaderProblem::MissingLast;
     header.version = static_cast<int>(*version);
     header.firstRecord = *first;

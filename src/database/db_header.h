@@ -43,8 +43,15 @@ std::optional<std::string> encodeHeader(const DbHeader& header);
 
 enum class HeaderProblem { None, MissingVersion, WrongVersion, MissingFirst, MissingLast };
 
+// How far the two record positions are checked. A ".tvidb" file's positions
+// form a chain inside the file: both 0, or both past the header with the last
+// not before the first. The older three-file layout's header points into its
+// companion files, so there the positions need only be readable numbers.
+enum class PositionCheck { Chain, Readable };
+
 // Reads the fixed header from the first bytes of a file (which may be short).
-HeaderProblem decodeHeader(std::string_view bytes, DbHeader& header);
+HeaderProblem decodeHeader(std::string_view bytes, DbHeader& header,
+                           PositionCheck check = PositionCheck::Chain);
 
 // The four code lists, in the order of the descriptive header.
 enum CodeListKind { ErrorCodes = 0, FluencyCodes, NonmainstreamCodes, CodeSwitchCodes };

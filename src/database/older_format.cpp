@@ -72,7 +72,9 @@ std::optional<std::filesystem::path> convertOlderDatabase(const std::filesystem:
         return std::nullopt;
     }
     DbHeader fixed;
-    HeaderProblem problem = decodeHeader(header, fixed);
+    // Its positions point into the ".sd2" file (0/3168 and 1/3169 both name
+    // three records); the records are taken from that file whole.
+    HeaderProblem problem = decodeHeader(header, fixed, PositionCheck::Readable);
     if (problem == HeaderProblem::WrongVersion) {
         auto version = parseNumberField(std::string_view(header).substr(0, 6));
         prompter.inform(format(msg::kConvertWrongVersion, sd1.string().c_str(),

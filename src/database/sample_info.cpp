@@ -141,6 +141,51 @@ SampleInfo sampleInfo(const TranLines& lines, DateOrder order) {
     return info;
 }
 
+std::string deidentifiedText(std::string_view text, int ageMonths) {
+    std::string out;
+    out.reserve(text.size());
+    bool caWritten = ageMonths < 0; // an unknown age keeps the CA lines as they are
+    for (std::size_t at = 0; at < text.size();) {
+        std::size_t end = text.find_first_of("\r\n", at);
+        std::size_t next = end == std::string_view::npos ? text.size() : end + 1;
+        if (end != std::string_view::npos && text[end] == '\r' && next < text.size() &&
+            text[next] == '\n')
+            ++next;
+        std::string_view line =
+            text.substr(at, (end == std::string_view::npos ? text.size() : end) - at);
+        std::string_view ending = text.substr(at + line.size(), next - at - line.size());
+        at = next;
+        std::string_view content = line;
+        if (out.empty() && content.starts_with("\xEF\xBB\xBF"))
+            content.remove_prefix(3);
+        Header h;
+        bool drop = false, isCa = false;
+        if (headerLine(content, h)) {
+            auto is = [&](std::string_view keyword) {
+                return equalsIgnoreCase(h.keyword, keyword);
+            };
+            drop = is("Name") || is("ParticipantId") || is("DOB") || is("DOE");
+            isCa = is("CA");
+        }
+        if ((drop || isCa) && ageMonths >= 0) {
+            if (!caWritten) {
+                out.append(line.substr(0, line.size() - content.size())); // a byte order mark
+                out += format("+ CA: %d;%d", ageMonths / 12, ageMonths % 12);
+                out.append(ending.empty() ? std::string_view("\n") : ending);
+                caWritten = true;
+            }
+            continue;
+        }
+        if (drop) {
+            out.append(line.substr(0, line.size() - content.size()));
+            continue;
+        }
+        out.append(line);
+        out.append(ending);
+    }
+    return out;
+}
+
 bool valuesMatch(std::string_view value, std::string_view databaseValue) {
     static constexpr std::string_view kContexts[][3] = {{"Con", "Conversation", "Conversational"},
                                                         {"Nar", "Narration", "Narrative"},

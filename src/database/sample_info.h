@@ -30,6 +30,14 @@ struct SampleInfo {
 // The age comes from "DOB" and "DOE" when both are readable, else from "CA".
 SampleInfo sampleInfo(const TranLines& lines, DateOrder order);
 
+// The transcript text without what names the speaker or dates the sample:
+// the "+ Name:", "+ ParticipantId:", "+ DOB:" and "+ DOE:" header lines go.
+// When the age is known (`ageMonths` >= 0, worked out from the dates first),
+// it stays as one "+ CA: years;months" line where the first dropped line (or
+// the first "CA" line) was; otherwise any "CA" line is kept as it is. The
+// other lines and the line ends are kept byte for byte.
+std::string deidentifiedText(std::string_view text, int ageMonths);
+
 // Whether a transcript's value matches the database's: equal without regard
 // to case, a context abbreviation ("Con") also matching its name
 // ("Conversation").

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QMdiSubWindow>
 #include <QMessageBox>
+#include <QProgressDialog>
 #include <QTextDocument>
 #include <QTimer>
 
@@ -77,16 +78,25 @@ void AppTest::whenModal(std::function<void(QWidget*)> answer) {
 }
 
 // Answers one dialog per turn: the next answer waits for a modal dialog other
-// than the one answered last.
+// than those answered that are still open.
 void AppTest::answerNext() {
     QWidget* modal = QApplication::activeModalWidget();
     if (answers_.empty()) {
         answerTimer_.stop();
         return;
     }
-    if (!modal || (modal == lastModal_ && modal->isVisible()))
+    if (!modal)
         return;
-    lastModal_ = modal;
+    // A dialog already answered that is still open (one whose work shows
+    // further message boxes) is not answered twice.
+    for (const QPointer<QWidget>& done : answered_)
+        if (done == modal && modal->isVisible())
+            return;
+    // A progress dialog is nobody's question: the answer waits for the next dialog.
+    if (qobject_cast<QProgressDialog*>(modal))
+        return;
+    answered_.removeAll(nullptr);
+    answered_ << modal;
     auto answer = std::move(answers_.front());
     answers_.pop_front();
     // Answered from a timer of its own, so that dialogs the answer opens in

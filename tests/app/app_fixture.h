@@ -59,7 +59,7 @@ protected:
 private:
     void answerNext();
     std::deque<std::function<void(QWidget*)>> answers_;
-    QPointer<QWidget> lastModal_;
+    QList<QPointer<QWidget>> answered_;
     QTimer answerTimer_;
 };
 

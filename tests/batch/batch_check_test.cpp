@@ -37,6 +37,14 @@ TEST(BatchCheck, ListingInOrderWithCountAndSummary) {
         EXPECT_EQ(r.lines.back(),
                   r.errors == 1 ? "1 error found." : std::to_string(r.errors) + " errors found.");
     }
+    // The same, transcript by transcript, for the desktop program's report.
+    BatchCheckResult byFile = checkTranscripts(files, CheckOptions{}, 2);
+    ASSERT_EQ(byFile.files.size(), 3u);
+    EXPECT_EQ(byFile.files[1].file, files[1]);
+    EXPECT_EQ(byFile.files[1].errors, byFile.errors);
+    EXPECT_FALSE(byFile.files[1].problems.empty());
+    EXPECT_TRUE(byFile.files[0].read && byFile.files[0].problems.empty());
+    EXPECT_FALSE(byFile.files[2].read);
     BatchCheckResult clean = checkTranscripts({data("park.tvi"), data("zoo.tvi")}, {});
     EXPECT_EQ(clean.lines,
               (std::vector<std::string>{"2 transcripts", data("park.tvi").string(),

@@ -155,6 +155,31 @@ TEST(BatchRun, SameRowsWithOneThreadAndMany) {
     }
 }
 
+// A progress whose Cancel is pressed after `after` steps.
+class CancellingProgress final : public Progress {
+public:
+    explicit CancellingProgress(int after) : after_(after) {}
+    int steps = 0;
+    void start(int, std::string_view) override {}
+    void step() override { ++steps; }
+    void finish() override {}
+    bool cancelled() override { return steps >= after_; }
+
+private:
+    int after_;
+};
+
+TEST(BatchRun, CancelledProgressStopsTheRunWithNothing) {
+    BatchRunOptions options = optionsWith({"MLUw"});
+    std::vector<fs::path> files = {data("park.tvi"), data("zoo.tvi"), data("park.tvi")};
+    test::RecordingPrompter prompter;
+    CancellingProgress progress(1);
+    EXPECT_FALSE(runBatch(files, options, prompter, progress));
+    EXPECT_EQ(progress.steps, 1);
+    CancellingProgress never(100);
+    EXPECT_TRUE(runBatch(files, options, prompter, never));
+}
+
 TEST(BatchRun, NothingToRun) {
     test::RecordingPrompter prompter;
     NoProgress progress;

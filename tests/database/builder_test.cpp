@@ -5,8 +5,10 @@
 
 #include "database/db_builder.h"
 #include "database/db_messages.h"
+#include "database/sample_info.h"
 #include "db_test_util.h"
 #include "support/recording_prompter.h"
+#include "transcript/transcript_file.h"
 
 namespace tavi::db {
 namespace {
@@ -81,6 +83,49 @@ TEST(DatabaseBuilder, RecordValuesComeFromTheHeaderLines) {
     test::RecordingPrompter p;
     auto again = openDatabase(f.dbPath, OpenFor::Reading, p);
     EXPECT_EQ(again->readTranscript(r, p), std::string(kGood));
+}
+
+// A shared database keeps no name, identifier or date: the stored transcript
+// loses those lines, the age worked out from the dates stays as "CA", and
+// the stored sample still checks clean with the same record values.
+TEST(DatabaseBuilder, DeidentifiedSamplesKeepTheAgeOnly) {
+    const std::string named = "$ Child, Examiner\r\n"
+                              "+ Name: Kim Lee\r\n"
+                              "+ ParticipantId: K-17\r\n"
+                              "+ Gender: F\r\n"
+                              "+ DOB: 1-6-2019\r\n"
+                              "+ DOE: 3-20-2024\r\n"
+                              "+ Context: Con\r\n"
+                              "C I play/ed with my dog.\r\n";
+    Fixture f;
+    f.dir.write("kim.tvi", named);
+    f.dir.write("ann.tvi", "\xEF\xBB\xBF$ Child, Examiner\n+ name: Ann\n+ CA: 4;1\nC hi.\n");
+    f.dir.write("bo.tvi", "$ Child, Examiner\n+ Name: Bo\nC hi.");
+    BuildOptions options;
+    options.deidentify = true;
+    EXPECT_EQ(f.add({"kim.tvi", "ann.tvi", "bo.tvi"}, options).summary, "3 records added");
+    auto list = f.stored();
+    ASSERT_EQ(list.size(), 3u);
+    EXPECT_EQ(list[0].ageMonths, 5 * 12 + 2);
+    EXPECT_EQ(list[1].ageMonths, 4 * 12 + 1);
+    EXPECT_EQ(list[2].ageMonths, kUnknownAge);
+    test::RecordingPrompter p;
+    auto again = openDatabase(f.dbPath, OpenFor::Reading, p);
+    std::string kim = again->readTranscript(list[0], p).value_or("");
+    EXPECT_EQ(kim, "$ Child, Examiner\r\n"
+                   "+ CA: 5;2\r\n"
+                   "+ Gender: F\r\n"
+                   "+ Context: Con\r\n"
+                   "C I play/ed with my dog.\r\n");
+    EXPECT_EQ(again->readTranscript(list[1], p), "$ Child, Examiner\n+ CA: 4;1\nC hi.\n");
+    EXPECT_EQ(again->readTranscript(list[2], p), "$ Child, Examiner\nC hi.");
+    for (const char* word : {"Kim", "K-17", "DOB", "DOE", "2019", "2024"})
+        EXPECT_EQ(kim.find(word), std::string::npos) << word;
+    EXPECT_FALSE(standardChecker()(splitTranscriptLines(kim)));
+    EXPECT_EQ(sampleInfo(splitTranscriptLines(kim), DateOrder::MonthDayYear).ageMonths, 5 * 12 + 2);
+    // A byte order mark before the first line stays where it was.
+    EXPECT_EQ(deidentifiedText("\xEF\xBB\xBF+ Name: Al\n$ C, E\n", 30),
+              "\xEF\xBB\xBF+ CA: 2;6\n$ C, E\n");
 }
 
 TEST(DatabaseBuilder, SameTranscriptTwiceIsADuplicate) {

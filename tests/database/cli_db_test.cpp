@@ -107,6 +107,41 @@ TEST(TaviDb, TwoWritersAtOnceBothLandAndTheDatabaseStaysWhole) {
     }
 }
 
+// The switches an add uses are kept in the database's header and hold for the
+// next add, which gives no flags.
+TEST(TaviDb, EnforcementSwitchesAreStoredInTheHeader) {
+    tavi::test::ScratchDir dir;
+    dir.write("cat.tvi", kSample);
+    std::string other = kSample;
+    other.replace(other.find("Demo"), 4, "Other");
+    dir.write("dog.tvi", other);
+    ASSERT_EQ(tavi(dir, "create n.tvidb --context Narration").status, 0);
+    Outcome added = tavi(dir, "add n.tvidb --enforce-context --enforce-subgroup Demo cat.tvi");
+    EXPECT_EQ(added.status, 0) << added.err;
+    Outcome info = tavi(dir, "info n.tvidb");
+    EXPECT_NE(info.out.find("Enforcement: YYNNN\n"), std::string::npos) << info.out;
+
+    Outcome next = tavi(dir, "add n.tvidb dog.tvi");
+    EXPECT_EQ(next.err, "Non-matching subgroup for dog;1 - stored as Demo [OK]\n");
+    EXPECT_EQ(next.out, "dog;1 - Nar (Demo)\n1 records added (1 non-matching subgroup)\n");
+    EXPECT_NE(tavi(dir, "list n.tvidb").out.find("# Samples: 2"), std::string::npos);
+}
+
+TEST(TaviDb, DeidentifiedAddStoresNoNameOrDates) {
+    tavi::test::ScratchDir dir;
+    dir.write("kim.tvi", "$ Child, Examiner\n+ Name: Kim Lee\n+ ParticipantId: K-17\n"
+                         "+ DOB: 1-6-2019\n+ DOE: 3-20-2024\n+ Context: Nar\nC the end.\n");
+    ASSERT_EQ(tavi(dir, "create n.tvidb --context Narration").status, 0);
+    Outcome added = tavi(dir, "add n.tvidb --deidentify kim.tvi");
+    EXPECT_EQ(added.status, 0) << added.err;
+    std::ifstream in(dir.path() / "n.tvidb", std::ios::binary);
+    std::string bytes((std::istreambuf_iterator<char>(in)), {});
+    for (const char* word : {"Kim", "K-17", "DOB", "DOE", "2019"})
+        EXPECT_EQ(bytes.find(tavi::test::u16(word)), std::string::npos) << word;
+    EXPECT_NE(bytes.find(tavi::test::u16("+ CA: 5;2")), std::string::npos);
+    EXPECT_NE(tavi(dir, "list n.tvidb").out.find("Ages: 5;2"), std::string::npos);
+}
+
 TEST(TaviDb, ABlankContextIsRefused) {
     tavi::test::ScratchDir dir;
     Outcome blank = tavi(dir, "create b.tvidb --context '  '");

@@ -14,9 +14,10 @@ namespace {
 using test::block;
 using test::u16;
 
-std::string sd1Bytes(const std::string& version) {
-    return u16(version) + u16("        1234") + u16("        5678") + u16("  1") +
-           block("Narrative") + u16("  1") + block("Old stories") + u16("  0") + u16("102");
+std::string sd1Bytes(const std::string& version, const std::string& first = "        1234",
+                     const std::string& last = "        5678") {
+    return u16(version) + u16(first) + u16(last) + u16("  1") + block("Narrative") + u16("  1") +
+           block("Old stories") + u16("  0") + u16("102");
 }
 
 struct Trio {
@@ -69,6 +70,28 @@ TEST(OlderFormat, ConvertsTheThreeFilesIntoOne) {
         EXPECT_EQ(db->readTranscript((*list)[i], p), trio.texts[i]);
     }
     EXPECT_EQ(db->recordsBackward(p)->size(), 2u);
+}
+
+// The older header's positions point into the ".sd2" file: a first record at
+// 0 (or 1, counted from one) is as readable as any other, and only a
+// position that is not a number refuses the file.
+TEST(OlderFormat, HeaderPositionsNeedOnlyBeReadable) {
+    for (auto [first, last] :
+         {std::pair{"           0", "        3168"}, std::pair{"           1", "        3169"}}) {
+        Trio trio;
+        trio.dir.write("old.sd1", sd1Bytes(" 18", first, last));
+        test::RecordingPrompter p;
+        auto converted = convertOlderDatabase(trio.sd1, p);
+        ASSERT_TRUE(converted) << first << "/" << last;
+        auto db = openDatabase(*converted, OpenFor::Reading, p);
+        ASSERT_TRUE(db);
+        EXPECT_EQ(db->records(p)->size(), 2u);
+    }
+    Trio trio;
+    trio.dir.write("old.sd1", sd1Bytes(" 18", "        none", "        3168"));
+    test::RecordingPrompter p;
+    EXPECT_FALSE(convertOlderDatabase(trio.sd1, p));
+    EXPECT_EQ(p.messages.back(), trio.sd1.string() + " could not be converted");
 }
 
 TEST(OlderFormat, MissingCompanionFilesMeanAnEmptyDatabase) {

@@ -75,6 +75,10 @@ expect "tavi db add norms.tvidb " LOUD.TVI story.tvi sub
 expect "tavi db add norms.tvidb --speaker 2 st" story.tvi
 expect "tavi db convert " old.sd1 sub
 expect "tavi db create x.tvidb --sample-type " 101 102 103 104
+expect "tavi lists " codes morphemes words
+expect "tavi lists words " LOUD.TVI story.tvi sub
+expect "tavi lists words --area " main mazes both
+expect "tavi lists codes -o " LOUD.TVI norms.tvidb notes.txt old.sd1 pick.SBT story.tvi sub
 expect "tavi settings " 
 expect "tavi-gui " LOUD.TVI story.tvi sub
 
