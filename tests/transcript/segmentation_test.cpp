@@ -110,6 +110,76 @@ TEST(Segmentation, CodeOnTheLastWordBelongsToThatWord) {
     EXPECT_EQ(apart.codes()[1].precedingWord, 2);
 }
 
+// A code written inside a word is taken out of it: the word stays one word and
+// the code is its own; a code standing alone is no word at all.
+TEST(Segmentation, CodesWrittenInsideAWord) {
+    Cut inside = cut("C I go[EW:x]ing home [EU].");
+    EXPECT_EQ(roots(inside), (Strings{"I", "going", "home"}));
+    EXPECT_EQ(inside.words[1].text(), "going");
+    ASSERT_EQ(inside.codes().size(), 2u);
+    EXPECT_EQ(inside.codes()[0].text, "EW:x");
+    EXPECT_EQ(codesOn(inside, 1), std::vector<int>{0});
+    EXPECT_EQ(inside.codes()[1].word, -1);
+
+    Cut parts = cut("C the dog[EW:x]/s r\xC3\xA9[EO:y]al[EW:z]ly ran.");
+    EXPECT_EQ(roots(parts), (Strings{"the", "dog",
+                                     "r\xC3\xA9"
+                                     "ally",
+                                     "ran"}));
+    EXPECT_EQ(strings(parts.words[1].boundMorphemes()), Strings{"s"});
+    EXPECT_EQ(codesOn(parts, 2), (std::vector<int>{1, 2}));
+
+    Cut linked = cut("C ice[EW:x]_ _cream go.");
+    EXPECT_EQ(roots(linked), (Strings{"ice_cream", "go"}));
+    EXPECT_TRUE(linked.words[0].linked);
+}
+
+// A terminator before the final one ends the utterance's text: what follows
+// it is dropped, with the codes, remarks, mazes and overlaps written there.
+TEST(Segmentation, TextAfterAnEarlierTerminatorIsDropped) {
+    Cut u = cut("C I go. home.");
+    EXPECT_EQ(roots(u), (Strings{"I", "go"}));
+    EXPECT_EQ(u.terminator, Terminator::Statement);
+
+    // The maze the terminator stands in keeps the word before it.
+    Cut maze = cut("C I go (um.) now.");
+    EXPECT_EQ(roots(maze), (Strings{"I", "go", "um"}));
+    EXPECT_TRUE(maze.words[2].inMaze);
+    ASSERT_EQ(maze.mazes().size(), 1u);
+
+    Cut dropped = cut("C <I> [EW:x] ((hmm)) go! home [EU] ((laughs)) <now> (um) {x} \"hi\" :05?");
+    EXPECT_EQ(roots(dropped), (Strings{"I", "go"}));
+    EXPECT_EQ(dropped.terminator, Terminator::Question);
+    ASSERT_EQ(dropped.codes().size(), 1u);
+    EXPECT_EQ(dropped.codes()[0].text, "EW:x");
+    EXPECT_EQ(dropped.parentheticals().size(), 1u);
+    EXPECT_EQ(dropped.parentheticalWords().size(), 1u);
+    EXPECT_TRUE(dropped.mazes().empty());
+    EXPECT_TRUE(dropped.pauses().empty());
+    EXPECT_TRUE(dropped.hasOverlap);
+    EXPECT_FALSE(dropped.hasComment);
+    EXPECT_FALSE(dropped.hasQuotation);
+    EXPECT_TRUE(cut("C {x} \"go\". home.").hasQuotation);
+}
+
+// Many mazes and overlaps on one line: every word finds its own.
+TEST(Segmentation, ManyMazesOnOneLine) {
+    std::string line = "C";
+    for (int i = 0; i < 2000; ++i)
+        line += " (um) go <x>";
+    line += ".";
+    Cut u = cut(line);
+    ASSERT_EQ(u.words.size(), 6000u);
+    ASSERT_EQ(u.mazes().size(), 2000u);
+    for (size_t m = 0; m < u.mazes().size(); ++m)
+        ASSERT_EQ(std::vector<int>(u.mazes()[m].words.begin(), u.mazes()[m].words.end()),
+                  std::vector<int>{static_cast<int>(3 * m)});
+    for (size_t w = 0; w < u.words.size(); ++w) {
+        EXPECT_EQ(u.words[w].inMaze, w % 3 == 0) << w;
+        EXPECT_EQ(u.words[w].inOverlap, w % 3 == 2) << w;
+    }
+}
+
 TEST(Segmentation, Terminators) {
     struct Case {
         std::string_view line;
