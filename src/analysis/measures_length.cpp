@@ -2,6 +2,7 @@
 // bound morphemes, words mentioned first, and the utterance-length
 // distribution.
 #include <algorithm>
+#include <cmath>
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
@@ -73,7 +74,7 @@ void fillVocabulary(const SpeakerView& v, SpeakerMeasures& m) {
     m[Id::TTR] = Value::ratio(ndw, ntw);
     MovingAverage ma = movingAverage(ids, different, v.c.options.window);
     if (ma.windows > 0) {
-        m[Id::MA_NTW] = Value::real(ma.ntw);
+        m[Id::MA_NTW] = Value::count(static_cast<int>(std::lround(ma.ntw))); // the window size
         m[Id::MA_NDW] = Value::real(ma.ndw);
         m[Id::MA_TTR] = Value::real(ma.ttr);
     }
