@@ -615,27 +615,36 @@ void LineCutter::addWord(std::u32string_view text, size_t position, bool linked,
         splitWord(text, linked, word, sink_, {}, s_.spare);
         return;
     }
-    word.clear();
-    std::string_view bytes = linked || !contiguous || line_.empty()
-                                 ? std::string_view()
-                                 : line_.substr(position, text.size());
-    if (!splitWord(text, linked, word, sink_, bytes, s_.spare))
-        return;
-    word.flags.linked = linked;
+    Word kept;
+    if (!linked && contiguous && !line_.empty() && isPlainWord(text)) {
+        // The common case, an ASCII word of word characters only: no rule
+        // applies, and the word is a view of its line.
+        kept.assignPlain(line_.substr(position, text.size()));
+        kept.unintelligible = isUnintelligibleMark(text);
+    } else {
+        word.clear();
+        std::string_view bytes = linked || !contiguous || line_.empty()
+                                     ? std::string_view()
+                                     : line_.substr(position, text.size());
+        if (!splitWord(text, linked, word, sink_, bytes, s_.spare))
+            return;
+        word.flags.linked = linked;
+        kept = store_->keepWord(word, stable_);
+    }
     // Words come in line order and mazes and overlaps do not nest: one cursor
     // each finds the span a word may lie in.
     int index = static_cast<int>(s_.words.size());
     while (mazeCursor_ < mazes_.size() && mazes_[mazeCursor_].second < position)
         ++mazeCursor_;
     if (mazeCursor_ < mazes_.size() && mazes_[mazeCursor_].first <= position) {
-        word.flags.inMaze = true;
+        kept.inMaze = true;
         s_.mazeWords[mazeCursor_].push_back(index);
     }
     while (overlapCursor_ < overlaps_.size() && overlaps_[overlapCursor_].second < position)
         ++overlapCursor_;
-    word.flags.inOverlap =
+    kept.inOverlap =
         overlapCursor_ < overlaps_.size() && overlaps_[overlapCursor_].first <= position;
-    s_.words.push_back(store_->keepWord(word, stable_));
+    s_.words.push_back(kept);
     s_.positions.push_back(position);
 }
 
