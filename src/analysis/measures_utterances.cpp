@@ -1,6 +1,8 @@
 // Utterance counts by kind, terminator and code, errors and omissions, and
 // the standard utterance lists.
 #include <array>
+#include <bit>
+#include <cstdint>
 
 #include "analysis/measure_context.h"
 
@@ -150,36 +152,41 @@ void fillCodesAndErrors(const SpeakerView& v, SpeakerMeasures& m) {
 }
 
 void fillUtteranceLists(const SpeakerView& v, SpeakerMeasures& m) {
+    // Bit k: the utterance goes in list k (the lists' order, PRIP to PINTR).
+    static_assert(kUtteranceLists <= 32);
+    constexpr int kFirstTerminatorList = 15; // PSTMT, then one list per terminator kind
     for (int i : v.total) {
         const Utterance& u = v.utt(i);
         const ResponseType& r = v.response(i);
         const UtteranceFacts& f = v.facts(i);
-        const CodeFacts& c = v.codes(i);
-        const bool in[kUtteranceLists] = {r.question || r.prompt,                   // PRIP
-                                          r.imitation,                              // PIMIT
-                                          !r.question && !r.prompt && !r.imitation, // PSPON
-                                          r.oneWord,                                // PONEWD
-                                          u.intelligibility !=
-                                              Intelligibility::Intelligible,        // PUNI
-                                          !u.pauses().empty(),                      // PPAUS
-                                          f.hasOmission(),                          // POMIT
-                                          !u.parentheticals().empty(),              // PPAREN
-                                          u.hasComment,                             // PCOMMENT
-                                          u.hasQuotation,                           // PDIAL
-                                          !u.codes().empty(),                       // PCODE
-                                          c.errors.total() > 0,                     // PECODE
-                                          c.fluency.total() > 0,                    // PFLCODE
-                                          c.nonmainstream.total() > 0,              // PNMCODE
-                                          c.codeSwitch.total() > 0,                 // PCSCODE
-                                          u.terminator == Terminator::Statement,    // PSTMT
-                                          u.terminator == Terminator::Exclamation,  // PEXMK
-                                          u.terminator == Terminator::Question,     // PQUES
-                                          u.terminator == Terminator::Prompt,       // PPRMT
-                                          u.terminator == Terminator::Abandoned,    // PABAN
-                                          u.terminator == Terminator::Interrupted}; // PINTR
-        for (int k = 0; k < kUtteranceLists; ++k)
-            if (in[k])
-                m.utteranceLists[k].push_back(i);
+        std::uint32_t in = 0;
+        auto put = [&](int k, bool yes) { in |= static_cast<std::uint32_t>(yes) << k; };
+        put(0, r.question || r.prompt);                             // PRIP
+        put(1, r.imitation);                                        // PIMIT
+        put(2, !r.question && !r.prompt && !r.imitation);           // PSPON
+        put(3, r.oneWord);                                          // PONEWD
+        put(4, u.intelligibility != Intelligibility::Intelligible); // PUNI
+        put(6, f.hasOmission());                                    // POMIT
+        put(8, u.hasComment);                                       // PCOMMENT
+        put(9, u.hasQuotation);                                     // PDIAL
+        if (u.extras) {
+            put(5, !u.pauses().empty());         // PPAUS
+            put(7, !u.parentheticals().empty()); // PPAREN
+            put(10, !u.codes().empty());         // PCODE
+        }
+        if (f.codes != 0) {
+            const CodeFacts& c = f.codeFacts(v.c.tables);
+            put(11, c.errors.total() > 0);        // PECODE
+            put(12, c.fluency.total() > 0);       // PFLCODE
+            put(13, c.nonmainstream.total() > 0); // PNMCODE
+            put(14, c.codeSwitch.total() > 0);    // PCSCODE
+        }
+        const auto term =
+            static_cast<int>(u.terminator); // PSTMT, PEXMK, PQUES, PPRMT, PABAN, PINTR
+        if (term >= 0 && term < kUtteranceLists - kFirstTerminatorList)
+            put(kFirstTerminatorList + term, true);
+        for (; in != 0; in &= in - 1)
+            m.utteranceLists[static_cast<size_t>(std::countr_zero(in))].push_back(i);
     }
 }
 
