@@ -68,8 +68,9 @@ void areaWords(const SpeakerView& v, int i, WordArea area, std::vector<std::stri
     const std::span<const CountedWord> counted = v.words(i);
     if (area == WordArea::MainBody) {
         for (const CountedWord& w : counted) {
-            forms.push_back(t.forms.name(t.spelling(w).form));
-            roots.push_back(t.roots.name(t.spelling(w).root));
+            const SpellingFacts& spelling = t.spelling(w);
+            forms.push_back(t.forms.view(spelling.form));
+            roots.push_back(t.roots.view(spelling.root));
         }
         return;
     }
