@@ -706,12 +706,84 @@ void startUtterance(Utterance& out, int lineNumber, int speakerGroup, const std:
     out.speakerId = buf.empty() ? 0 : buf[0];
 }
 
+// A line of plain words only: an ASCII identifier, a blank, words of ASCII
+// letters, digits and apostrophes that each hold a letter or digit, blanks
+// between them, and a terminator at the end (blanks after it allowed). No
+// rule can find fault with such a line and its words need no splitting, so
+// it is cut straight from its bytes. Returns the terminator's position, or 0
+// when the line is not of this kind.
+size_t plainLineEnd(std::string_view line) {
+    size_t n = line.size();
+    while (n > 2 && (line[n - 1] == ' ' || line[n - 1] == '\t'))
+        --n;
+    if (n < 3 || static_cast<unsigned char>(line[0]) >= 0x80 ||
+        (line[1] != ' ' && line[1] != '\t') ||
+        !cls::isTerminator(static_cast<unsigned char>(line[n - 1])))
+        return 0;
+    const size_t end = n - 1;
+    bool inWord = false, alnum = false;
+    for (size_t i = 1; i < end; ++i) {
+        const auto c = static_cast<unsigned char>(line[i]);
+        if (c == ' ' || c == '\t') {
+            if (inWord && !alnum)
+                return 0;
+            inWord = false;
+            continue;
+        }
+        const bool letterOrDigit =
+            (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
+        if (!letterOrDigit && c != '\'')
+            return 0;
+        if (!inWord)
+            alnum = false;
+        inWord = true;
+        alnum = alnum || letterOrDigit;
+    }
+    return inWord && !alnum ? 0 : end;
+}
+
+void cutPlainLine(std::string_view line, size_t end, std::vector<Word>& words, Utterance& out) {
+    int marks = 0;
+    size_t i = 1;
+    while (i < end) {
+        if (line[i] == ' ' || line[i] == '\t') {
+            ++i;
+            continue;
+        }
+        const size_t start = i;
+        while (i < end && line[i] != ' ' && line[i] != '\t')
+            ++i;
+        Word w;
+        w.assignPlain(line.substr(start, i - start));
+        const std::string_view text = w.text();
+        w.unintelligible =
+            text.size() <= 3 && text.find_first_not_of("xX") == std::string_view::npos;
+        marks += w.unintelligible ? 1 : 0;
+        words.push_back(w);
+    }
+    out.terminatorChar = static_cast<unsigned char>(line[end]);
+    out.terminator = static_cast<Terminator>(cls::terminatorKind(out.terminatorChar));
+    if (marks > 0)
+        out.intelligibility = marks == static_cast<int>(words.size())
+                                  ? Intelligibility::Unintelligible
+                                  : Intelligibility::Partly;
+}
+
 } // namespace
 
 void UtteranceSegmenter::segment(std::string_view line, int lineNumber, int speakerGroup,
                                  TranscriptStore& store, Utterance& out, ProblemSink* sink) {
     Scratch& s = *scratch_;
     s.clear();
+    if (size_t end = plainLineEnd(line)) {
+        out = Utterance();
+        out.speakerGroup = static_cast<std::int8_t>(speakerGroup);
+        out.line = lineNumber;
+        out.speakerId = static_cast<unsigned char>(line[0]);
+        cutPlainLine(line, end, s.words, out);
+        out.words = store.keep(s.words);
+        return;
+    }
     decodeCodePoints(line, s.buf);
     startUtterance(out, lineNumber, speakerGroup, s.buf);
     LineCutter(line, s, out, sink, &store).run();
@@ -725,6 +797,8 @@ void UtteranceSegmenter::segment(std::string_view line, int lineNumber, int spea
 
 void UtteranceSegmenter::check(std::string_view line, int lineNumber, int speakerGroup,
                                ProblemSink& sink) {
+    if (plainLineEnd(line) != 0)
+        return; // nothing in it can be faulty
     Scratch& s = *scratch_;
     s.clear();
     decodeCodePoints(line, s.buf);

@@ -30,6 +30,13 @@ TEST(Words, OmissionsAndIdiosyncraticForms) {
 
 // Codes attached to words: one written inside a word is taken out of it; a
 // word that begins with a code has no root.
+// Words of letters, digits and apostrophes need a letter or digit.
+TEST(Words, ApostrophesAlone) {
+    EXPECT_EQ(listingAfterSpeakers("C I don't know 'bout it.\n"), (Lines{}));
+    EXPECT_EQ(listingAfterSpeakers("C I ' go.\n"), (Lines{"E122 on entry 2: illegal word."}));
+    EXPECT_EQ(listingAfterSpeakers("C I go ''.\n"), (Lines{"E122 on entry 2: illegal word."}));
+}
+
 TEST(Words, CodesAttachedToWords) {
     EXPECT_EQ(listingAfterSpeakers("C I go[EW:x]ing home[EW:y] [EU].\n"), (Lines{}));
     EXPECT_EQ(listingAfterSpeakers("C I [EW:x]go home.\n"),

@@ -180,6 +180,28 @@ TEST(Segmentation, ManyMazesOnOneLine) {
     }
 }
 
+// Lines of plain words only are cut straight from their bytes: the record
+// must be the one the general cut gives (a comment forces the general cut).
+TEST(Segmentation, PlainLinesCutLikeAnyOther) {
+    for (std::string_view line : {"C I x go\tdon't   .  ", "C xx XXX?", "C the cat >", "C .",
+                                  "C 2 o'clock ^", "C it's XXXX!"}) {
+        Cut plain = cut(line);
+        std::string withComment(line);
+        withComment.insert(1, " {c}");
+        Cut general = cut(withComment);
+        EXPECT_EQ(roots(plain), roots(general)) << line;
+        ASSERT_EQ(plain.words.size(), general.words.size()) << line;
+        for (size_t w = 0; w < plain.words.size(); ++w)
+            EXPECT_EQ(plain.words[w].unintelligible, general.words[w].unintelligible) << line;
+        EXPECT_EQ(plain.intelligibility, general.intelligibility) << line;
+        EXPECT_EQ(plain.terminator, general.terminator) << line;
+        EXPECT_EQ(plain.terminatorChar, general.terminatorChar) << line;
+        EXPECT_EQ(plain.speakerId, U'C');
+        EXPECT_FALSE(plain.hasComment);
+        EXPECT_EQ(plain.extras, nullptr);
+    }
+}
+
 TEST(Segmentation, Terminators) {
     struct Case {
         std::string_view line;
