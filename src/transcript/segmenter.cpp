@@ -712,32 +712,51 @@ void startUtterance(Utterance& out, int lineNumber, int speakerGroup, const std:
 // rule can find fault with such a line and its words need no splitting, so
 // it is cut straight from its bytes. Returns the terminator's position, or 0
 // when the line is not of this kind.
+// What a byte of a plain line may be: 0 none of these, 1 a blank, 2 a letter
+// or digit, 3 an apostrophe.
+struct PlainBytes {
+    std::uint8_t kind[256] = {};
+    constexpr PlainBytes() {
+        kind[static_cast<unsigned char>(' ')] = kind[static_cast<unsigned char>('\t')] = 1;
+        for (int c = '0'; c <= '9'; ++c)
+            kind[c] = 2;
+        for (int c = 'a'; c <= 'z'; ++c)
+            kind[c] = kind[c - 'a' + 'A'] = 2;
+        kind[static_cast<unsigned char>('\'')] = 3;
+    }
+};
+constexpr PlainBytes kPlainBytes;
+
 size_t plainLineEnd(std::string_view line) {
     size_t n = line.size();
     while (n > 2 && (line[n - 1] == ' ' || line[n - 1] == '\t'))
         --n;
     if (n < 3 || static_cast<unsigned char>(line[0]) >= 0x80 ||
-        (line[1] != ' ' && line[1] != '\t') ||
+        kPlainBytes.kind[static_cast<unsigned char>(line[1])] != 1 ||
         !cls::isTerminator(static_cast<unsigned char>(line[n - 1])))
         return 0;
     const size_t end = n - 1;
+    // A word without a letter or digit: an apostrophe that follows a blank
+    // and is not followed by a letter or digit before the next blank.
     bool inWord = false, alnum = false;
-    for (size_t i = 1; i < end; ++i) {
-        const auto c = static_cast<unsigned char>(line[i]);
-        if (c == ' ' || c == '\t') {
+    for (size_t i = 2; i < end; ++i) {
+        switch (kPlainBytes.kind[static_cast<unsigned char>(line[i])]) {
+        case 0:
+            return 0;
+        case 1:
             if (inWord && !alnum)
                 return 0;
             inWord = false;
-            continue;
+            break;
+        case 2:
+            inWord = alnum = true;
+            break;
+        default:
+            if (!inWord)
+                alnum = false;
+            inWord = true;
+            break;
         }
-        const bool letterOrDigit =
-            (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
-        if (!letterOrDigit && c != '\'')
-            return 0;
-        if (!inWord)
-            alnum = false;
-        inWord = true;
-        alnum = alnum || letterOrDigit;
     }
     return inWord && !alnum ? 0 : end;
 }
