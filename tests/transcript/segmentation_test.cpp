@@ -1,6 +1,10 @@
 // Segmentation: what each utterance hands to the analysis.
 #include <gtest/gtest.h>
 
+#include <random>
+
+#include "check_helper.h"
+
 #include "transcript/bound_morphemes.h"
 #include "transcript/segmenter.h"
 #include "transcript/transcript_file.h"
@@ -199,6 +203,25 @@ TEST(Segmentation, PlainLinesCutLikeAnyOther) {
         EXPECT_EQ(plain.speakerId, U'C');
         EXPECT_FALSE(plain.hasComment);
         EXPECT_EQ(plain.extras, nullptr);
+    }
+    // Made-up lines of the characters at the edge of the plain kind.
+    std::mt19937 rng(7);
+    const std::string_view alphabet = "aXx'1 \t.?>/";
+    for (int n = 0; n < 3000; ++n) {
+        std::string line = "C ";
+        for (int k = 0, size = static_cast<int>(rng() % 12); k < size; ++k)
+            line += alphabet[rng() % alphabet.size()];
+        line += ".!?~^>"[rng() % 6];
+        Cut plain = cut(line);
+        Cut general = cut("C {c}" + line.substr(1));
+        ASSERT_EQ(roots(plain), roots(general)) << line;
+        for (size_t w = 0; w < plain.words.size(); ++w)
+            ASSERT_EQ(plain.words[w].unintelligible, general.words[w].unintelligible) << line;
+        ASSERT_EQ(plain.intelligibility, general.intelligibility) << line;
+        ASSERT_EQ(plain.terminatorChar, general.terminatorChar) << line;
+        ASSERT_EQ(test::listingAfterSpeakers(line + "\n"),
+                  test::listingAfterSpeakers("C {c}" + line.substr(1) + "\n"))
+            << line;
     }
 }
 
