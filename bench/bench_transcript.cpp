@@ -78,10 +78,28 @@ void BM_ReadAndCheck(benchmark::State& state) {
     state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * text.size()));
 }
 
+// One utterance line of N "(um) go" groups, checked with its words kept (as
+// the analysis does): the time per group must not grow with N.
+void BM_SegmentLongMazeLine(benchmark::State& state) {
+    std::string text = "$ Child, Examiner\nC";
+    for (int64_t i = 0; i < state.range(0); ++i)
+        text += " (um) go";
+    text += ".\n";
+    tavi::LoadedTranscript t = tavi::decodeTranscript(text);
+    tavi::CheckOptions options;
+    options.keepSegmentation = true;
+    for (auto _ : state) {
+        tavi::CheckResult r = tavi::checkTranscript(t.lines, options);
+        benchmark::DoNotOptimize(r.segmented.utterances.size());
+    }
+    state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * text.size()));
+}
+
 } // namespace
 
 BENCHMARK(BM_CheckTranscript)->Arg(4)->Arg(16)->Arg(64)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_SegmentTranscript)->Arg(1)->Arg(4)->Arg(16)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_ReadAndCheck)->Arg(16)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_SegmentLongMazeLine)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
 
 BENCHMARK_MAIN();

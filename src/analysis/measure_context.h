@@ -3,6 +3,7 @@
 // analysis engine; the families of measures are filled by separate functions.
 #pragma once
 
+#include <array>
 #include <vector>
 
 #include "analysis/measures.h"
@@ -10,13 +11,21 @@
 
 namespace tavi {
 
+// Words mentioned first by one main speaker: the different roots the speaker
+// said, and how many of them the speaker said before anyone else.
+struct MentionedFirst {
+    int first = 0;
+    int different = 0;
+};
+
 struct MeasureContext {
     const SegmentedTranscript& t;
     const MeasureOptions& options;
     const Selection& selection;
     std::vector<UtteranceFacts> facts; // per utterance; filled for utterances inside the cut
     CodeMatchers codes;
-    FactTables tables; // the facts' words, roots, forms and endings
+    FactTables tables;                              // the facts' words, roots, forms and endings
+    std::array<MentionedFirst, 2> mentionedFirst{}; // by main speaker
     const RootIds& rootIds() const { return tables.roots; }
 };
 
@@ -49,6 +58,9 @@ struct SpeakerView {
         return n;
     }
 };
+
+// Fills MeasureContext::mentionedFirst, once for both speakers.
+void countMentionedFirst(MeasureContext& c);
 
 void fillUtteranceKinds(const SpeakerView& v, SpeakerMeasures& m);
 void fillLengthAndVocabulary(const SpeakerView& v, SpeakerMeasures& m);

@@ -35,7 +35,7 @@ enum class MeasureFormat { Count, Mean, Percent, Text };
     X(SI, "SI", Mean)                                                                              \
     X(NTW, "NTW", Count)                                                                           \
     X(NDW, "NDW", Count)                                                                           \
-    X(MA_NTW, "MA_NTW", Mean)                                                                      \
+    X(MA_NTW, "MA_NTW", Count)                                                                     \
     X(MA_NDW, "MA_NDW", Mean)                                                                      \
     X(MA_TTR, "MA_TTR", Mean)                                                                      \
     X(MeanTurnUt, "MeanTurnUt", Mean)                                                              \

@@ -2,6 +2,8 @@
 // bound morphemes, words mentioned first, and the utterance-length
 // distribution.
 #include <algorithm>
+#include <cmath>
+#include <cstdint>
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
@@ -73,7 +75,7 @@ void fillVocabulary(const SpeakerView& v, SpeakerMeasures& m) {
     m[Id::TTR] = Value::ratio(ndw, ntw);
     MovingAverage ma = movingAverage(ids, different, v.c.options.window);
     if (ma.windows > 0) {
-        m[Id::MA_NTW] = Value::real(ma.ntw);
+        m[Id::MA_NTW] = Value::count(static_cast<int>(std::lround(ma.ntw))); // the window size
         m[Id::MA_NDW] = Value::real(ma.ndw);
         m[Id::MA_TTR] = Value::real(ma.ttr);
     }
@@ -99,29 +101,42 @@ void fillBoundMorphemes(const SpeakerView& v, SpeakerMeasures& m) {
 
 // Different roots that this speaker said before the other main speaker did.
 void fillMentionedFirst(const SpeakerView& v, SpeakerMeasures& m) {
-    const size_t different = static_cast<size_t>(v.c.rootIds().size());
-    std::vector<signed char> firstBy(different, -1);
-    std::vector<char> mine(different, 0);
-    int first = 0, mineCount = 0;
-    for (int i : v.c.selection.utterances) {
-        int group = v.utt(i).speakerGroup;
-        if (group > 1)
-            continue;
-        v.forEachRoot(i, [&](int id) {
-            if (firstBy[id] < 0)
-                firstBy[id] = static_cast<signed char>(group);
-            if (group == v.speaker && !mine[id]) {
-                mine[id] = 1;
-                ++mineCount;
-                first += firstBy[id] == v.speaker ? 1 : 0;
-            }
-        });
-    }
-    m[Id::WdsMention1st] = Value::count(first);
-    m[Id::PctWdsMention1st] = Value::ratio(first, mineCount, 100);
+    const MentionedFirst& counts = v.c.mentionedFirst[static_cast<size_t>(v.speaker)];
+    m[Id::WdsMention1st] = Value::count(counts.first);
+    m[Id::PctWdsMention1st] = Value::ratio(counts.first, counts.different, 100);
 }
 
 } // namespace
+
+// Both main speakers in one walk: the speaker who said each root first, and
+// the roots each said. A root counts for a speaker when it is among theirs and
+// they said it first.
+void countMentionedFirst(MeasureContext& c) {
+    const size_t different = static_cast<size_t>(c.rootIds().size());
+    std::vector<signed char> firstBy(different, -1);
+    std::vector<std::uint8_t> said(different, 0); // bit g: said by speaker g
+    for (int i : c.selection.utterances) {
+        const int group = c.t.utterances[static_cast<size_t>(i)].speakerGroup;
+        if (group > 1)
+            continue;
+        auto note = [&](int id) {
+            if (firstBy[id] < 0)
+                firstBy[id] = static_cast<signed char>(group);
+            said[id] |= static_cast<std::uint8_t>(1u << group);
+        };
+        const UtteranceFacts& f = c.facts[static_cast<size_t>(i)];
+        for (const CountedWord& w : f.words(c.tables))
+            note(c.tables.spelling(w).root);
+        for (int id : f.remarkRoots(c.tables))
+            note(id);
+    }
+    for (size_t id = 0; id < different; ++id)
+        for (int g = 0; g < 2; ++g)
+            if (said[id] & (1u << g)) {
+                ++c.mentionedFirst[g].different;
+                c.mentionedFirst[g].first += firstBy[id] == g ? 1 : 0;
+            }
+}
 
 void fillLengthAndVocabulary(const SpeakerView& v, SpeakerMeasures& m) {
     fillMlu(v, m);

@@ -68,8 +68,9 @@ void areaWords(const SpeakerView& v, int i, WordArea area, std::vector<std::stri
     const std::span<const CountedWord> counted = v.words(i);
     if (area == WordArea::MainBody) {
         for (const CountedWord& w : counted) {
-            forms.push_back(t.forms.name(t.spelling(w).form));
-            roots.push_back(t.roots.name(t.spelling(w).root));
+            const SpellingFacts& spelling = t.spelling(w);
+            forms.push_back(t.forms.view(spelling.form));
+            roots.push_back(t.roots.view(spelling.root));
         }
         return;
     }
@@ -162,6 +163,11 @@ void countPhrasesNumbered(const StandardWordLists& lists, int set,
     }
 }
 
+// Room for a number per spelling when the word lists read numbered forms.
+size_t numberedSpellings(const SpeakerView& v, const MeasureOptions& o) {
+    return o.wordListArea == WordArea::MainBody ? v.c.tables.spellingList.size() : 0;
+}
+
 bool isVerbCategory(int c) {
     return c == GcVerb || c == GcCop || c == GcAxMod || c == GcAxOp;
 }
@@ -176,9 +182,11 @@ void fillWordLists(const SpeakerView& v, SpeakerMeasures& m) {
     std::vector<std::string_view> form, roots;
     std::deque<std::string> built;
     Tally<kWordListKinds> tally{m.wordLists};
-    // The lists of each root number, looked up once; kNotLooked until then.
+    // The lists of each root number, and of each spelling (its root's and its
+    // surface form's), looked up once; kNotLooked until then.
     constexpr std::uint32_t kNotLooked = ~0u;
     std::vector<std::uint32_t> rootKinds(static_cast<size_t>(v.c.rootIds().size()), kNotLooked);
+    std::vector<std::uint32_t> spellingKinds(numberedSpellings(v, o), kNotLooked);
     const bool numbered = o.wordListArea == WordArea::MainBody;
     FormLookups look(numbered ? static_cast<size_t>(v.c.tables.forms.size()) : 0);
     for (int i : o.wordListsOnAnalysisSet ? v.analysisSet : v.total) {
@@ -189,18 +197,22 @@ void fillWordLists(const SpeakerView& v, SpeakerMeasures& m) {
             std::uint32_t kinds = 0;
             if (numbered) {
                 const SpellingFacts& w = v.spelling(counted[k]);
-                std::uint32_t& known = rootKinds[static_cast<size_t>(w.root)];
-                if (known == kNotLooked)
-                    known = o.wordLists->kindMask(set, root);
-                kinds = known;
-                if (root != form[k]) {
-                    const size_t f = static_cast<size_t>(w.form);
-                    if (!look.kindsKnown[f]) {
-                        look.kinds[f] = o.wordLists->kindMask(set, form[k]);
-                        look.kindsKnown[f] = true;
+                std::uint32_t& bySpelling = spellingKinds[counted[k].spelling];
+                if (bySpelling == kNotLooked) {
+                    std::uint32_t& known = rootKinds[static_cast<size_t>(w.root)];
+                    if (known == kNotLooked)
+                        known = o.wordLists->kindMask(set, root);
+                    bySpelling = known;
+                    if (root != form[k]) {
+                        const size_t f = static_cast<size_t>(w.form);
+                        if (!look.kindsKnown[f]) {
+                            look.kinds[f] = o.wordLists->kindMask(set, form[k]);
+                            look.kindsKnown[f] = true;
+                        }
+                        bySpelling |= look.kinds[f];
                     }
-                    kinds |= look.kinds[f];
                 }
+                kinds = bySpelling;
                 for (int kind = 0; kinds != 0; ++kind, kinds >>= 1)
                     if (kinds & 1u)
                         tally.addForm(kind, w.form, form[k]);
@@ -234,6 +246,9 @@ void fillCategoriesAndVerbs(const SpeakerView& v, SpeakerMeasures& m) {
     // and the dictionary's entry, looked up once (by the root as first written).
     std::vector<std::uint32_t> counted(roots, 0);
     std::vector<std::optional<std::vector<int>>> entries(roots);
+    // Per spelling: its categories (the root's entry, else the guess from the
+    // root and the spelling's endings), worked out once.
+    std::vector<std::optional<std::vector<int>>> bySpelling(v.c.tables.spellingList.size());
     for (int i : v.analysisSet) {
         int here = 0;
         for (const CountedWord& w : v.words(i)) {
@@ -242,12 +257,15 @@ void fillCategoriesAndVerbs(const SpeakerView& v, SpeakerMeasures& m) {
             if (t.skipped)
                 continue;
             const int id = spelling.root;
-            if (!entries[id])
-                entries[id] = dictionaryCategories(spelling.word->root(), *dictionary);
-            std::vector<int> guessed;
-            if (entries[id]->empty())
-                guessed = guessCategories(v.c.tables.roots.name(id), t.endingGroups);
-            const std::vector<int>& cats = entries[id]->empty() ? guessed : *entries[id];
+            std::optional<std::vector<int>>& known = bySpelling[w.spelling];
+            if (!known) {
+                if (!entries[id])
+                    entries[id] = dictionaryCategories(spelling.word->root(), *dictionary);
+                known = entries[id]->empty()
+                            ? guessCategories(v.c.tables.roots.name(id), t.endingGroups)
+                            : *entries[id];
+            }
+            const std::vector<int>& cats = *known;
             for (int c : cats) {
                 WordCount& count = m.categories[c];
                 ++count.total;

@@ -1,4 +1,6 @@
 // Elapsed time, rates and pauses within and between utterances.
+#include <cstdint>
+
 #include "analysis/measure_context.h"
 
 namespace tavi {
@@ -7,8 +9,10 @@ namespace {
 
 using Id = MeasureId;
 
+// Times are summed in 64 bits: a single pause may be written as 10^9 seconds.
 struct PauseSums {
-    int count = 0, timed = 0, seconds = 0;
+    int count = 0, timed = 0;
+    std::int64_t seconds = 0;
     void add(bool isTimed, int secs) {
         ++count;
         if (isTimed) {
@@ -61,15 +65,16 @@ void fillTimingAndPauses(const SpeakerView& v, SpeakerMeasures& m) {
     m[Id::NumPauseBtUt] = Value::count(between.count);
     m[Id::UntimedPauseWiUt] = Value::count(within.count - within.timed);
     m[Id::UntimedPauseBtUt] = Value::count(between.count - between.timed);
-    m[Id::PauseTimeWiUt] = Value::count(within.seconds);
-    m[Id::PauseTimeBtUt] = Value::count(between.seconds);
-    m[Id::AvgPauseWiUt] = Value::ratio(within.seconds, within.timed);
-    m[Id::AvgPauseBtUt] = Value::ratio(between.seconds, between.timed);
+    m[Id::PauseTimeWiUt] = Value::saturatedCount(within.seconds);
+    m[Id::PauseTimeBtUt] = Value::saturatedCount(between.seconds);
+    m[Id::AvgPauseWiUt] = Value::ratio(static_cast<double>(within.seconds), within.timed);
+    m[Id::AvgPauseBtUt] = Value::ratio(static_cast<double>(between.seconds), between.timed);
     const int pauses = within.count + between.count, timed = within.timed + between.timed;
     m.pausesUntimed = pauses > 0 && timed == 0;
     m.somePausesUntimed = timed > 0 && timed < pauses;
     if (elapsed && timed > 0)
-        m[Id::PctPauseTime] = Value::ratio(within.seconds + between.seconds, *elapsed, 100);
+        m[Id::PctPauseTime] =
+            Value::ratio(static_cast<double>(within.seconds + between.seconds), *elapsed, 100);
 }
 
 } // namespace tavi

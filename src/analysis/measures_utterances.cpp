@@ -1,6 +1,8 @@
 // Utterance counts by kind, terminator and code, errors and omissions, and
 // the standard utterance lists.
 #include <array>
+#include <bit>
+#include <cstdint>
 
 #include "analysis/measure_context.h"
 
@@ -22,14 +24,25 @@ void fillUtteranceKinds(const SpeakerView& v, SpeakerMeasures& m) {
     // Utterances by terminator, nonverbal and by intelligibility, in one walk.
     std::array<int, 6> terms{};
     std::array<int, 3> intel{};
-    int nonverbal = 0;
+    int nonverbal = 0, intelWords = 0, marks = 0;
+    int withPause = 0, withOmission = 0, withRemark = 0, withQuotation = 0, withComment = 0;
     for (int i : T) {
         const Utterance& u = v.utt(i);
+        const UtteranceFacts& f = v.facts(i);
         const auto term = static_cast<size_t>(u.terminator);
         if (term < terms.size())
             ++terms[term];
         ++intel[static_cast<size_t>(u.intelligibility)];
         nonverbal += u.nonverbal ? 1 : 0;
+        intelWords += f.wordCount;
+        marks += f.unintelligibleMarks;
+        withOmission += f.hasOmission() ? 1 : 0;
+        withQuotation += u.hasQuotation ? 1 : 0;
+        withComment += u.hasComment ? 1 : 0;
+        if (u.extras) {
+            withPause += u.pauses().empty() ? 0 : 1;
+            withRemark += u.parentheticals().empty() ? 0 : 1;
+        }
     }
     auto byTerm = [&](Terminator t) { return terms[static_cast<size_t>(t)]; };
     m[Id::TotNumUt] = Value::count(total);
@@ -52,35 +65,34 @@ void fillUtteranceKinds(const SpeakerView& v, SpeakerMeasures& m) {
     m[Id::PartIntelUt] = Value::count(partly);
     m[Id::PartOrAllUnintUt] = Value::count(unintel + partly);
     percentOf(m, Id::PctIntelUt, total - nonverbal - unintel - partly, total - nonverbal);
-    int intelWords = 0, marks = 0;
-    for (int i : T) {
-        intelWords += v.facts(i).wordCount;
-        marks += v.facts(i).unintelligibleMarks;
-    }
     percentOf(m, Id::PctIntelWd, intelWords, intelWords + marks);
 
-    auto has = [&](auto pred) { return Value::count(v.countIf(T, pred)); };
-    m[Id::UtWPause] = has([&](int i) { return !v.utt(i).pauses().empty(); });
-    m[Id::UtWOmission] = has([&](int i) { return v.facts(i).hasOmission(); });
-    m[Id::UtWParenthetical] = has([&](int i) { return !v.utt(i).parentheticals().empty(); });
-    m[Id::UtWDialogue] = has([&](int i) { return v.utt(i).hasQuotation; });
-    m[Id::UtWComment] = has([&](int i) { return v.utt(i).hasComment; });
+    m[Id::UtWPause] = Value::count(withPause);
+    m[Id::UtWOmission] = Value::count(withOmission);
+    m[Id::UtWParenthetical] = Value::count(withRemark);
+    m[Id::UtWDialogue] = Value::count(withQuotation);
+    m[Id::UtWComment] = Value::count(withComment);
 }
 
 void fillCodesAndErrors(const SpeakerView& v, SpeakerMeasures& m) {
     const auto& T = v.total;
     const int total = static_cast<int>(T.size());
-    auto has = [&](auto pred) { return v.countIf(T, pred); };
-    m[Id::UttwWdCode] = Value::count(has([&](int i) { return v.codes(i).wordCode; }));
-    m[Id::UttwUtCode] = Value::count(has([&](int i) { return v.codes(i).utteranceCode; }));
-    m[Id::UttwExclCode] = Value::count(has([&](int i) { return v.codes(i).excludeCode; }));
-    m[Id::UtWCode] = Value::count(has([&](int i) { return !v.utt(i).codes().empty(); }));
-
+    // One walk: the code facts of most utterances are the shared empty record.
     CodeTally err, fl, nm, cs;
     int omitWd = 0, omitBm = 0, omitCl = 0, errorWords = 0, words = 0;
+    int wdCode = 0, utCode = 0, exclCode = 0, anyCode = 0;
+    int utErr = 0, utFl = 0, utNm = 0, utCs = 0, utErrOrOmit = 0;
     for (int i : T) {
         const UtteranceFacts& f = v.facts(i);
-        const CodeFacts& c = v.codes(i);
+        omitWd += f.omittedWords;
+        omitBm += f.omittedMorphemes;
+        omitCl += f.omittedClitics;
+        words += f.wordCount;
+        if (f.codes == 0) {
+            utErrOrOmit += f.hasOmission() ? 1 : 0;
+            continue;
+        }
+        const CodeFacts& c = f.codeFacts(v.c.tables);
         for (auto [sum, part] : {std::pair{&err, &c.errors},
                                  {&fl, &c.fluency},
                                  {&nm, &c.nonmainstream},
@@ -88,18 +100,21 @@ void fillCodesAndErrors(const SpeakerView& v, SpeakerMeasures& m) {
             sum->onWords += part->onWords;
             sum->onUtterance += part->onUtterance;
         }
-        omitWd += f.omittedWords;
-        omitBm += f.omittedMorphemes;
-        omitCl += f.omittedClitics;
         errorWords += c.errorWords;
-        words += f.wordCount;
+        ++anyCode;
+        wdCode += c.wordCode ? 1 : 0;
+        utCode += c.utteranceCode ? 1 : 0;
+        exclCode += c.excludeCode ? 1 : 0;
+        utErr += c.errors.total() > 0 ? 1 : 0;
+        utFl += c.fluency.total() > 0 ? 1 : 0;
+        utNm += c.nonmainstream.total() > 0 ? 1 : 0;
+        utCs += c.codeSwitch.total() > 0 ? 1 : 0;
+        utErrOrOmit += c.errors.total() > 0 || f.hasOmission() ? 1 : 0;
     }
-    const int utErr = has([&](int i) { return v.codes(i).errors.total() > 0; });
-    const int utFl = has([&](int i) { return v.codes(i).fluency.total() > 0; });
-    const int utNm = has([&](int i) { return v.codes(i).nonmainstream.total() > 0; });
-    const int utCs = has([&](int i) { return v.codes(i).codeSwitch.total() > 0; });
-    const int utErrOrOmit =
-        has([&](int i) { return v.codes(i).errors.total() > 0 || v.facts(i).hasOmission(); });
+    m[Id::UttwWdCode] = Value::count(wdCode);
+    m[Id::UttwUtCode] = Value::count(utCode);
+    m[Id::UttwExclCode] = Value::count(exclCode);
+    m[Id::UtWCode] = Value::count(anyCode);
 
     m[Id::UtWErrCode] = Value::count(utErr);
     m[Id::UtWFLuencyCode] = m[Id::UttwFC] = Value::count(utFl);
@@ -137,36 +152,41 @@ void fillCodesAndErrors(const SpeakerView& v, SpeakerMeasures& m) {
 }
 
 void fillUtteranceLists(const SpeakerView& v, SpeakerMeasures& m) {
+    // Bit k: the utterance goes in list k (the lists' order, PRIP to PINTR).
+    static_assert(kUtteranceLists <= 32);
+    constexpr int kFirstTerminatorList = 15; // PSTMT, then one list per terminator kind
     for (int i : v.total) {
         const Utterance& u = v.utt(i);
         const ResponseType& r = v.response(i);
         const UtteranceFacts& f = v.facts(i);
-        const CodeFacts& c = v.codes(i);
-        const bool in[kUtteranceLists] = {r.question || r.prompt,                   // PRIP
-                                          r.imitation,                              // PIMIT
-                                          !r.question && !r.prompt && !r.imitation, // PSPON
-                                          r.oneWord,                                // PONEWD
-                                          u.intelligibility !=
-                                              Intelligibility::Intelligible,        // PUNI
-                                          !u.pauses().empty(),                      // PPAUS
-                                          f.hasOmission(),                          // POMIT
-                                          !u.parentheticals().empty(),              // PPAREN
-                                          u.hasComment,                             // PCOMMENT
-                                          u.hasQuotation,                           // PDIAL
-                                          !u.codes().empty(),                       // PCODE
-                                          c.errors.total() > 0,                     // PECODE
-                                          c.fluency.total() > 0,                    // PFLCODE
-                                          c.nonmainstream.total() > 0,              // PNMCODE
-                                          c.codeSwitch.total() > 0,                 // PCSCODE
-                                          u.terminator == Terminator::Statement,    // PSTMT
-                                          u.terminator == Terminator::Exclamation,  // PEXMK
-                                          u.terminator == Terminator::Question,     // PQUES
-                                          u.terminator == Terminator::Prompt,       // PPRMT
-                                          u.terminator == Terminator::Abandoned,    // PABAN
-                                          u.terminator == Terminator::Interrupted}; // PINTR
-        for (int k = 0; k < kUtteranceLists; ++k)
-            if (in[k])
-                m.utteranceLists[k].push_back(i);
+        std::uint32_t in = 0;
+        auto put = [&](int k, bool yes) { in |= static_cast<std::uint32_t>(yes) << k; };
+        put(0, r.question || r.prompt);                             // PRIP
+        put(1, r.imitation);                                        // PIMIT
+        put(2, !r.question && !r.prompt && !r.imitation);           // PSPON
+        put(3, r.oneWord);                                          // PONEWD
+        put(4, u.intelligibility != Intelligibility::Intelligible); // PUNI
+        put(6, f.hasOmission());                                    // POMIT
+        put(8, u.hasComment);                                       // PCOMMENT
+        put(9, u.hasQuotation);                                     // PDIAL
+        if (u.extras) {
+            put(5, !u.pauses().empty());         // PPAUS
+            put(7, !u.parentheticals().empty()); // PPAREN
+            put(10, !u.codes().empty());         // PCODE
+        }
+        if (f.codes != 0) {
+            const CodeFacts& c = f.codeFacts(v.c.tables);
+            put(11, c.errors.total() > 0);        // PECODE
+            put(12, c.fluency.total() > 0);       // PFLCODE
+            put(13, c.nonmainstream.total() > 0); // PNMCODE
+            put(14, c.codeSwitch.total() > 0);    // PCSCODE
+        }
+        const auto term =
+            static_cast<int>(u.terminator); // PSTMT, PEXMK, PQUES, PPRMT, PABAN, PINTR
+        if (term >= 0 && term < kUtteranceLists - kFirstTerminatorList)
+            put(kFirstTerminatorList + term, true);
+        for (; in != 0; in &= in - 1)
+            m.utteranceLists[static_cast<size_t>(std::countr_zero(in))].push_back(i);
     }
 }
 

@@ -47,13 +47,17 @@ public:
         if (auto it = ids_.find(text); it != ids_.end())
             return it->second; // nothing built for a string already numbered
         names_.emplace_back(text);
+        views_.emplace_back(names_.back());
         return ids_.emplace(names_.back(), static_cast<int>(names_.size()) - 1).first->second;
     }
     const std::string& name(int id) const { return names_[static_cast<size_t>(id)]; }
+    // The same text as a view, found without walking the deque's blocks.
+    std::string_view view(int id) const { return views_[static_cast<size_t>(id)]; }
     int size() const { return static_cast<int>(names_.size()); }
 
 private:
-    std::deque<std::string> names_; // never moved: the map's keys view them
+    std::deque<std::string> names_;       // never moved: the map's keys view them
+    std::vector<std::string_view> views_; // of names_
     std::unordered_map<std::string_view, int> ids_;
 };
 

@@ -2,7 +2,9 @@
 // be computed (no utterances, no timing). Missing prints as "   ---".
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <string>
 #include <variant>
@@ -17,6 +19,12 @@ class Value {
 public:
     Value() = default; // missing
     static Value count(std::int32_t n) { return Value(Storage(n)); }
+    // A count from a 64-bit sum, held at the largest count when it is larger.
+    static Value saturatedCount(std::int64_t n) {
+        return count(static_cast<std::int32_t>(
+            std::clamp<std::int64_t>(n, std::numeric_limits<std::int32_t>::min(),
+                                     std::numeric_limits<std::int32_t>::max())));
+    }
     static Value real(double x) { return Value(Storage(x)); }
     static Value text(std::string s) { return Value(Storage(std::move(s))); }
     // real(num / den * scale) when den > 0, else missing; scale 100 gives a percentage.

@@ -130,7 +130,7 @@ void addStandardMeasures(CatalogueBuilder& b) {
     b.decimal("SI", "SI Composite Score");
     b.count("NTW", "Number Total Words");
     b.count("NDW", "Number Different Words");
-    b.decimal("MA_NTW", "Moving-Average NTW");
+    b.count("MA_NTW", "Moving-Average NTW");
     b.decimal("MA_NDW", "Moving-Average NDW");
     b.ratio("MA_TTR", "Moving-Average TTR");
     b.decimal("MeanTurnUt", "Mean Turn Length (utterances)");
@@ -239,7 +239,7 @@ void addSemantics(CatalogueBuilder& b) {
     b.count("NTW", std::string("Number Total Words") + kWordsASet);
     b.count("NDW", std::string("Number Different Words") + kWordsASet);
     b.ratio("TTR", std::string("Type-Token Ratio") + kWordsASet);
-    b.decimal("MA_NTW", std::string("Moving-Average NTW") + kWordsASet);
+    b.count("MA_NTW", std::string("Moving-Average NTW") + kWordsASet);
     b.decimal("MA_NDW", std::string("Moving-Average NDW") + kWordsASet);
     b.ratio("MA_TTR", std::string("Moving-Average TTR") + kWordsASet);
     b.count("BoundMorphs", std::string("Number of Bound Morphemes") + kASet);

@@ -123,13 +123,4 @@ constexpr bool isDigit(char32_t c) {
     return c >= U'0' && c <= U'9';
 }
 
-// Upper case for the identifier comparison (ASCII and Latin-1 letters).
-constexpr char32_t foldCase(char32_t c) {
-    if (c >= U'a' && c <= U'z')
-        return c - 32;
-    if (c >= 0xE0 && c <= 0xFE && c != 0xF7)
-        return c - 32;
-    return c;
-}
-
 } // namespace tavi::cls

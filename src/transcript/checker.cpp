@@ -4,6 +4,7 @@
 #include "transcript/checker.h"
 
 #include "base/text.h"
+#include "transcript/case_folding.h"
 #include "transcript/char_class.h"
 #include "transcript/comments_and_codes.h"
 #include "transcript/err_list.h"
@@ -172,19 +173,24 @@ void Checker::State::speakerLine(std::string& text) {
     faulty = faulty || !parsed.problems.empty();
     result.speakers = parsed.table;
     result.segmented.speakers = parsed.table;
-    result.speakerState = faulty ? SpeakerTableState::Bad : SpeakerTableState::Good;
+    // A table that went bad before this line (an utterance came first) stays
+    // bad: identifiers are not checked against a table read too late.
+    if (faulty || result.speakerState == SpeakerTableState::Bad)
+        result.speakerState = SpeakerTableState::Bad;
+    else
+        result.speakerState = SpeakerTableState::Good;
     asciiGroup.fill(0);
     for (int g = 2; g >= 0; --g)
         for (const std::string& label : parsed.table.groups[g].labels) {
-            auto c = static_cast<unsigned char>(label[0]);
-            if (c < 128)
-                asciiGroup[cls::foldCase(c)] = g + 1;
+            char32_t folded = foldCase(firstChar(label));
+            if (folded < 128)
+                asciiGroup[folded] = g + 1;
         }
 }
 
 int Checker::State::lookUpSpeaker(char32_t id) {
     if (id < 128) {
-        int g = asciiGroup[cls::foldCase(id)];
+        int g = asciiGroup[foldCase(id)];
         return g - 1;
     }
     return speakerGroupOf(result.speakers, id);

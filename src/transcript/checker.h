@@ -5,6 +5,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -46,7 +47,7 @@ struct TimingEntry {
 struct PauseTally {
     int untimed = 0;
     int timed = 0;
-    int timedSeconds = 0;
+    std::int64_t timedSeconds = 0; // a pause may be up to 10^9 seconds: 64-bit sums
 };
 
 struct PauseTallies {

@@ -23,13 +23,6 @@ using Span = std::pair<size_t, size_t>; // [first, last] positions, both inclusi
 constexpr char32_t kBlank = U' ';
 constexpr size_t kMaxPauseRun = 20;
 
-bool inSpans(const std::vector<Span>& spans, size_t pos) {
-    for (const Span& s : spans)
-        if (pos >= s.first && pos <= s.second)
-            return true;
-    return false;
-}
-
 // A set of ASCII characters as two 64-bit masks, built at compile time.
 struct CharMask {
     std::uint64_t low = 0, high = 0;
@@ -54,6 +47,7 @@ constexpr CharMask kLink = maskOf(U"_");
 struct UtteranceSegmenter::Scratch {
     std::u32string buf;
     std::u32string link;
+    std::u32string joined; // a word with the codes written inside it taken out
     std::string spare;
     WordDraft word;
     std::vector<Word> words;
@@ -101,6 +95,7 @@ private:
             buf_[i] = kBlank;
     }
     bool findEnd();
+    void dropFrom(size_t pos);
     void notePresentCharacters();
     bool anyPresent(const CharMask& mask) const {
         return ((present_[0] & mask.low) | (present_[1] & mask.high)) != 0;
@@ -115,7 +110,9 @@ private:
     void pausesAndCharacters();
     size_t readPause(size_t colon);
     void words();
-    void addWord(std::u32string_view text, size_t position, bool linked, bool malformed);
+    void addWord(std::u32string_view text, size_t position, bool linked, bool malformed,
+                 bool contiguous = true);
+    bool inCode(size_t pos);
     bool isAttachedCode(size_t open) const;
     void attachCodes();
     void classify();
@@ -135,10 +132,20 @@ private:
     bool nonAscii_ = false;
     bool controls_ = false;
     std::vector<size_t> codePositions_;
+    std::vector<size_t> codeCloses_;
     std::vector<bool> codeAttached_; // written right after a word, with no blank between
     size_t lastCodeEnd_ = 0;         // position of the last code's "]"
+    size_t codeCursor_ = 0;          // the first code not wholly before the word pass
     std::vector<Span> mazes_;
     std::vector<Span> overlaps_;
+    size_t mazeCursor_ = 0; // the first maze not wholly before the words reached
+    size_t overlapCursor_ = 0;
+    std::vector<size_t> remarkOpens_;       // position of each remark's "(("
+    std::vector<size_t> remarkWordsBefore_; // remark words kept before each remark
+    static constexpr size_t kNowhere = static_cast<size_t>(-1);
+    size_t firstComment_ = kNowhere;
+    size_t firstQuote_ = kNowhere;
+    size_t cut_ = kNowhere; // an earlier terminator: the text from it on is dropped
 };
 
 void LineCutter::run() {
@@ -164,6 +171,8 @@ void LineCutter::run() {
         pausesAndCharacters();
     words();
     attachCodes();
+    out_.hasComment = firstComment_ < cut_;
+    out_.hasQuotation = firstQuote_ < cut_;
     classify();
 }
 
@@ -231,11 +240,12 @@ void LineCutter::commentsAndCodes() {
             if (cut.sink_)
                 cut.sink_->problem(id, std::move(message));
         }
-        void comment(size_t, size_t) { cut.out_.hasComment = true; }
+        void comment(size_t open, size_t) { cut.firstComment_ = std::min(cut.firstComment_, open); }
         void code(size_t open, size_t close) {
             bool attached = cut.isAttachedCode(open);
             cut.s_.codes.push_back(Code{cut.textOf(open + 1, close - open - 1), -1, -1});
             cut.codePositions_.push_back(open);
+            cut.codeCloses_.push_back(close);
             cut.codeAttached_.push_back(attached);
             cut.lastCodeEnd_ = close;
         }
@@ -293,7 +303,7 @@ void LineCutter::parentheticals() {
             }
         } else if (cls::isSeparator(c)) {
             if (cls::isQuotationMark(c))
-                out_.hasQuotation = true;
+                firstQuote_ = std::min(firstQuote_, i);
             if (!isOpen)
                 buf_[i] = kBlank;
         }
@@ -317,6 +327,8 @@ std::string_view LineCutter::textOf(size_t from, size_t size) {
 }
 
 void LineCutter::closeParenthetical(size_t open, size_t close) {
+    remarkOpens_.push_back(open);
+    remarkWordsBefore_.push_back(s_.parentheticalWords.size());
     if (store_) {
         std::u32string_view inner = std::u32string_view(buf_).substr(open + 2, close - open - 3);
         std::string_view text = trim(textOf(open + 2, close - open - 3));
@@ -420,11 +432,39 @@ void LineCutter::pausesAndCharacters() {
             i = readPause(i);
         } else if (cls::isTerminator(c)) {
             report(Problem::TerminatorInUtterance);
-            buf_[i] = kBlank;
+            dropFrom(i);
+            return;
         } else if ((cls::isLineIdentifier(c) && c != U'+') || cls::isControl(c)) {
             report(Problem::InvalidCharacter, shown(c));
             buf_[i] = kBlank;
         }
+    }
+}
+
+// A terminator before the utterance's own ends it early: the text from it up
+// to the final terminator is dropped, with the codes, remarks, mazes and
+// overlaps that begin there. (Brackets were matched before, so a maze or
+// remark the early terminator stands in keeps what came before it.)
+void LineCutter::dropFrom(size_t pos) {
+    blank(pos, end_ - 1);
+    cut_ = pos;
+    while (!codePositions_.empty() && codePositions_.back() > pos) {
+        codePositions_.pop_back();
+        codeCloses_.pop_back();
+        codeAttached_.pop_back();
+        s_.codes.pop_back();
+    }
+    while (!mazes_.empty() && mazes_.back().first > pos)
+        mazes_.pop_back();
+    s_.mazeWords.resize(mazes_.size());
+    while (!overlaps_.empty() && overlaps_.back().first > pos)
+        overlaps_.pop_back();
+    out_.hasOverlap = !overlaps_.empty();
+    while (!remarkOpens_.empty() && remarkOpens_.back() > pos) {
+        s_.parentheticalWords.resize(remarkWordsBefore_.back());
+        s_.parentheticals.pop_back();
+        remarkOpens_.pop_back();
+        remarkWordsBefore_.pop_back();
     }
 }
 
@@ -486,16 +526,38 @@ void LineCutter::words() {
         linkShown.clear();
         linkOpen = false;
     };
+    // A blank inside a code does not end a word: the code was blanked, and a
+    // word with a code written inside it ("go[EW:x]ing") stays one word.
+    const bool codes = !codeCloses_.empty();
     size_t i = 1;
     while (i < end_) {
-        if (text[i] <= U' ' && cls::isSpace(text[i])) {
+        if (text[i] <= U' ' && cls::isSpace(text[i]) && !(codes && inCode(i))) {
             ++i;
             continue;
         }
         size_t start = i;
-        while (i < end_ && !(text[i] <= U' ' && cls::isSpace(text[i])))
+        bool hasCode = false;
+        while (i < end_) {
+            if (text[i] <= U' ' && cls::isSpace(text[i])) {
+                if (!codes || !inCode(i))
+                    break;
+                hasCode = true;
+            }
             ++i;
+        }
         std::u32string_view piece = text.substr(start, i - start);
+        if (hasCode) {
+            std::u32string& joined = s_.joined;
+            joined.clear();
+            for (char32_t c : piece)
+                if (!cls::isSpace(c))
+                    joined.push_back(c);
+            if (joined.empty())
+                continue; // codes only
+            if (cls::isSpace(piece.front()))
+                report(Problem::MissingRoot); // the word begins with "["
+            piece = joined;
+        }
         bool opens = piece.size() > 1 && piece.back() == U'_';
         bool continues = piece.size() > 1 && piece.front() == U'_';
         if (piece == U"_") {
@@ -527,13 +589,21 @@ void LineCutter::words() {
             linkShown = utf8(piece);
             continue;
         }
-        addWord(piece, start, false, malformed);
+        addWord(piece, start, false, malformed, !hasCode);
     }
     if (linkOpen)
         closeLink(false);
 }
 
-void LineCutter::addWord(std::u32string_view text, size_t position, bool linked, bool malformed) {
+// True when `pos` lies inside a code; asked with positions that never decrease.
+bool LineCutter::inCode(size_t pos) {
+    while (codeCursor_ < codeCloses_.size() && codeCloses_[codeCursor_] < pos)
+        ++codeCursor_;
+    return codeCursor_ < codeCloses_.size() && codePositions_[codeCursor_] <= pos;
+}
+
+void LineCutter::addWord(std::u32string_view text, size_t position, bool linked, bool malformed,
+                         bool contiguous) {
     if (malformed && sink_)
         report(Problem::MalformedLinkedWord, utf8(text));
     linked = linked || malformed;
@@ -545,21 +615,36 @@ void LineCutter::addWord(std::u32string_view text, size_t position, bool linked,
         splitWord(text, linked, word, sink_, {}, s_.spare);
         return;
     }
-    word.clear();
-    std::string_view bytes =
-        linked || line_.empty() ? std::string_view() : line_.substr(position, text.size());
-    if (!splitWord(text, linked, word, sink_, bytes, s_.spare))
-        return;
-    word.flags.linked = linked;
-    int index = static_cast<int>(s_.words.size());
-    for (size_t m = 0; m < mazes_.size(); ++m) {
-        if (position >= mazes_[m].first && position <= mazes_[m].second) {
-            word.flags.inMaze = true;
-            s_.mazeWords[m].push_back(index);
-        }
+    Word kept;
+    if (!linked && contiguous && !line_.empty() && isPlainWord(text)) {
+        // The common case, an ASCII word of word characters only: no rule
+        // applies, and the word is a view of its line.
+        kept.assignPlain(line_.substr(position, text.size()));
+        kept.unintelligible = isUnintelligibleMark(text);
+    } else {
+        word.clear();
+        std::string_view bytes = linked || !contiguous || line_.empty()
+                                     ? std::string_view()
+                                     : line_.substr(position, text.size());
+        if (!splitWord(text, linked, word, sink_, bytes, s_.spare))
+            return;
+        word.flags.linked = linked;
+        kept = store_->keepWord(word, stable_);
     }
-    word.flags.inOverlap = inSpans(overlaps_, position);
-    s_.words.push_back(store_->keepWord(word, stable_));
+    // Words come in line order and mazes and overlaps do not nest: one cursor
+    // each finds the span a word may lie in.
+    int index = static_cast<int>(s_.words.size());
+    while (mazeCursor_ < mazes_.size() && mazes_[mazeCursor_].second < position)
+        ++mazeCursor_;
+    if (mazeCursor_ < mazes_.size() && mazes_[mazeCursor_].first <= position) {
+        kept.inMaze = true;
+        s_.mazeWords[mazeCursor_].push_back(index);
+    }
+    while (overlapCursor_ < overlaps_.size() && overlaps_[overlapCursor_].second < position)
+        ++overlapCursor_;
+    kept.inOverlap =
+        overlapCursor_ < overlaps_.size() && overlaps_[overlapCursor_].first <= position;
+    s_.words.push_back(kept);
     s_.positions.push_back(position);
 }
 
@@ -621,12 +706,103 @@ void startUtterance(Utterance& out, int lineNumber, int speakerGroup, const std:
     out.speakerId = buf.empty() ? 0 : buf[0];
 }
 
+// A line of plain words only: an ASCII identifier, a blank, words of ASCII
+// letters, digits and apostrophes that each hold a letter or digit, blanks
+// between them, and a terminator at the end (blanks after it allowed). No
+// rule can find fault with such a line and its words need no splitting, so
+// it is cut straight from its bytes. Returns the terminator's position, or 0
+// when the line is not of this kind.
+// What a byte of a plain line may be: 0 none of these, 1 a blank, 2 a letter
+// or digit, 3 an apostrophe.
+struct PlainBytes {
+    std::uint8_t kind[256] = {};
+    constexpr PlainBytes() {
+        kind[static_cast<unsigned char>(' ')] = kind[static_cast<unsigned char>('\t')] = 1;
+        for (int c = '0'; c <= '9'; ++c)
+            kind[c] = 2;
+        for (int c = 'a'; c <= 'z'; ++c)
+            kind[c] = kind[c - 'a' + 'A'] = 2;
+        kind[static_cast<unsigned char>('\'')] = 3;
+    }
+};
+constexpr PlainBytes kPlainBytes;
+
+size_t plainLineEnd(std::string_view line) {
+    size_t n = line.size();
+    while (n > 2 && (line[n - 1] == ' ' || line[n - 1] == '\t'))
+        --n;
+    if (n < 3 || static_cast<unsigned char>(line[0]) >= 0x80 ||
+        kPlainBytes.kind[static_cast<unsigned char>(line[1])] != 1 ||
+        !cls::isTerminator(static_cast<unsigned char>(line[n - 1])))
+        return 0;
+    const size_t end = n - 1;
+    // A word without a letter or digit: an apostrophe that follows a blank
+    // and is not followed by a letter or digit before the next blank.
+    bool inWord = false, alnum = false;
+    for (size_t i = 2; i < end; ++i) {
+        switch (kPlainBytes.kind[static_cast<unsigned char>(line[i])]) {
+        case 0:
+            return 0;
+        case 1:
+            if (inWord && !alnum)
+                return 0;
+            inWord = false;
+            break;
+        case 2:
+            inWord = alnum = true;
+            break;
+        default:
+            if (!inWord)
+                alnum = false;
+            inWord = true;
+            break;
+        }
+    }
+    return inWord && !alnum ? 0 : end;
+}
+
+void cutPlainLine(std::string_view line, size_t end, std::vector<Word>& words, Utterance& out) {
+    int marks = 0;
+    size_t i = 1;
+    while (i < end) {
+        if (line[i] == ' ' || line[i] == '\t') {
+            ++i;
+            continue;
+        }
+        const size_t start = i;
+        while (i < end && line[i] != ' ' && line[i] != '\t')
+            ++i;
+        Word w;
+        w.assignPlain(line.substr(start, i - start));
+        const std::string_view text = w.text();
+        w.unintelligible =
+            text.size() <= 3 && text.find_first_not_of("xX") == std::string_view::npos;
+        marks += w.unintelligible ? 1 : 0;
+        words.push_back(w);
+    }
+    out.terminatorChar = static_cast<unsigned char>(line[end]);
+    out.terminator = static_cast<Terminator>(cls::terminatorKind(out.terminatorChar));
+    if (marks > 0)
+        out.intelligibility = marks == static_cast<int>(words.size())
+                                  ? Intelligibility::Unintelligible
+                                  : Intelligibility::Partly;
+}
+
 } // namespace
 
 void UtteranceSegmenter::segment(std::string_view line, int lineNumber, int speakerGroup,
                                  TranscriptStore& store, Utterance& out, ProblemSink* sink) {
     Scratch& s = *scratch_;
     s.clear();
+    if (size_t end = plainLineEnd(line)) {
+        out = Utterance();
+        out.speakerGroup = static_cast<std::int8_t>(speakerGroup);
+        out.line = lineNumber;
+        out.speakerId = static_cast<unsigned char>(line[0]);
+        cutPlainLine(line, end, s.words, out);
+        out.words = store.keep(s.words);
+        return;
+    }
     decodeCodePoints(line, s.buf);
     startUtterance(out, lineNumber, speakerGroup, s.buf);
     LineCutter(line, s, out, sink, &store).run();
@@ -640,6 +816,8 @@ void UtteranceSegmenter::segment(std::string_view line, int lineNumber, int spea
 
 void UtteranceSegmenter::check(std::string_view line, int lineNumber, int speakerGroup,
                                ProblemSink& sink) {
+    if (plainLineEnd(line) != 0)
+        return; // nothing in it can be faulty
     Scratch& s = *scratch_;
     s.clear();
     decodeCodePoints(line, s.buf);

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "base/text.h"
+#include "transcript/case_folding.h"
 #include "transcript/char_class.h"
 
 namespace tavi {
@@ -82,7 +83,7 @@ ParsedSpeakerLine parseSpeakerLine(std::string_view text) {
                 report(Problem::SpeakerLabelStart, label);
                 continue;
             }
-            char32_t folded = cls::foldCase(first);
+            char32_t folded = foldCase(first);
             if (std::find(firstLetters.begin(), firstLetters.end(), folded) != firstLetters.end()) {
                 report(Problem::SpeakerLetterNotUnique, toUtf8(first));
             } else if (firstLetters.size() < kMaxFirstLetters) {
@@ -94,10 +95,10 @@ ParsedSpeakerLine parseSpeakerLine(std::string_view text) {
 }
 
 int speakerGroupOf(const SpeakerTable& table, char32_t id) {
-    char32_t folded = cls::foldCase(id);
+    char32_t folded = foldCase(id);
     for (int g = 0; g < 3; ++g)
         for (const std::string& label : table.groups[g].labels)
-            if (cls::foldCase(firstCodePoint(label)) == folded)
+            if (foldCase(firstCodePoint(label)) == folded)
                 return g;
     return -1;
 }

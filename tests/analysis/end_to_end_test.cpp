@@ -75,6 +75,32 @@ std::string run(const std::string& args, int* status) {
     return out;
 }
 
+MeasureResult measuresOf(std::string_view text) {
+    LoadedTranscript t = decodeTranscript(text);
+    return computeMeasures(segmentTranscript(t.lines), MeasureOptions{});
+}
+
+// Words the notation takes away or joins are not counted: text after an
+// earlier terminator, and the pieces of a word with a code inside it.
+TEST(EndToEnd, DroppedTextAndCodesInsideWords) {
+    const std::string speakers = "$ Child, Examiner\n";
+    EXPECT_EQ(measuresOf(speakers + "C I go. home.\n").speakers[0][Id::NTW].asCount(), 2);
+    EXPECT_EQ(measuresOf(speakers + "C I go (um.) now.\n").speakers[0][Id::NTW].asCount(), 2);
+    const MeasureResult inside = measuresOf(speakers + "C I go[EW:x]ing home.\n");
+    EXPECT_EQ(inside.speakers[0][Id::NTW].asCount(), 3);
+    EXPECT_EQ(inside.speakers[0][Id::NDW].asCount(), 3);
+}
+
+// Pause times of 10^9 seconds each: the sum does not wrap.
+TEST(EndToEnd, HugePauseTimes) {
+    const MeasureResult r =
+        measuresOf("$ Child, Examiner\nC I :999999999 go :999999999 home :999999999 now.\n");
+    const SpeakerMeasures& c = r.speakers[0];
+    EXPECT_EQ(c[Id::NumPauseWiUt].asCount(), 3);
+    EXPECT_EQ(c[Id::PauseTimeWiUt].asCount(), 2147483647); // the largest count
+    EXPECT_EQ(c.formatted(Id::AvgPauseWiUt), "999999999.00");
+}
+
 TEST(MeasuresCommand, TextJsonSpeakerAndFlags) {
     int status = -1;
     std::string text = run(kCounted, &status);

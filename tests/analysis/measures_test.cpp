@@ -112,13 +112,15 @@ TEST_F(SampleMeasures, LengthVocabularyAndBrownsStage) {
 
 TEST_F(SampleMeasures, MovingAverages) {
     // Seven windows of ten words; NDW 9, 9, 9, 9, 10, 10, 10.
-    EXPECT_DOUBLE_EQ(real(Id::MA_NTW), 10.0);
+    EXPECT_EQ(count(Id::MA_NTW), 10); // the window size: a whole number
+    EXPECT_EQ(child().formatted(Id::MA_NTW), "10");
     EXPECT_DOUBLE_EQ(real(Id::MA_NDW), 66.0 / 7);
     EXPECT_DOUBLE_EQ(real(Id::MA_TTR), 6.6 / 7);
     // A window longer than the sample: one window of the whole sample.
     options.window = 100;
     MeasureResult r = computeMeasures(sample(), options);
-    EXPECT_DOUBLE_EQ(r.speakers[0][Id::MA_NTW].asReal(), 16.0);
+    EXPECT_EQ(r.speakers[0][Id::MA_NTW].asCount(), 16);
+    EXPECT_EQ(r.speakers[0].formatted(Id::MA_NTW), "16");
     EXPECT_DOUBLE_EQ(r.speakers[0][Id::MA_NDW].asReal(), 14.0);
     EXPECT_DOUBLE_EQ(r.speakers[0][Id::MA_TTR].asReal(), 14.0 / 16);
 }

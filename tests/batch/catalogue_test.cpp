@@ -515,6 +515,7 @@ TEST(VariableCatalogue, DescriptionsTypesAndSources) {
     EXPECT_EQ(first("MLUw").type, ValueType::Decimal);
     EXPECT_EQ(first("TTR").decimals, 3);
     EXPECT_EQ(first("TotNumUt").type, ValueType::Integer);
+    EXPECT_EQ(first("MA_NTW").type, ValueType::Integer); // the window size, a whole number
     EXPECT_EQ(c.variable(c.find("MLUw")[1]).description,
               "MLU in Words - words, analysis set utterances");
 }

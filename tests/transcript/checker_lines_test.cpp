@@ -39,12 +39,34 @@ TEST(SpeakerLine, BadTableStopsIdentifierLookUps) {
               (Lines{"E105 on entry 1: 1st letter of speaker label (C) not unique."}));
     EXPECT_EQ(listing("X hi.\nY go.\n"),
               (Lines{"E101 on entry 1: $ label line not found before 1st utterance."}));
+    // A "$" line after the first utterance does not make the table good again.
+    EXPECT_EQ(listing("C hi.\n$ Child, Examiner\nX hi.\n"),
+              (Lines{"E101 on entry 1: $ label line not found before 1st utterance."}));
 }
 
 TEST(Identifiers, UtteranceIdentifiers) {
     EXPECT_EQ(listingAfterSpeakers("c I go.\ne you go.\n"), (Lines{}));
     EXPECT_EQ(listingAfterSpeakers("M I go.\n"),
               (Lines{"E109 on entry 2: invalid identifier (M)."}));
+}
+
+// Identifiers are matched with Unicode case folding, beyond Latin-1 too.
+TEST(Identifiers, CaseFoldingOfIdentifiers) {
+    const char* kOmega = "$ \xCE\xA9mega, Examiner\n";
+    EXPECT_EQ(listing(std::string(kOmega) + "\xCF\x89 hi.\n\xCE\xA9 hi.\ne hi.\n"), (Lines{}));
+    EXPECT_EQ(listing(std::string(kOmega) + "\xCE\xA3 hi.\n"),
+              (Lines{"E109 on entry 2: invalid identifier (\xCE\xA3)."}));
+    // Cyrillic, Armenian, Latin Extended-A and Greek final sigma.
+    EXPECT_EQ(listing("$ \xD0\x96ora, \xD4\xB1ram, \xC5\x81ucja\n"
+                      "\xD0\xB6 hi.\n\xD5\xA1 hi.\n\xC5\x82 hi.\n"),
+              (Lines{}));
+    EXPECT_EQ(listing("$ \xCF\x82x, Examiner\n\xCE\xA3 hi.\n"), (Lines{}));
+    // Folded forms that land in ASCII: the Kelvin sign and the long s.
+    EXPECT_EQ(listing("$ \xE2\x84\xAAim, Examiner\nk hi.\nK hi.\n"), (Lines{}));
+    EXPECT_EQ(listing("$ Sam, Examiner\n\xC5\xBF hi.\n"), (Lines{}));
+    // Labels whose first letters differ only in case are not unique.
+    EXPECT_EQ(listing("$ \xCE\xA9mega, \xCF\x89ilma\n"),
+              (Lines{"E105 on entry 1: 1st letter of speaker label (\xCF\x89) not unique."}));
 }
 
 TEST(Identifiers, NotationCharactersCannotBeginALine) {
@@ -131,6 +153,13 @@ TEST(Terminators, EndOfUtterance) {
     // A terminator inside the utterance when the line ends with one.
     EXPECT_EQ(listingAfterSpeakers("C I go. home.\n"),
               (Lines{"E112 on entry 2: characters found after end of utterance"}));
+    EXPECT_EQ(listingAfterSpeakers("C I go (um.) now.\n"),
+              (Lines{"E112 on entry 2: characters found after end of utterance"}));
+    // Brackets are matched before the early terminator is looked for, so those
+    // of the dropped text are still checked; its words are not.
+    EXPECT_EQ(listingAfterSpeakers("C I go. (home *ba*.\n"),
+              (Lines{"E125 on entry 2: unmatched (maze).",
+                     "E112 on entry 2: characters found after end of utterance"}));
     // A "." inside a code is not a terminator.
     EXPECT_EQ(listingAfterSpeakers("C I go [EW:x.y] home\n"),
               (Lines{"E108 on entry 2: missing end of utterance punctuation."}));

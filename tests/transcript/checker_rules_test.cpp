@@ -28,6 +28,26 @@ TEST(Words, OmissionsAndIdiosyncraticForms) {
               (Lines{"E115 on entry 2: bad idiosyncratic form (missing word)."}));
 }
 
+// Codes attached to words: one written inside a word is taken out of it; a
+// word that begins with a code has no root.
+// Words of letters, digits and apostrophes need a letter or digit.
+TEST(Words, ApostrophesAlone) {
+    EXPECT_EQ(listingAfterSpeakers("C I don't know 'bout it.\n"), (Lines{}));
+    EXPECT_EQ(listingAfterSpeakers("C I ' go.\n"), (Lines{"E122 on entry 2: illegal word."}));
+    EXPECT_EQ(listingAfterSpeakers("C I go ''.\n"), (Lines{"E122 on entry 2: illegal word."}));
+}
+
+TEST(Words, CodesAttachedToWords) {
+    EXPECT_EQ(listingAfterSpeakers("C I go[EW:x]ing home[EW:y] [EU].\n"), (Lines{}));
+    EXPECT_EQ(listingAfterSpeakers("C I [EW:x]go home.\n"),
+              (Lines{"E121 on entry 2: missing word root"}));
+    EXPECT_EQ(listingAfterSpeakers("C I go [EW:x][EO:y]home.\n"),
+              (Lines{"E121 on entry 2: missing word root"}));
+    // Taken out first, the code leaves a word whose own rules still apply.
+    EXPECT_EQ(listingAfterSpeakers("C I go[EW:x]%ing.\n"),
+              (Lines{"E115 on entry 2: % may only be used at the beginning of a word."}));
+}
+
 TEST(Words, BoundMorphemesCliticsAndPrefixes) {
     EXPECT_EQ(listingAfterSpeakers("C I+'m run/ing un\\tie/ed.\n"), (Lines{}));
     EXPECT_EQ(listingAfterSpeakers("C dog/ go.\n"),
@@ -97,6 +117,19 @@ TEST(Pauses, OnlyMainSpeakersInTheAnalysedPartAreTallied) {
     EXPECT_EQ(r.pauses.withinUtterance[1].untimed, 1);
     EXPECT_EQ(r.pauses.firstTimedLine, 2);
     EXPECT_EQ(r.pauses.firstUntimedLine, 3);
+}
+
+// Pause times are summed without overflow: each of these is 10^9 seconds.
+TEST(Pauses, HugePauseTimesAreSummedIn64Bits) {
+    LoadedTranscript t =
+        decodeTranscript("$ Child, Examiner\nC I :999999999 go :999999999 home :999999999 now.\n"
+                         ": 99999999:59\n: 99999999:59\n: 99999999:59\n: 99999999:59\n");
+    CheckResult r = checkTranscript(t.lines);
+    EXPECT_EQ(r.pauses.withinUtterance[0].timed, 3);
+    EXPECT_EQ(r.pauses.withinUtterance[0].timedSeconds, 2999999997);
+    // A pause line's minutes are held at 10^7.
+    EXPECT_EQ(r.pauses.pauseLines[0].timed, 4);
+    EXPECT_EQ(r.pauses.pauseLines[0].timedSeconds, 4 * (std::int64_t{10000000} * 60 + 59));
 }
 
 TEST(Times, TimingAndPauseLines) {

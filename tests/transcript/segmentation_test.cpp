@@ -1,6 +1,10 @@
 // Segmentation: what each utterance hands to the analysis.
 #include <gtest/gtest.h>
 
+#include <random>
+
+#include "check_helper.h"
+
 #include "transcript/bound_morphemes.h"
 #include "transcript/segmenter.h"
 #include "transcript/transcript_file.h"
@@ -108,6 +112,117 @@ TEST(Segmentation, CodeOnTheLastWordBelongsToThatWord) {
     for (const Code& code : apart.codes())
         EXPECT_EQ(code.word, -1);
     EXPECT_EQ(apart.codes()[1].precedingWord, 2);
+}
+
+// A code written inside a word is taken out of it: the word stays one word and
+// the code is its own; a code standing alone is no word at all.
+TEST(Segmentation, CodesWrittenInsideAWord) {
+    Cut inside = cut("C I go[EW:x]ing home [EU].");
+    EXPECT_EQ(roots(inside), (Strings{"I", "going", "home"}));
+    EXPECT_EQ(inside.words[1].text(), "going");
+    ASSERT_EQ(inside.codes().size(), 2u);
+    EXPECT_EQ(inside.codes()[0].text, "EW:x");
+    EXPECT_EQ(codesOn(inside, 1), std::vector<int>{0});
+    EXPECT_EQ(inside.codes()[1].word, -1);
+
+    Cut parts = cut("C the dog[EW:x]/s r\xC3\xA9[EO:y]al[EW:z]ly ran.");
+    EXPECT_EQ(roots(parts), (Strings{"the", "dog",
+                                     "r\xC3\xA9"
+                                     "ally",
+                                     "ran"}));
+    EXPECT_EQ(strings(parts.words[1].boundMorphemes()), Strings{"s"});
+    EXPECT_EQ(codesOn(parts, 2), (std::vector<int>{1, 2}));
+
+    Cut linked = cut("C ice[EW:x]_ _cream go.");
+    EXPECT_EQ(roots(linked), (Strings{"ice_cream", "go"}));
+    EXPECT_TRUE(linked.words[0].linked);
+}
+
+// A terminator before the final one ends the utterance's text: what follows
+// it is dropped, with the codes, remarks, mazes and overlaps written there.
+TEST(Segmentation, TextAfterAnEarlierTerminatorIsDropped) {
+    Cut u = cut("C I go. home.");
+    EXPECT_EQ(roots(u), (Strings{"I", "go"}));
+    EXPECT_EQ(u.terminator, Terminator::Statement);
+
+    // The maze the terminator stands in keeps the word before it.
+    Cut maze = cut("C I go (um.) now.");
+    EXPECT_EQ(roots(maze), (Strings{"I", "go", "um"}));
+    EXPECT_TRUE(maze.words[2].inMaze);
+    ASSERT_EQ(maze.mazes().size(), 1u);
+
+    Cut dropped = cut("C <I> [EW:x] ((hmm)) go! home [EU] ((laughs)) <now> (um) {x} \"hi\" :05?");
+    EXPECT_EQ(roots(dropped), (Strings{"I", "go"}));
+    EXPECT_EQ(dropped.terminator, Terminator::Question);
+    ASSERT_EQ(dropped.codes().size(), 1u);
+    EXPECT_EQ(dropped.codes()[0].text, "EW:x");
+    EXPECT_EQ(dropped.parentheticals().size(), 1u);
+    EXPECT_EQ(dropped.parentheticalWords().size(), 1u);
+    EXPECT_TRUE(dropped.mazes().empty());
+    EXPECT_TRUE(dropped.pauses().empty());
+    EXPECT_TRUE(dropped.hasOverlap);
+    EXPECT_FALSE(dropped.hasComment);
+    EXPECT_FALSE(dropped.hasQuotation);
+    EXPECT_TRUE(cut("C {x} \"go\". home.").hasQuotation);
+}
+
+// Many mazes and overlaps on one line: every word finds its own.
+TEST(Segmentation, ManyMazesOnOneLine) {
+    std::string line = "C";
+    for (int i = 0; i < 2000; ++i)
+        line += " (um) go <x>";
+    line += ".";
+    Cut u = cut(line);
+    ASSERT_EQ(u.words.size(), 6000u);
+    ASSERT_EQ(u.mazes().size(), 2000u);
+    for (size_t m = 0; m < u.mazes().size(); ++m)
+        ASSERT_EQ(std::vector<int>(u.mazes()[m].words.begin(), u.mazes()[m].words.end()),
+                  std::vector<int>{static_cast<int>(3 * m)});
+    for (size_t w = 0; w < u.words.size(); ++w) {
+        EXPECT_EQ(u.words[w].inMaze, w % 3 == 0) << w;
+        EXPECT_EQ(u.words[w].inOverlap, w % 3 == 2) << w;
+    }
+}
+
+// Lines of plain words only are cut straight from their bytes: the record
+// must be the one the general cut gives (a comment forces the general cut).
+TEST(Segmentation, PlainLinesCutLikeAnyOther) {
+    for (std::string_view line : {"C I x go\tdon't   .  ", "C xx XXX?", "C the cat >", "C .",
+                                  "C 2 o'clock ^", "C it's XXXX!"}) {
+        Cut plain = cut(line);
+        std::string withComment(line);
+        withComment.insert(1, " {c}");
+        Cut general = cut(withComment);
+        EXPECT_EQ(roots(plain), roots(general)) << line;
+        ASSERT_EQ(plain.words.size(), general.words.size()) << line;
+        for (size_t w = 0; w < plain.words.size(); ++w)
+            EXPECT_EQ(plain.words[w].unintelligible, general.words[w].unintelligible) << line;
+        EXPECT_EQ(plain.intelligibility, general.intelligibility) << line;
+        EXPECT_EQ(plain.terminator, general.terminator) << line;
+        EXPECT_EQ(plain.terminatorChar, general.terminatorChar) << line;
+        EXPECT_EQ(plain.speakerId, U'C');
+        EXPECT_FALSE(plain.hasComment);
+        EXPECT_EQ(plain.extras, nullptr);
+    }
+    // Made-up lines of the characters at the edge of the plain kind.
+    std::mt19937 rng(7);
+    const std::string_view alphabet = "aXx'1 \t.?>/";
+    for (int n = 0; n < 3000; ++n) {
+        std::string line = "C ";
+        for (int k = 0, size = static_cast<int>(rng() % 12); k < size; ++k)
+            line += alphabet[rng() % alphabet.size()];
+        line += ".!?~^>"[rng() % 6];
+        Cut plain = cut(line);
+        Cut general = cut("C {c}" + line.substr(1));
+        ASSERT_EQ(roots(plain), roots(general)) << line;
+        for (size_t w = 0; w < plain.words.size(); ++w)
+            ASSERT_EQ(plain.words[w].unintelligible, general.words[w].unintelligible) << line;
+        ASSERT_EQ(plain.intelligibility, general.intelligibility) << line;
+        ASSERT_EQ(plain.terminatorChar, general.terminatorChar) << line;
+        ASSERT_EQ(test::listingAfterSpeakers(line + "\n"),
+                  test::listingAfterSpeakers("C {c}" + line.substr(1) + "\n"))
+            << line;
+    }
 }
 
 TEST(Segmentation, Terminators) {
