@@ -20,7 +20,7 @@ namespace fs = std::filesystem;
 const fs::path kSamples = fs::path(TAVI_TEST_DATA_DIR) / ".." / ".." / "data" / "samples";
 const fs::path kGolden = fs::path(TAVI_TEST_DATA_DIR) / "reports";
 
-struct Run {
+struct ShellRun {
     int status = -1;
     std::string out;
 };
@@ -36,7 +36,7 @@ protected:
 
     // Runs a shell command line; `tavi` stands for the program with an
     // empty settings folder of its own.
-    Run shell(const std::string& line) {
+    ShellRun shell(const std::string& line) {
         const std::string tavi = std::string("'") + TAVI_BINARY + "' --settings-dir '" +
                                  (dir_ / "settings").string() + "'";
         std::string command = line;
@@ -44,7 +44,7 @@ protected:
              at = command.find("tavi ", at + tavi.size()))
             command.replace(at, 4, tavi);
         command += " 2>'" + (dir_ / "stderr.txt").string() + "'";
-        Run run;
+        ShellRun run;
         FILE* pipe = ::popen(command.c_str(), "r");
         std::array<char, 4096> buffer{};
         size_t n;
@@ -81,7 +81,7 @@ TEST_F(SummaryCommand, SummariesOfASampleMatchTheirGoldenText) {
     for (const char* kind :
          {"syntax-summary", "utterance-distribution", "discourse-summary", "errors-summary"}) {
         SCOPED_TRACE(kind);
-        const Run run =
+        const ShellRun run =
             shell(std::string("tavi report ") + kind + " " + sample("conversation-age5"));
         EXPECT_EQ(run.status, 0) << stderrText();
         expectGolden(run.out, std::string("conversation-age5.") + kind + ".txt");
@@ -111,16 +111,16 @@ TEST_F(SummaryCommand, JsonEnvelopeParsesWithNumbersAsNumbers) {
         "    assert sum(r['cells'][c] for r in rows[:-1]) == rows[-1]['cells'][c]\n"
         "print('ok')\n";
     ASSERT_EQ(tavi::writeFileAtomic(dir_ / "check.py", check), tavi::WriteStatus::Ok);
-    const Run run = shell("tavi report utterance-distribution --json " + sample("story-age7") +
-                          " | python3 '" + (dir_ / "check.py").string() + "'");
+    const ShellRun run = shell("tavi report utterance-distribution --json " + sample("story-age7") +
+                               " | python3 '" + (dir_ / "check.py").string() + "'");
     EXPECT_EQ(run.status, 0) << stderrText();
     EXPECT_EQ(run.out, "ok\n");
 }
 
 TEST_F(SummaryCommand, CustomPdfHoldsTheChosenReportsBehindItsContents) {
     const std::string pdf = (dir_ / "custom.pdf").string();
-    Run run = shell("tavi report custom-pdf --kinds smr,code-summary,turn-distribution -o '" + pdf +
-                    "' " + sample("story-age7"));
+    ShellRun run = shell("tavi report custom-pdf --kinds smr,code-summary,turn-distribution -o '" +
+                         pdf + "' " + sample("story-age7"));
     ASSERT_EQ(run.status, 0) << stderrText();
     std::string bytes;
     ASSERT_TRUE(tavi::readFile(pdf, bytes));

@@ -105,8 +105,9 @@ TEST(SummaryReports, DistributionTablesAddUpToTheMeasuresOfBothSpeakers) {
                   measure(built, speaker, "TotASetUt"));
         EXPECT_EQ(lengths.rows.back().cells[column + 1], "100%");
     }
-    // "C it was good [NEW]." has 3 words; the child's 4-word utterances are 3.
-    EXPECT_EQ(lengths.rows[4].cells[0], "3");
+    // The child's utterances of 3 words: "dog ran fast", "she went home", "it was good".
+    EXPECT_EQ(lengths.rows[3].cells[0], "3");
+    EXPECT_EQ(lengths.rows[4].cells[0], "1"); // "we had pizza after"
 
     const Report turns = build(built, "turn-distribution");
     for (size_t section : {0u, 1u}) {
@@ -118,12 +119,12 @@ TEST(SummaryReports, DistributionTablesAddUpToTheMeasuresOfBothSpeakers) {
                       measure(built, speaker, "TurnByTLUtTot"));
         }
     }
-    // The child's turns: 3 utterances, 1, then 4.
+    // The child's turns: 3 utterances, 1, 3, then 1.
     const ReportTable& byUtterances = table(turns, 0);
-    EXPECT_EQ(byUtterances.rows[0].cells[0], "1");
-    EXPECT_EQ(byUtterances.rows[2].cells[0], "1");
-    EXPECT_EQ(byUtterances.rows[3].cells[0], "1");
-    EXPECT_EQ(byUtterances.rows.back().cells[0], "3");
+    EXPECT_EQ(byUtterances.rows[0].cells[0], "2");
+    EXPECT_EQ(byUtterances.rows[2].cells[0], "2");
+    EXPECT_EQ(byUtterances.rows[3].cells[0], "0");
+    EXPECT_EQ(byUtterances.rows.back().cells[0], "4");
 
     // A transcript of one speaker shows one speaker's columns.
     const Built alone = analyse("$ Child\nC I go.\nC we go home.\n");
