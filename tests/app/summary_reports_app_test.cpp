@@ -10,6 +10,7 @@
 #include "app/rept_frame.h"
 #include "app/rept_view.h"
 #include "app/save_report_dialog.h"
+#include "app/tavi_frame.h"
 #include "app_fixture.h"
 
 namespace tavi::app::test {
