@@ -117,6 +117,43 @@ TEST_F(SummaryCommand, JsonEnvelopeParsesWithNumbersAsNumbers) {
     EXPECT_EQ(run.out, "ok\n");
 }
 
+// The tables' totals against the values `tavi measures` prints for the same
+// transcript (the batch columns of the same names), on every sample and for
+// both speakers.
+TEST_F(SummaryCommand, TableTotalsEqualTheMeasuresOfTheSamples) {
+    if (std::system("command -v python3 >/dev/null 2>&1") != 0)
+        GTEST_SKIP() << "python3 is not available";
+    const std::string check =
+        "import json, subprocess, sys\n"
+        "tavi, sample, speaker = sys.argv[1:4]\n"
+        "def run(*args):\n"
+        "    return json.loads(subprocess.run([tavi, '--settings-dir', sys.argv[4], *args,\n"
+        "        '--speaker', speaker, '--json', sample], check=True, capture_output=True,\n"
+        "        text=True).stdout)\n"
+        "m = run('measures')\n"
+        "def total(kind, section, column=0):\n"
+        "    return run('report', kind)['sections'][section]['rows'][-1]['cells'][column]\n"
+        "column = 2 * (int(speaker) - 1)\n"
+        "assert total('utterance-distribution', 0, column) == m['UtbyULTot'] == m['TotASetUt']\n"
+        "assert total('turn-distribution', 0, column) == m['TurnByTLUtTot']\n"
+        "assert total('turn-distribution', 1, column) == m['TurnByTLWdTot']\n"
+        "assert total('maze-distribution', 0) == m['Tot#Mz']\n"
+        "assert total('maze-distribution', 2) == m['MzByMLTot']\n"
+        "codes = run('report', 'code-summary')['sections'][1]['rows'][0]['cells']\n"
+        "assert codes == [m['ErrCodesWd'], m['ErrCodesUt'], m['ErrCodes']], codes\n"
+        "print('ok')\n";
+    ASSERT_EQ(tavi::writeFileAtomic(dir_ / "totals.py", check), tavi::WriteStatus::Ok);
+    for (const char* name : {"conversation-age5", "story-age7", "expository-age10"})
+        for (const char* speaker : {"1", "2"}) {
+            SCOPED_TRACE(std::string(name) + " speaker " + speaker);
+            const ShellRun run =
+                shell("python3 '" + (dir_ / "totals.py").string() + "' '" + TAVI_BINARY + "' " +
+                      sample(name) + " " + speaker + " '" + (dir_ / "settings").string() + "'");
+            EXPECT_EQ(run.status, 0) << stderrText();
+            EXPECT_EQ(run.out, "ok\n");
+        }
+}
+
 TEST_F(SummaryCommand, CustomPdfHoldsTheChosenReportsBehindItsContents) {
     const std::string pdf = (dir_ / "custom.pdf").string();
     ShellRun run = shell("tavi report custom-pdf --kinds smr,code-summary,turn-distribution -o '" +
