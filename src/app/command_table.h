@@ -66,29 +66,29 @@ enum class CommandStatus { Working, Unavailable };
     X(ID_ANAL_PSS, Unavailable) \
     X(ID_ANAL_ONQ, Unavailable) \
     X(ID_ANAL_CQ, Unavailable) \
-    X(ID_ANAL_SYNTAX, Unavailable) \
-    X(ID_ANAL_DIST, Unavailable) \
+    X(ID_ANAL_SYNTAX, Working) \
+    X(ID_ANAL_DIST, Working) \
     X(ID_ANAL_BM, Unavailable) \
     X(ID_ANAL_CLITIC, Unavailable) \
     X(ID_ANAL_SI, Unavailable) \
-    X(ID_ANAL_SEMANTICS, Unavailable) \
+    X(ID_ANAL_SEMANTICS, Working) \
     X(ID_ANAL_WR, Unavailable) \
     X(ID_ANAL_SWL, Unavailable) \
     X(ID_ANAL_GC, Unavailable) \
     X(ID_ANAL_GCL, Unavailable) \
-    X(ID_ANAL_DISCOURSE, Unavailable) \
-    X(ID_ANAL_TURNS, Unavailable) \
-    X(ID_ANAL_FACILITY, Unavailable) \
-    X(ID_ANAL_MAZES, Unavailable) \
-    X(ID_ANAL_ERRORS, Unavailable) \
+    X(ID_ANAL_DISCOURSE, Working) \
+    X(ID_ANAL_TURNS, Working) \
+    X(ID_ANAL_FACILITY, Working) \
+    X(ID_ANAL_MAZES, Working) \
+    X(ID_ANAL_ERRORS, Working) \
     X(ID_ANAL_OMITERR, Unavailable) \
-    X(ID_ANAL_CODES, Unavailable) \
+    X(ID_ANAL_CODES, Working) \
     X(ID_ANAL_WC, Unavailable) \
     X(ID_ANAL_UC, Unavailable) \
     X(ID_ANAL_FLUENCY, Unavailable) \
     X(ID_ANAL_NONMAINSTREAM, Unavailable) \
     X(ID_ANAL_CODESWITCH, Unavailable) \
-    X(ID_ANAL_CUSTOM_PDF, Unavailable) \
+    X(ID_ANAL_CUSTOM_PDF, Working) \
     X(ID_DB_SELECT, Working) \
     X(ID_DB_SMR, Working) \
     X(ID_DB_PERF, Working) \

@@ -105,6 +105,7 @@ private:
     void analyzeReport(std::string_view kind, bool askSpeaker = true);
     bool chooseReportSpeaker(const ReportDefinition& report, TranscriptAnalysis& analysis);
     void registerReportCommands();
+    void analyzeCustomPdf();
     // Database
     CTAVIDoc* databaseTarget() const;
     void refreshDatabaseMenu();

@@ -62,6 +62,8 @@ void CMainFrame::registerCommands() {
     // selection's target): it asks nothing.
     on(
         ID_ANAL_PERF, [this] { analyzeReport("performance", false); }, analysable);
+    on(
+        ID_ANAL_CUSTOM_PDF, [this] { analyzeCustomPdf(); }, analysable);
 
     // Database: the reports wait for a selection that matched samples.
     auto compared = [this] {

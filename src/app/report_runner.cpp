@@ -30,8 +30,11 @@ std::pair<std::string, std::string> mainSpeakerLabels(const TranscriptAnalysis& 
     return {firstLabel(speakers.groups[0]), firstLabel(speakers.groups[1])};
 }
 
-ReportContent makeReport(CTAVIApp& app, std::string_view kind, const TranscriptAnalysis& analysis,
-                         const ReportSource& source) {
+namespace {
+
+TranscriptReportRequest reportRequest(CTAVIApp& app, std::string_view kind,
+                                      const TranscriptAnalysis& analysis,
+                                      const ReportSource& source) {
     if (std::string_view message = analysis.cutMessage(); !message.empty())
         app.prompter().inform(message);
     TranscriptReportRequest request;
@@ -44,7 +47,24 @@ ReportContent makeReport(CTAVIApp& app, std::string_view kind, const TranscriptA
         request.database = smrDatabase(*source.peers, analysis.measures(), date);
         request.performancePeers = performancePeers(*source.peers, date);
     }
-    return reportContent(buildTranscriptReport(analysis, app.settings(), request));
+    return request;
+}
+
+} // namespace
+
+ReportContent makeReport(CTAVIApp& app, std::string_view kind, const TranscriptAnalysis& analysis,
+                         const ReportSource& source) {
+    const TranscriptReportRequest request = reportRequest(app, kind, analysis, source);
+    ReportContent content = reportContent(buildTranscriptReport(analysis, app.settings(), request));
+    if (const ReportDefinition* definition = findReport(kind))
+        content.form = definition->form;
+    return content;
+}
+
+std::vector<Report> makeCustomReports(CTAVIApp& app, const TranscriptAnalysis& analysis,
+                                      const ReportSource& source) {
+    return buildCustomReports(analysis, app.settings(),
+                              reportRequest(app, "custom-pdf", analysis, source));
 }
 
 ReportContent reportContent(Report report) {

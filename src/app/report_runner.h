@@ -41,6 +41,11 @@ struct ReportSource {
 ReportContent makeReport(CTAVIApp& app, std::string_view kind, const TranscriptAnalysis& analysis,
                          const ReportSource& source);
 
+// The reports of a customised PDF (`source.choices.kinds`): its contents
+// page first, then each chosen report of the analysis's speaker.
+std::vector<Report> makeCustomReports(CTAVIApp& app, const TranscriptAnalysis& analysis,
+                                      const ReportSource& source);
+
 // A built report in every form the report window needs.
 ReportContent reportContent(Report report);
 

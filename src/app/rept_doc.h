@@ -10,6 +10,7 @@
 #include <string>
 
 #include "reports/report.h"
+#include "reports/save_state.h"
 
 namespace tavi::app {
 
@@ -22,6 +23,7 @@ struct ReportContent {
     QString html;     // shown in the report window, printed, written to PDF
     std::string text; // plain text ("TXT - Text File")
     std::string rtf;  // "RTF - Rich Text Format (Word)"
+    ReportKind form = ReportKind::RichText; // a grid saves as CSV, TSV or TXT cells
 };
 
 class CReptDoc final : public QObject {

@@ -15,6 +15,8 @@
 #include "app/tavi_app.h"
 #include "app/tavi_doc.h"
 #include "base/file_io.h"
+#include "reports/grid_writer.h"
+#include "reports/report_grid.h"
 #include "reports/save_state.h"
 #include "reports/text_writer.h"
 
@@ -54,14 +56,30 @@ void CReptFrame::updateCaption() {
 bool CReptFrame::save(bool) {
     ReportSaveState& state = app_.reportSave;
     const bool batchOpen = state.batchOpen();
-    CSaveReportTypeRTF dialog(state.initialChoice(tavi::ReportKind::RichText, false),
-                              state.displayAfterSaving(), batchOpen, window());
-    if (dialog.exec() != QDialog::Accepted)
-        return false;
-    const auto choice = static_cast<RichTextSaveChoice>(dialog.choice());
-    state.remember(dialog.choice());
-    state.setDisplayAfterSaving(dialog.displayAfterSaving());
-    if (choice == RichTextSaveChoice::BeginPdfBatch) {
+    // A grid report (a table of counts) offers CSV first, a rich-text one PDF.
+    const bool grid = doc_->content().form == ReportKind::Grid;
+    int chosen = 0;
+    bool display = false;
+    if (grid) {
+        CSaveReportType dialog(state.initialChoice(ReportKind::Grid, true),
+                               state.displayAfterSaving(), batchOpen, window());
+        if (dialog.exec() != QDialog::Accepted)
+            return false;
+        chosen = dialog.choice();
+        display = dialog.displayAfterSaving();
+    } else {
+        CSaveReportTypeRTF dialog(state.initialChoice(ReportKind::RichText, false),
+                                  state.displayAfterSaving(), batchOpen, window());
+        if (dialog.exec() != QDialog::Accepted)
+            return false;
+        chosen = dialog.choice();
+        display = dialog.displayAfterSaving();
+    }
+    state.remember(chosen);
+    state.setDisplayAfterSaving(display);
+    const bool batch = grid ? chosen == static_cast<int>(GridSaveChoice::PdfBatch)
+                            : chosen == static_cast<int>(RichTextSaveChoice::BeginPdfBatch);
+    if (batch) {
         if (batchOpen)
             closePdfBatch(app_);
         else
@@ -69,7 +87,9 @@ bool CReptFrame::save(bool) {
         Q_EMIT commandsChanged();
         return false;
     }
-    const FileChoice file = richTextFileChoice(choice);
+    const bool pdf = chosen == 0; // PDF is the first choice of both dialogs
+    const FileChoice file = grid ? gridFileChoice(static_cast<GridSaveChoice>(chosen))
+                                 : richTextFileChoice(static_cast<RichTextSaveChoice>(chosen));
     const QString extension = QString::fromStdString(file.extension);
     QString path =
         QFileDialog::getSaveFileName(window(), QStringLiteral("Save As"),
@@ -80,10 +100,17 @@ bool CReptFrame::save(bool) {
     if (QFileInfo(path).suffix().isEmpty())
         path += extension;
     bool written = false;
-    if (choice == RichTextSaveChoice::Pdf) {
+    if (pdf) {
         written = writePdf({&doc_->content().report}, path,
                            qt::pdfPageSetup(app_.settings(), pdfLayout_()));
+    } else if (grid) {
+        const auto choice = static_cast<GridSaveChoice>(chosen);
+        const GridFormat format = choice == GridSaveChoice::Csv   ? GridFormat::Csv
+                                  : choice == GridSaveChoice::Tsv ? GridFormat::Tsv
+                                                                  : GridFormat::Txt;
+        written = saveGrid(reportGrid(doc_->content().report), format, path.toStdString()).empty();
     } else {
+        const auto choice = static_cast<RichTextSaveChoice>(chosen);
         const std::string bytes = choice == RichTextSaveChoice::Rtf
                                       ? doc_->content().rtf
                                       : reportTextFileBytes(doc_->content().report);

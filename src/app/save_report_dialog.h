@@ -1,6 +1,7 @@
-// The dialog "Save report as" of a rich-text report (`CSaveReportTypeRTF`):
-// the format, or the PDF batch, and "Display report after saving". The
-// choices are numbered as `RichTextSaveChoice`.
+// The dialogs "Save report as": of a rich-text report (`CSaveReportTypeRTF`,
+// choices numbered as `RichTextSaveChoice`) and of a grid report
+// (`CSaveReportType`, numbered as `GridSaveChoice`): the format, or the PDF
+// batch, and "Display report after saving".
 #pragma once
 
 #include <QDialog>
@@ -17,6 +18,19 @@ public:
     // `choice` is the one checked at first.
     CSaveReportTypeRTF(int choice, bool displayAfterSaving, bool batchOpen,
                        QWidget* parent = nullptr);
+    int choice() const;
+    bool displayAfterSaving() const;
+
+private:
+    QButtonGroup* choices_;
+    QCheckBox* display_;
+};
+
+// The grid reports' dialog: PDF, CSV, TSV, tab-delimited TXT or the batch.
+class CSaveReportType final : public QDialog {
+    Q_OBJECT
+public:
+    CSaveReportType(int choice, bool displayAfterSaving, bool batchOpen, QWidget* parent = nullptr);
     int choice() const;
     bool displayAfterSaving() const;
 

@@ -12,6 +12,7 @@
 #include "cli/command.h"
 #include "cli/peer_flags.h"
 #include "cli/stream_prompter.h"
+#include "reports/custom_report.h"
 #include "reports/grid_writer.h"
 #include "reports/html_writer.h"
 #include "reports/json_writer.h"
@@ -25,6 +26,7 @@
 #include "transcript/transcript_file.h"
 #ifdef TAVI_HAVE_QT
 #include "qt/page_setup.h"
+#include "qt/pdf_writer.h"
 #endif
 
 namespace {
@@ -108,6 +110,15 @@ int run(cli::CommandContext& ctx) {
     request.kind = definition->name;
     if (!readChoices(args, ctx.err, request.choices))
         return cli::kExitUsage;
+    const bool custom = definition->name == kCustomReportName;
+    if (custom) {
+        if (std::string problem =
+                customReportKinds(request.choices.kinds, args.has("--db")).problem;
+            !problem.empty()) {
+            ctx.err << "tavi report: --kinds: " << problem << '\n';
+            return cli::kExitUsage;
+        }
+    }
     const std::string speaker = args.value("--speaker").value_or("1");
     if (speaker != "1" && speaker != "2") {
         ctx.err << "tavi report: --speaker takes 1 or 2\n";
@@ -153,13 +164,37 @@ int run(cli::CommandContext& ctx) {
         ctx.err << "tavi report: " << definition->name << " needs --db DB\n";
         return cli::kExitUsage;
     }
-    const Report report = buildTranscriptReport(*outcome.analysis, prepared->settings, request);
+    Report report;
+    const auto output = args.value("-o");
+    if (custom) {
+        // The chosen reports behind the contents page: one PDF with a title
+        // page and a table of contents, or joined into one report otherwise.
+        const std::vector<Report> parts =
+            buildCustomReports(*outcome.analysis, prepared->settings, request);
+        const std::vector<Report> held(parts.begin() + 1, parts.end());
+#ifdef TAVI_HAVE_QT
+        if (output && toLowerAscii(std::filesystem::path(*output).extension().string()) == ".pdf") {
+            std::vector<const Report*> pointers;
+            for (const Report& part : held)
+                pointers.push_back(&part);
+            if (std::string problem = qt::saveBookPdf(parts.front(), pointers, *output,
+                                                      qt::pdfPageSetup(prepared->settings));
+                !problem.empty()) {
+                ctx.err << "tavi report: " << *output << ": " << problem << '\n';
+                return cli::kExitFailed;
+            }
+            return cli::kExitOk;
+        }
+#endif
+        report = joinReports(parts.front(), held);
+    } else {
+        report = buildTranscriptReport(*outcome.analysis, prepared->settings, request);
+    }
     if (args.has("--json")) {
         ctx.out << reportToJson(
             report, {definition->name, request.transcriptName, outcome.analysis->speaker});
         return cli::kExitOk;
     }
-    const auto output = args.value("-o");
     if (!output) {
         ctx.out << reportToText(report);
         return cli::kExitOk;
@@ -203,7 +238,10 @@ const cli::CommandRegistrar reg{
      "  --lists KEYS       (utterance-lists) the lists to show, e.g. PQUES,PIMIT\n"
      "  --sort frequency|alpha  (word and morpheme tables) the order of the rows\n"
      "  --with-mazes       (word-roots) count the words of mazes too\n"
-     "  --kinds A,B,...    (custom-pdf) the reports the PDF holds\n"
+     "  --kinds A,B,...    (custom-pdf) the reports the PDF holds, in order (default:\n"
+     "                     smr and every report of the Analyze menu that needs no\n"
+     "                     database); with -o FILE.pdf one PDF with a title page and\n"
+     "                     a table of contents, else the reports joined into one\n"
      "  --include-errors   report on a transcript that has errors as it stands\n"
      "  --db DB            compare with the matched samples of the reference\n"
      "                     database DB (smr: each value is followed by the database\n"

@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <functional>
+#include <optional>
 
 #include "base/format.h"
 #include "qt/gui_application.h"
@@ -278,41 +279,151 @@ std::string footerTitle(const Report& report) {
 
 } // namespace
 
+namespace {
+
+// One PDF file being drawn: the writer, its painter and the page geometry.
+class PdfDocument {
+public:
+    PdfDocument(QBuffer& buffer, const PdfPageSetup& setup, const std::string& title)
+        : writer_(&buffer), fonts_{qs(setup.fontFamily), setup.bodyPoints / 9.5} {
+        writer_.setResolution(kDpi);
+        writer_.setCreator(QStringLiteral("TAVI"));
+        writer_.setPageSize(
+            QPageSize(QSizeF(setup.widthMm, setup.heightMm), QPageSize::Millimeter));
+        writer_.setPageMargins(QMarginsF(0, 0, 0, 0), QPageLayout::Millimeter);
+        writer_.setTitle(qs(title));
+        painter_.begin(&writer_);
+        margin_ = mm(setup.marginMm);
+        footerTop_ = writer_.height() - margin_;
+        layout_.emplace(writer_, setup, fonts_);
+    }
+    ~PdfDocument() { painter_.end(); }
+    PdfDocument(const PdfDocument&) = delete;
+    PdfDocument& operator=(const PdfDocument&) = delete;
+
+    const ReportLayout& layout() const { return *layout_; }
+    std::vector<Page> paginate(const std::vector<Block>& blocks) const {
+        return tavi::qt::paginate(blocks, margin_, footerTop_ - mm(2));
+    }
+    // Draws one page; its footer reads "Page number of count".
+    void drawPage(const Page& page, const std::string& footer, int number, int count) {
+        startPage();
+        for (const auto& [block, y] : page.placed)
+            block->draw(painter_, y);
+        drawFooter(painter_, fonts_, footer, number, count, margin_, width(), footerTop_);
+    }
+    void startPage() {
+        if (!firstPage_)
+            writer_.newPage();
+        firstPage_ = false;
+    }
+    QPainter& painter() { return painter_; }
+    const FontMaker& fonts() const { return fonts_; }
+    qreal margin() const { return margin_; }
+    qreal width() const { return writer_.width() - 2 * margin_; }
+    qreal height() const { return writer_.height(); }
+
+private:
+    QPdfWriter writer_;
+    QPainter painter_;
+    FontMaker fonts_;
+    qreal margin_ = 0;
+    qreal footerTop_ = 0;
+    std::optional<ReportLayout> layout_;
+    bool firstPage_ = true;
+};
+
+// The title page: the cover's title large, its header lines below.
+void drawTitlePage(PdfDocument& pdf, const Report& cover, int pages) {
+    QPainter& p = pdf.painter();
+    const QFont titleFont = pdf.fonts()(24, true);
+    const QFont lineFont = pdf.fonts()(11);
+    qreal y = pdf.height() * 0.3;
+    const qreal titleHeight = QFontMetricsF(titleFont, p.device()).height() * 1.5;
+    p.setFont(titleFont);
+    p.setPen(kAccent);
+    p.drawText(QRectF(pdf.margin(), y, pdf.width(), titleHeight), Qt::AlignCenter, qs(cover.title));
+    y += titleHeight * 1.5;
+    const qreal lineHeight = QFontMetricsF(lineFont, p.device()).height() * 1.4;
+    p.setFont(lineFont);
+    p.setPen(kInk);
+    for (const LabelledLine& line : cover.header) {
+        p.drawText(QRectF(pdf.margin(), y, pdf.width(), lineHeight), Qt::AlignCenter,
+                   qs(line.text()));
+        y += lineHeight;
+    }
+    drawFooter(p, pdf.fonts(), cover.title, 1, pages, pdf.margin(), pdf.width(),
+               pdf.height() - pdf.margin());
+}
+
+} // namespace
+
 std::string reportsToPdf(const std::vector<const Report*>& reports, const PdfPageSetup& setup) {
     ensureGuiApplication();
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     {
-        QPdfWriter writer(&buffer);
-        writer.setResolution(kDpi);
-        writer.setCreator(QStringLiteral("TAVI"));
-        writer.setPageSize(QPageSize(QSizeF(setup.widthMm, setup.heightMm), QPageSize::Millimeter));
-        writer.setPageMargins(QMarginsF(0, 0, 0, 0), QPageLayout::Millimeter);
-        if (!reports.empty())
-            writer.setTitle(qs(reports.front()->title));
-        QPainter painter(&writer);
-        const qreal margin = mm(setup.marginMm);
-        const qreal footerTop = writer.height() - margin;
-        const FontMaker fonts{qs(setup.fontFamily), setup.bodyPoints / 9.5};
-        ReportLayout layout(writer, setup, fonts);
-        bool firstPage = true;
+        PdfDocument pdf(buffer, setup, reports.empty() ? std::string() : reports.front()->title);
         for (const Report* report : reports) {
-            const std::vector<Block> blocks = layout.blocks(*report);
-            const std::vector<Page> pages = paginate(blocks, margin, footerTop - mm(2));
-            for (size_t n = 0; n < pages.size(); ++n) {
-                if (!firstPage)
-                    writer.newPage();
-                firstPage = false;
-                for (const auto& [block, y] : pages[n].placed)
-                    block->draw(painter, y);
-                drawFooter(painter, fonts, footerTitle(*report), static_cast<int>(n + 1),
-                           static_cast<int>(pages.size()), margin, writer.width() - 2 * margin,
-                           footerTop);
-            }
+            const std::vector<Block> blocks = pdf.layout().blocks(*report);
+            const std::vector<Page> pages = pdf.paginate(blocks);
+            for (size_t n = 0; n < pages.size(); ++n)
+                pdf.drawPage(pages[n], footerTitle(*report), static_cast<int>(n + 1),
+                             static_cast<int>(pages.size()));
         }
-        painter.end();
     }
     return buffer.data().toStdString();
+}
+
+std::string bookToPdf(const Report& cover, const std::vector<const Report*>& reports,
+                      const PdfPageSetup& setup) {
+    ensureGuiApplication();
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    {
+        PdfDocument pdf(buffer, setup, cover.title);
+        // Lay every report out first: the contents need their first pages.
+        std::vector<std::vector<Block>> blocks;
+        std::vector<std::vector<Page>> pages;
+        for (const Report* report : reports) {
+            blocks.push_back(pdf.layout().blocks(*report));
+            pages.push_back(pdf.paginate(blocks.back()));
+        }
+        Report contents;
+        contents.title = "Contents";
+        ReportTable table;
+        table.labelHeading = "Report";
+        table.headings = {"Page"};
+        for (const Report* report : reports)
+            table.rows.push_back({report->title, {""}});
+        contents.sections.push_back({"", {table}});
+        // The contents' own length does not depend on the numbers it shows.
+        const size_t contentsPages = pdf.paginate(pdf.layout().blocks(contents)).size();
+        int first = 2 + static_cast<int>(contentsPages);
+        for (size_t i = 0; i < reports.size(); ++i) {
+            std::get<ReportTable>(contents.sections[0].items[0]).rows[i].cells[0] =
+                std::to_string(first);
+            first += static_cast<int>(pages[i].size());
+        }
+        const int total = first - 1;
+        const std::vector<Block> contentsBlocks = pdf.layout().blocks(contents);
+        const std::vector<Page> contentsLaid = pdf.paginate(contentsBlocks);
+
+        pdf.startPage();
+        drawTitlePage(pdf, cover, total);
+        int number = 2;
+        for (const Page& page : contentsLaid)
+            pdf.drawPage(page, cover.title, number++, total);
+        for (size_t i = 0; i < reports.size(); ++i)
+            for (const Page& page : pages[i])
+                pdf.drawPage(page, footerTitle(*reports[i]), number++, total);
+    }
+    return buffer.data().toStdString();
+}
+
+std::string saveBookPdf(const Report& cover, const std::vector<const Report*>& reports,
+                        const std::filesystem::path& path, const PdfPageSetup& setup) {
+    return saveReportBytes(path, bookToPdf(cover, reports, setup));
 }
 
 std::string saveReportPdf(const Report& report, const std::filesystem::path& path,

@@ -24,6 +24,15 @@ struct PdfPageSetup {
 // own pages. Creates the GUI application object when there is none.
 std::string reportsToPdf(const std::vector<const Report*>& reports, const PdfPageSetup& setup = {});
 
+// A customised report as one PDF: a title page (the cover's title and header
+// lines), a table of contents giving the page each report starts on, then
+// the reports, each starting on a new page; pages are numbered through the
+// whole file.
+std::string bookToPdf(const Report& cover, const std::vector<const Report*>& reports,
+                      const PdfPageSetup& setup = {});
+std::string saveBookPdf(const Report& cover, const std::vector<const Report*>& reports,
+                        const std::filesystem::path& path, const PdfPageSetup& setup = {});
+
 // Writes one report as a PDF file through a temporary file and a rename.
 // Returns an empty string, or "cannot open file" / "cannot write to file".
 std::string saveReportPdf(const Report& report, const std::filesystem::path& path,

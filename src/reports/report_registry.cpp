@@ -5,7 +5,17 @@
 #include <algorithm>
 #include <array>
 
+#include "reports/code_summary_report.h"
+#include "reports/custom_report.h"
+#include "reports/discourse_summary_report.h"
+#include "reports/errors_summary_report.h"
+#include "reports/maze_distribution_report.h"
+#include "reports/semantics_summary_report.h"
+#include "reports/syntax_summary_report.h"
+#include "reports/turn_distribution_report.h"
+#include "reports/utterance_distribution_report.h"
 #include "reports/utterance_types_report.h"
+#include "reports/verbal_facility_report.h"
 
 namespace tavi {
 
@@ -51,6 +61,27 @@ constexpr std::array kReports{
     ReportDefinition{"goals", "Goal Bank", "ID_DB_GOALS", RichText, goalBank, true,
                      DatabaseUse::Optional},
     // Summaries and distribution tables of the Analyze menu.
+    ReportDefinition{"syntax-summary", "Syntax/Morphology Summary", "ID_ANAL_SYNTAX", RichText,
+                     buildSyntaxSummaryReport},
+    ReportDefinition{"utterance-distribution", "Utterance Distribution Tables", "ID_ANAL_DIST",
+                     Grid, buildUtteranceDistributionReport},
+    ReportDefinition{"semantics-summary", "Semantics Summary", "ID_ANAL_SEMANTICS", RichText,
+                     buildSemanticsSummaryReport},
+    ReportDefinition{"discourse-summary", "Discourse Summary", "ID_ANAL_DISCOURSE", RichText,
+                     buildDiscourseSummaryReport},
+    ReportDefinition{"turn-distribution", "Turn Length Distribution Tables", "ID_ANAL_TURNS", Grid,
+                     buildTurnDistributionReport},
+    ReportDefinition{"verbal-facility", "Verbal Facility Summary", "ID_ANAL_FACILITY", RichText,
+                     buildVerbalFacilityReport},
+    ReportDefinition{"maze-distribution", "Maze Distribution Tables", "ID_ANAL_MAZES", Grid,
+                     buildMazeDistributionReport},
+    ReportDefinition{"errors-summary", "Errors Summary", "ID_ANAL_ERRORS", RichText,
+                     buildErrorsSummaryReport},
+    ReportDefinition{"code-summary", "Code Summary", "ID_ANAL_CODES", RichText,
+                     buildCodeSummaryReport},
+    // The contents page; the front ends add the chosen reports behind it.
+    ReportDefinition{"custom-pdf", "Create Customized PDF Report", "ID_ANAL_CUSTOM_PDF", RichText,
+                     buildCustomContents, true, DatabaseUse::Optional},
     // Lists and tables of words, morphemes and codes of the Analyze menu.
     // Macro analysis: scoring schemes, questions, Subordination Index.
     // Reports against a database (the Database menu).

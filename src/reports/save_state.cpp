@@ -30,6 +30,21 @@ FileChoice richTextFileChoice(RichTextSaveChoice choice) {
     return {"Text file (*.TXT)|*.TXT|", ".txt"};
 }
 
+FileChoice gridFileChoice(GridSaveChoice choice) {
+    switch (choice) {
+    case GridSaveChoice::Csv:
+        return {"CSV file (*.CSV)|*.CSV|", ".csv"};
+    case GridSaveChoice::Tsv:
+        return {"TSV file (*.TSV)|*.TSV|", ".tsv"};
+    case GridSaveChoice::Txt:
+        return {"Text file (*.TXT)|*.TXT|", ".txt"};
+    case GridSaveChoice::Pdf:
+    case GridSaveChoice::PdfBatch:
+        break;
+    }
+    return {"PDF file (*.PDF)|*.PDF|", ".pdf"};
+}
+
 int ReportSaveState::initialChoice(ReportKind kind, bool countTable) const {
     if (lastFormat_ >= 0)
         return lastFormat_;

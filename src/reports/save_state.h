@@ -40,6 +40,8 @@ struct FileChoice {
     std::string shownFilter() const { return filter.substr(0, filter.find('|')); }
 };
 FileChoice richTextFileChoice(RichTextSaveChoice choice);
+// The same for a grid report's file choice (PDF, CSV, TSV or tab-delimited TXT).
+FileChoice gridFileChoice(GridSaveChoice choice);
 
 class ReportSaveState {
 public:

@@ -5,6 +5,7 @@
 #include <stdexcept>
 
 #include "analysis/selection.h"
+#include "reports/custom_report.h"
 
 namespace tavi {
 
@@ -74,6 +75,22 @@ Report buildTranscriptReport(const TranscriptAnalysis& analysis, const Settings&
                               request.database ? &*request.database : nullptr,
                               request.performancePeers ? &*request.performancePeers : nullptr};
     return definition->build(inputs);
+}
+
+std::vector<Report> buildCustomReports(const TranscriptAnalysis& analysis, const Settings& settings,
+                                       const TranscriptReportRequest& request) {
+    TranscriptReportRequest part = request;
+    part.kind = kCustomReportName;
+    std::vector<Report> reports{buildTranscriptReport(analysis, settings, part)};
+    const CustomReportKinds kinds =
+        customReportKinds(request.choices.kinds, request.database.has_value());
+    if (!kinds.problem.empty())
+        return reports;
+    for (const ReportDefinition* definition : kinds.reports) {
+        part.kind = definition->name;
+        reports.push_back(buildTranscriptReport(analysis, settings, part));
+    }
+    return reports;
 }
 
 } // namespace tavi

@@ -47,4 +47,10 @@ TranscriptReportContext transcriptReportContext(const TranscriptAnalysis& analys
 Report buildTranscriptReport(const TranscriptAnalysis& analysis, const Settings& settings,
                              const TranscriptReportRequest& request);
 
+// The reports of a customised report (`request.choices.kinds`, all of the
+// Analyze menu when empty): its contents page first, then each report in turn.
+// Names that cannot be held leave the contents page saying why and no report.
+std::vector<Report> buildCustomReports(const TranscriptAnalysis& analysis, const Settings& settings,
+                                       const TranscriptReportRequest& request);
+
 } // namespace tavi

@@ -65,7 +65,7 @@ TEST_F(ShellTest, MainMenuHasItsMenusCommandsAndHeadingsInOrder) {
     EXPECT_EQ(length->statusTip(),
               "Database Transcript Length and Intelligibility Summary (not available yet)");
     EXPECT_EQ(action("ID_ANAL_PERF")->statusTip(), "Performance Report");
-    EXPECT_EQ(action("ID_ANAL_CODES")->statusTip(), "Code Summary Report (not available yet)");
+    EXPECT_EQ(action("ID_ANAL_CODES")->statusTip(), "Code Summary Report");
 
     // Commands that need a transcript wait for one.
     EXPECT_FALSE(action("ID_FILE_SAVE")->isEnabled());
