@@ -12,6 +12,7 @@
 #include "analysis/gc_dictionary.h"
 #include "analysis/grammatical_categories.h"
 #include "analysis/measure_context.h"
+#include "analysis/verb_list.h"
 #include "analysis/word_forms.h"
 #include "analysis/word_lists.h"
 #include "transcript/bound_morphemes.h"
@@ -226,6 +227,7 @@ void fillWordLists(const SpeakerView& v, SpeakerMeasures& m) {
 
 void fillCategoriesAndVerbs(const SpeakerView& v, SpeakerMeasures& m) {
     const GcDictionary* dictionary = v.c.options.dictionary;
+    const VerbList* verbFile = v.c.options.verbs;
     if (!dictionary)
         return;
     const size_t roots = static_cast<size_t>(v.c.rootIds().size());
@@ -242,8 +244,13 @@ void fillCategoriesAndVerbs(const SpeakerView& v, SpeakerMeasures& m) {
             if (t.skipped)
                 continue;
             const int id = spelling.root;
-            if (!entries[id])
+            if (!entries[id]) {
                 entries[id] = dictionaryCategories(spelling.word->root(), *dictionary);
+                // A verb of the verb file that the dictionary lacks.
+                if (entries[id]->empty() && verbFile &&
+                    verbFile->contains(v.c.tables.roots.name(id)))
+                    entries[id] = std::vector<int>{GcVerb};
+            }
             std::vector<int> guessed;
             if (entries[id]->empty())
                 guessed = guessCategories(v.c.tables.roots.name(id), t.endingGroups);
