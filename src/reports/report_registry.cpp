@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 
+#include "reports/table_reports.h"
 #include "reports/utterance_types_report.h"
 
 namespace tavi {
@@ -52,6 +53,29 @@ constexpr std::array kReports{
                      DatabaseUse::Optional},
     // Summaries and distribution tables of the Analyze menu.
     // Lists and tables of words, morphemes and codes of the Analyze menu.
+    ReportDefinition{"utterance-lists", "Standard Utterance Lists", "ID_ANAL_SUL", RichText,
+                     buildUtteranceListsReport, true},
+    ReportDefinition{"bound-morphemes", "Bound Morpheme Tables", "ID_ANAL_BM", Grid,
+                     buildBoundMorphemeTable},
+    ReportDefinition{"bound-clitics", "Bound Clitic Tables", "ID_ANAL_CLITIC", Grid,
+                     buildBoundCliticTable},
+    ReportDefinition{"word-roots", "Word Root Tables", "ID_ANAL_WR", Grid, buildWordRootTable},
+    ReportDefinition{"word-lists", "Standard Word Lists", "ID_ANAL_SWL", Grid, buildWordListReport},
+    ReportDefinition{"grammatical-categories", "Grammatical Categories", "ID_ANAL_GC", Grid,
+                     buildGrammaticalCategoryReport},
+    ReportDefinition{"category-lists", "Grammatical Category Lists", "ID_ANAL_GCL", RichText,
+                     buildCategoryListReport},
+    ReportDefinition{"omissions-errors", "Omissions and Error Codes", "ID_ANAL_OMITERR", RichText,
+                     buildOmissionsErrorsReport, true},
+    ReportDefinition{"word-codes", "Word Code Tables", "ID_ANAL_WC", Grid, buildWordCodeTable},
+    ReportDefinition{"utterance-codes", "Utterance Code Tables", "ID_ANAL_UC", Grid,
+                     buildUtteranceCodeTable},
+    ReportDefinition{"fluency-codes", "Fluency Codes and Behaviors", "ID_ANAL_FLUENCY", RichText,
+                     buildFluencyCodesReport, true},
+    ReportDefinition{"nonmainstream-codes", "Nonmainstream-form Codes", "ID_ANAL_NONMAINSTREAM",
+                     RichText, buildNonmainstreamCodesReport, true},
+    ReportDefinition{"code-switch-codes", "Code-switch Codes", "ID_ANAL_CODESWITCH", RichText,
+                     buildCodeSwitchCodesReport, true},
     // Macro analysis: scoring schemes, questions, Subordination Index.
     // Reports against a database (the Database menu).
 };
