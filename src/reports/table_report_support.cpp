@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "base/format.h"
+#include "base/text.h"
 #include "reports/report_header.h"
 #include "settings/measure_settings.h"
 
@@ -43,18 +44,11 @@ std::string utteranceText(const ReportInputs& in, const Utterance& u) {
             return it->text;
     }
     std::string text;
+    appendUtf8(text, u.speakerId);
     for (const Word& w : u.words)
-        text += (text.empty() ? "" : " ") + std::string(w.text());
-    if (u.hasTerminator) {
-        std::u32string mark(1, u.terminatorChar);
-        for (char32_t c : mark) {
-            // The terminators are ASCII but for the Arabic question mark.
-            if (c < 0x80)
-                text += static_cast<char>(c);
-            else
-                text += "\xD8\x9F";
-        }
-    }
+        text += " " + std::string(w.text());
+    if (u.hasTerminator)
+        appendUtf8(text, u.terminatorChar);
     return text;
 }
 

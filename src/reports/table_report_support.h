@@ -31,7 +31,7 @@ struct TableOptions {
 TableOptions tableOptions(const ReportInputs& in);
 
 // The utterance's line as written, when the transcript's lines are known;
-// else its words and terminator put back together.
+// else its speaker, words and terminator put back together.
 std::string utteranceText(const ReportInputs& in, const Utterance& u);
 
 // A report with its title and the standard header lines.

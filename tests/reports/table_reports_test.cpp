@@ -79,14 +79,14 @@ protected:
         analysis_ = analyseText(kSample, analysisContext(settings_, resources));
         lines_ = splitTranscriptLines(kSample);
     }
-    Report build(std::string_view kind, ReportChoices choices = {}) {
+    Report build(std::string_view kind, ReportChoices choices = {}, bool withLines = true) {
         if (!analysis_)
             analyse();
         TranscriptReportRequest request;
         request.kind = kind;
         request.transcriptName = "sample.tvi";
         request.choices = std::move(choices);
-        request.lines = &lines_;
+        request.lines = withLines ? &lines_ : nullptr;
         return buildTranscriptReport(*analysis_, settings_, request);
     }
     int value(std::string_view id) const {
@@ -294,6 +294,9 @@ TEST_F(TableReports, UtteranceListsShowTheChosenListsWithTheirEntries) {
     EXPECT_EQ(chosen.sections[1].title, "Imitations (1)");
     EXPECT_EQ(std::get<LabelledLine>(chosen.sections[1].items[0]).text(), "14:  C what is that?");
     EXPECT_EQ(value("Questions"), 2);
+    // Without the transcript's lines the utterance is put back together.
+    const Report rebuilt = build("utterance-lists", lists({"PQUES"}), false);
+    EXPECT_EQ(std::get<LabelledLine>(rebuilt.sections[0].items[0]).text(), "12:  C what is that?");
     // With the word lists at hand the responses need no note.
     const ReportSection* responses = sectionStarting(all, "Responses to Questions");
     ASSERT_NE(responses, nullptr);
