@@ -68,7 +68,7 @@ protected:
     }
     static void TearDownTestSuite() { resources_.reset(); }
 
-    void analyse(bool withWordLists = true) {
+    void analyse(bool withWordLists = true, std::string_view text = kSample, int speaker = 0) {
         settings_ = sampleSettings(withWordLists);
         auto resources = resources_;
         if (!withWordLists) {
@@ -76,8 +76,10 @@ protected:
             without->dictionary = nullptr;
             resources = without;
         }
-        analysis_ = analyseText(kSample, analysisContext(settings_, resources));
-        lines_ = splitTranscriptLines(kSample);
+        AnalysisRequest request;
+        request.speaker = speaker;
+        analysis_ = analyseText(text, analysisContext(settings_, resources), request);
+        lines_ = splitTranscriptLines(text);
     }
     Report build(std::string_view kind, ReportChoices choices = {}, bool withLines = true) {
         if (!analysis_)
@@ -314,6 +316,36 @@ TEST_F(TableReports, MissingResourcesAreSaidInTheReports) {
               "Standard word lists not available.");
     EXPECT_EQ(std::get<TextLine>(build("grammatical-categories").sections[0].items[0]).text,
               "Grammatical categories not determined - dictionary not available.");
+}
+
+// The same agreements on the bundled samples, for both speakers.
+TEST_F(TableReports, TotalsAgreeWithTheMeasuresOnTheSamples) {
+    for (const char* name : {"conversation-age5", "story-age7", "expository-age10"}) {
+        std::string text;
+        ASSERT_TRUE(readFile(kData / "samples" / (std::string(name) + ".tvi"), text));
+        for (int speaker : {0, 1}) {
+            SCOPED_TRACE(std::string(name) + " speaker " + std::to_string(speaker + 1));
+            analyse(true, text, speaker);
+            const ReportTable morphemes = tableOf(build("bound-morphemes"));
+            EXPECT_EQ(cellNumber(morphemes, "Total"), value("BoundMorphs"));
+            EXPECT_EQ(static_cast<int>(morphemes.rows.size()) - 1, value("DiffBM"));
+            EXPECT_EQ(cellNumber(tableOf(build("bound-clitics")), "Total"), value("BoundClitics"));
+            const ReportTable roots = tableOf(build("word-roots"));
+            EXPECT_EQ(cellNumber(roots, "Total"), value("NTW"));
+            EXPECT_EQ(static_cast<int>(roots.rows.size()) - 1, value("NDW"));
+            const Report errors = build("omissions-errors");
+            EXPECT_EQ(std::stoi(lineValue(errors, "Utterances with Error Codes")),
+                      value("UtWErrCode"));
+            EXPECT_EQ(std::stoi(lineValue(errors, "Word-level Error Codes")), value("ErrCodesWd"));
+            EXPECT_EQ(std::stoi(lineValue(errors, "Omitted Words")), value("OmitWd"));
+            EXPECT_EQ(std::stoi(lineValue(build("word-codes"), "Utterances with Word Codes")),
+                      value("UttwWdCode"));
+            const ReportTable lists = tableOf(build("word-lists"));
+            for (size_t k = 0; k < kStandardWordLists.size(); ++k)
+                EXPECT_EQ(std::stoi(lists.rows[2 * k + 1].cells[0]),
+                          value(kStandardWordLists[k].totalColumn));
+        }
+    }
 }
 
 // Every report of the table, written in every text format: nothing throws,
