@@ -53,9 +53,17 @@ std::optional<int> utteranceListIndex(std::string_view key) {
 Report buildUtteranceListsReport(const ReportInputs& in) {
     Report report = tableReportStart(in, in.labels("RL_SUL"));
     std::vector<int> chosen;
-    for (const std::string& key : in.choices.utteranceLists)
+    std::string unknown;
+    for (const std::string& key : in.choices.utteranceLists) {
         if (auto k = utteranceListIndex(key))
             chosen.push_back(*k);
+        else
+            unknown += (unknown.empty() ? "" : ", ") + key;
+    }
+    if (!unknown.empty())
+        report.sections.push_back(
+            {"",
+             {TextLine{"Unknown utterance lists: " + unknown + " (the lists are PRIP to PINTR)"}}});
     if (chosen.empty())
         for (int k = 0; k < kUtteranceLists; ++k)
             chosen.push_back(k);

@@ -296,6 +296,12 @@ TEST_F(TableReports, UtteranceListsShowTheChosenListsWithTheirEntries) {
     EXPECT_EQ(chosen.sections[1].title, "Imitations (1)");
     EXPECT_EQ(std::get<LabelledLine>(chosen.sections[1].items[0]).text(), "14:  C what is that?");
     EXPECT_EQ(value("Questions"), 2);
+    // An unknown key is said; the known ones are shown.
+    const Report typo = build("utterance-lists", lists({"PQUES", "PQUEST"}));
+    ASSERT_EQ(typo.sections.size(), 2u);
+    EXPECT_EQ(std::get<TextLine>(typo.sections[0].items[0]).text,
+              "Unknown utterance lists: PQUEST (the lists are PRIP to PINTR)");
+    EXPECT_EQ(typo.sections[1].title, "Questions (2)");
     // Without the transcript's lines the utterance is put back together.
     const Report rebuilt = build("utterance-lists", lists({"PQUES"}), false);
     EXPECT_EQ(std::get<LabelledLine>(rebuilt.sections[0].items[0]).text(), "12:  C what is that?");
