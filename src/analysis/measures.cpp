@@ -15,9 +15,7 @@ std::string SpeakerMeasures::formatted(MeasureId id) const {
     return formatValue((*this)[id], measureFormat(id));
 }
 
-namespace {
-
-CodeMatchers matchersFor(const MeasureOptions& o) {
+CodeMatchers codeMatchersFor(const MeasureOptions& o) {
     CodeMatchers m;
     m.errors = CodeMatcher(o.codeLists.errors);
     m.fluency = CodeMatcher(o.codeLists.fluency);
@@ -28,6 +26,8 @@ CodeMatchers matchersFor(const MeasureOptions& o) {
         CodeMatcher(o.wordBase.includeMode ? o.wordBase.includeCodes : o.wordBase.excludeCodes);
     return m;
 }
+
+namespace {
 
 YesNoTest yesNoTest(const MeasureOptions& o) {
     if (!o.wordLists || o.wordLists->empty(o.wordListSet, kYesNoList))
@@ -47,7 +47,7 @@ MeasureResult computeMeasures(const SegmentedTranscript& transcript,
     result.wordListsAvailable = static_cast<bool>(yesNoTest(options));
     result.categoriesAvailable = options.dictionary != nullptr;
 
-    MeasureContext c{transcript, options, result.selection, {}, matchersFor(options), {}};
+    MeasureContext c{transcript, options, result.selection, {}, codeMatchersFor(options), {}};
     c.facts.resize(transcript.utterances.size());
     // Room for every word, remark word and code record: a run that doubles as
     // it grows needs thrice.

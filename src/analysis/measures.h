@@ -25,6 +25,7 @@ namespace tavi {
 
 class StandardWordLists; // analysis/word_lists.h
 class GcDictionary;      // analysis/gc_dictionary.h
+class VerbList;          // analysis/verb_list.h
 
 inline constexpr int kMinWindow = 10;
 inline constexpr int kMaxWindow = 999;
@@ -50,6 +51,8 @@ struct MeasureOptions {
 
     // Grammatical-category dictionary. Null: categories and verb measures missing.
     const GcDictionary* dictionary = nullptr;
+    // Verb file. Null: a word the dictionary lacks is a verb only by its form.
+    const VerbList* verbs = nullptr;
 
     // Utterance-length distribution: "DIST MORPH" / "DIST WORD", "DIST ASET" / "DIST TOTAL".
     bool distributionInMorphemes = false;

@@ -12,6 +12,7 @@
 #include "analysis/gc_dictionary.h"
 #include "analysis/grammatical_categories.h"
 #include "analysis/measure_context.h"
+#include "analysis/verb_list.h"
 #include "analysis/word_forms.h"
 #include "analysis/word_lists.h"
 #include "transcript/bound_morphemes.h"
@@ -238,6 +239,7 @@ void fillWordLists(const SpeakerView& v, SpeakerMeasures& m) {
 
 void fillCategoriesAndVerbs(const SpeakerView& v, SpeakerMeasures& m) {
     const GcDictionary* dictionary = v.c.options.dictionary;
+    const VerbList* verbFile = v.c.options.verbs;
     if (!dictionary)
         return;
     const size_t roots = static_cast<size_t>(v.c.rootIds().size());
@@ -259,8 +261,13 @@ void fillCategoriesAndVerbs(const SpeakerView& v, SpeakerMeasures& m) {
             const int id = spelling.root;
             std::optional<std::vector<int>>& known = bySpelling[w.spelling];
             if (!known) {
-                if (!entries[id])
+                if (!entries[id]) {
                     entries[id] = dictionaryCategories(spelling.word->root(), *dictionary);
+                    // A verb of the verb file that the dictionary lacks.
+                    if (entries[id]->empty() && verbFile &&
+                        verbFile->contains(v.c.tables.roots.name(id)))
+                        entries[id] = std::vector<int>{GcVerb};
+                }
                 known = entries[id]->empty()
                             ? guessCategories(v.c.tables.roots.name(id), t.endingGroups)
                             : *entries[id];

@@ -23,6 +23,10 @@ struct CodeMatchers {
     CodeMatcher wordBase; // the word base's exclude or include list
 };
 
+struct MeasureOptions;
+// The matchers of the code lists, analysis set and word base of `options`.
+CodeMatchers codeMatchersFor(const MeasureOptions& options);
+
 // Counts of one kind of code in an utterance.
 struct CodeTally {
     int onWords = 0;

@@ -60,7 +60,7 @@ enum class CommandStatus { Working, Unavailable };
     X(ID_ANAL_SMR, Working) \
     X(ID_ANAL_PERF, Working) \
     X(ID_ANAL_UTT_TYPES, Working) \
-    X(ID_ANAL_SUL, Unavailable) \
+    X(ID_ANAL_SUL, Working) \
     X(ID_ANAL_NSS, Unavailable) \
     X(ID_ANAL_ESS, Unavailable) \
     X(ID_ANAL_PSS, Unavailable) \
@@ -68,26 +68,26 @@ enum class CommandStatus { Working, Unavailable };
     X(ID_ANAL_CQ, Unavailable) \
     X(ID_ANAL_SYNTAX, Working) \
     X(ID_ANAL_DIST, Working) \
-    X(ID_ANAL_BM, Unavailable) \
-    X(ID_ANAL_CLITIC, Unavailable) \
+    X(ID_ANAL_BM, Working) \
+    X(ID_ANAL_CLITIC, Working) \
     X(ID_ANAL_SI, Unavailable) \
     X(ID_ANAL_SEMANTICS, Working) \
-    X(ID_ANAL_WR, Unavailable) \
-    X(ID_ANAL_SWL, Unavailable) \
-    X(ID_ANAL_GC, Unavailable) \
-    X(ID_ANAL_GCL, Unavailable) \
+    X(ID_ANAL_WR, Working) \
+    X(ID_ANAL_SWL, Working) \
+    X(ID_ANAL_GC, Working) \
+    X(ID_ANAL_GCL, Working) \
     X(ID_ANAL_DISCOURSE, Working) \
     X(ID_ANAL_TURNS, Working) \
     X(ID_ANAL_FACILITY, Working) \
     X(ID_ANAL_MAZES, Working) \
     X(ID_ANAL_ERRORS, Working) \
-    X(ID_ANAL_OMITERR, Unavailable) \
+    X(ID_ANAL_OMITERR, Working) \
     X(ID_ANAL_CODES, Working) \
-    X(ID_ANAL_WC, Unavailable) \
-    X(ID_ANAL_UC, Unavailable) \
-    X(ID_ANAL_FLUENCY, Unavailable) \
-    X(ID_ANAL_NONMAINSTREAM, Unavailable) \
-    X(ID_ANAL_CODESWITCH, Unavailable) \
+    X(ID_ANAL_WC, Working) \
+    X(ID_ANAL_UC, Working) \
+    X(ID_ANAL_FLUENCY, Working) \
+    X(ID_ANAL_NONMAINSTREAM, Working) \
+    X(ID_ANAL_CODESWITCH, Working) \
     X(ID_ANAL_CUSTOM_PDF, Working) \
     X(ID_DB_SELECT, Working) \
     X(ID_DB_SMR, Working) \

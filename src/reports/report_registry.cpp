@@ -14,6 +14,7 @@
 #include "reports/syntax_summary_report.h"
 #include "reports/turn_distribution_report.h"
 #include "reports/utterance_distribution_report.h"
+#include "reports/table_reports.h"
 #include "reports/utterance_types_report.h"
 #include "reports/verbal_facility_report.h"
 
@@ -83,6 +84,29 @@ constexpr std::array kReports{
     ReportDefinition{"custom-pdf", "Create Customized PDF Report", "ID_ANAL_CUSTOM_PDF", RichText,
                      buildCustomContents, true, DatabaseUse::Optional},
     // Lists and tables of words, morphemes and codes of the Analyze menu.
+    ReportDefinition{"utterance-lists", "Standard Utterance Lists", "ID_ANAL_SUL", RichText,
+                     buildUtteranceListsReport, true},
+    ReportDefinition{"bound-morphemes", "Bound Morpheme Tables", "ID_ANAL_BM", Grid,
+                     buildBoundMorphemeTable},
+    ReportDefinition{"bound-clitics", "Bound Clitic Tables", "ID_ANAL_CLITIC", Grid,
+                     buildBoundCliticTable},
+    ReportDefinition{"word-roots", "Word Root Tables", "ID_ANAL_WR", Grid, buildWordRootTable},
+    ReportDefinition{"word-lists", "Standard Word Lists", "ID_ANAL_SWL", Grid, buildWordListReport},
+    ReportDefinition{"grammatical-categories", "Grammatical Categories", "ID_ANAL_GC", Grid,
+                     buildGrammaticalCategoryReport},
+    ReportDefinition{"category-lists", "Grammatical Category Lists", "ID_ANAL_GCL", RichText,
+                     buildCategoryListReport},
+    ReportDefinition{"omissions-errors", "Omissions and Error Codes", "ID_ANAL_OMITERR", RichText,
+                     buildOmissionsErrorsReport, true},
+    ReportDefinition{"word-codes", "Word Code Tables", "ID_ANAL_WC", Grid, buildWordCodeTable},
+    ReportDefinition{"utterance-codes", "Utterance Code Tables", "ID_ANAL_UC", Grid,
+                     buildUtteranceCodeTable},
+    ReportDefinition{"fluency-codes", "Fluency Codes and Behaviors", "ID_ANAL_FLUENCY", RichText,
+                     buildFluencyCodesReport, true},
+    ReportDefinition{"nonmainstream-codes", "Nonmainstream-form Codes", "ID_ANAL_NONMAINSTREAM",
+                     RichText, buildNonmainstreamCodesReport, true},
+    ReportDefinition{"code-switch-codes", "Code-switch Codes", "ID_ANAL_CODESWITCH", RichText,
+                     buildCodeSwitchCodesReport, true},
     // Macro analysis: scoring schemes, questions, Subordination Index.
     // Reports against a database (the Database menu).
 };

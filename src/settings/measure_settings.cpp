@@ -1,6 +1,7 @@
 // Building checker and measure options and resources from the settings.
 #include "settings/measure_settings.h"
 
+#include "base/file_io.h"
 #include "base/prompter.h"
 #include "base/text.h"
 
@@ -80,10 +81,15 @@ MeasureOptions measureOptionsFrom(const Settings& s) {
 void MeasureResources::attach(MeasureOptions& options) const {
     options.wordLists = wordListsFound ? &wordLists : nullptr;
     options.dictionary = dictionary.get();
+    options.verbs = verbs.get();
 }
 
 std::string dictionaryPath(const Settings& s) {
     return s.folders.sharedData + "GC/GCDictionaryFile.txt";
+}
+
+std::string verbFilePath(const Settings& s) {
+    return s.folders.sharedData + "verbs.txt";
 }
 
 MeasureResources loadMeasureResources(const Settings& s, Prompter& prompter) {
@@ -101,6 +107,10 @@ MeasureResources loadMeasureResources(const Settings& s, Prompter& prompter) {
     auto dictionary = std::make_unique<GcDictionary>();
     if (dictionary->loadFile(dictionaryPath(s), prompter))
         r.dictionary = std::move(dictionary);
+    if (std::string text; readFile(verbFilePath(s), text))
+        r.verbs = std::make_unique<VerbList>(VerbList::parse(text));
+    else
+        prompter.inform("Unable to open RIF verb file");
     return r;
 }
 

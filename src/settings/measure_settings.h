@@ -9,6 +9,7 @@
 
 #include "analysis/gc_dictionary.h"
 #include "analysis/measures.h"
+#include "analysis/verb_list.h"
 #include "analysis/word_lists.h"
 #include "settings/settings.h"
 #include "transcript/checker.h"
@@ -33,14 +34,16 @@ struct MeasureResources {
     StandardWordLists wordLists;
     bool wordListsFound = false;
     std::unique_ptr<GcDictionary> dictionary; // null when the file is missing
+    std::unique_ptr<VerbList> verbs;          // null when the verb file is missing
 
     // Points the options at whatever was found.
     void attach(MeasureOptions& options) const;
 };
 
 std::string dictionaryPath(const Settings& settings);
+std::string verbFilePath(const Settings& settings);
 
-// Loads both; a missing file is reported through the prompter with the
+// Loads them all; a missing file is reported through the prompter with the
 // system's message and leaves that resource off.
 MeasureResources loadMeasureResources(const Settings& settings, Prompter& prompter);
 
