@@ -35,8 +35,14 @@ SmrDatabase smrDatabase(const db::PeerSnapshot& snapshot, const SpeakerMeasures&
         column.mean = stat.mean;
         if (stat.hasSd)
             column.sd = stat.sd;
-        auto comparison = snapshot.compare(*id, measures[*id].number());
+        column.min = stat.min;
+        column.max = stat.max;
+        column.n = stat.n;
+        column.value = measures[*id].number();
+        auto comparison = snapshot.compare(*id, column.value);
         column.differs = comparison && comparison->differs();
+        if (comparison)
+            column.standing = comparison->standing;
         return column;
     };
     return database;

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <array>
 
+#include "reports/db_summary_reports.h"
+#include "reports/quick_look_report.h"
 #include "reports/utterance_types_report.h"
 
 namespace tavi {
@@ -54,6 +56,29 @@ constexpr std::array kReports{
     // Lists and tables of words, morphemes and codes of the Analyze menu.
     // Macro analysis: scoring schemes, questions, Subordination Index.
     // Reports against a database (the Database menu).
+    ReportDefinition{"quick-look", "Quick Look", "ID_DB_QUICK", RichText, buildQuickLookReport,
+                     false, DatabaseUse::Required},
+    ReportDefinition{"length-intelligibility", "Transcript Length & Intelligibility",
+                     "ID_DB_LENGTH", RichText, buildDbLengthReport, false, DatabaseUse::Required},
+    ReportDefinition{"db-syntax-summary", "Syntax/Morphology Summary (database)", "ID_DB_SYNTAX",
+                     RichText, buildDbSyntaxReport, false, DatabaseUse::Required},
+    ReportDefinition{"db-utterance-distribution", "Utterance Distribution Tables (database)",
+                     "ID_DB_DIST", RichText, buildDbDistributionReport, false,
+                     DatabaseUse::Required},
+    ReportDefinition{"db-semantics-summary", "Semantics Summary (database)", "ID_DB_SEMANTICS",
+                     RichText, buildDbSemanticsReport, false, DatabaseUse::Required},
+    ReportDefinition{"db-grammatical-categories", "Grammatical Categories (database)", "ID_DB_GC",
+                     RichText, buildDbCategoriesReport, false, DatabaseUse::Required},
+    ReportDefinition{"db-discourse-summary", "Discourse Summary (database)", "ID_DB_DISCOURSE",
+                     RichText, buildDbDiscourseReport, false, DatabaseUse::Required},
+    ReportDefinition{"db-turn-distribution", "Turn Length Distribution Tables (database)",
+                     "ID_DB_TURNS", RichText, buildDbTurnsReport, false, DatabaseUse::Required},
+    ReportDefinition{"db-facility-summary", "Verbal Facility Summary (database)", "ID_DB_FACILITY",
+                     RichText, buildDbFacilityReport, false, DatabaseUse::Required},
+    ReportDefinition{"db-maze-distribution", "Maze Distribution Tables (database)", "ID_DB_MAZES",
+                     RichText, buildDbMazesReport, false, DatabaseUse::Required},
+    ReportDefinition{"db-errors-summary", "Errors Summary (database)", "ID_DB_ERRORS", RichText,
+                     buildDbErrorsReport, false, DatabaseUse::Required},
 };
 // clang-format on
 
