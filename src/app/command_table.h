@@ -110,9 +110,9 @@ enum class CommandStatus { Working, Unavailable };
     X(ID_DB_FACILITY, Working) \
     X(ID_DB_MAZES, Working) \
     X(ID_DB_ERRORS, Working) \
-    X(ID_DB_EXPLORE_WC, Unavailable) \
-    X(ID_DB_EXPLORE_PLUS, Unavailable) \
-    X(ID_DB_CUSTOM_PDF, Unavailable) \
+    X(ID_DB_EXPLORE_WC, Working) \
+    X(ID_DB_EXPLORE_PLUS, Working) \
+    X(ID_DB_CUSTOM_PDF, Working) \
     X(ID_EXPLORE_LIST, Unavailable) \
     X(ID_EXPLORE_FIND, Unavailable) \
     X(ID_EXPLORE_INSERT, Unavailable) \

@@ -5,7 +5,9 @@
 #include <algorithm>
 #include <array>
 
+#include "reports/db_custom_report.h"
 #include "reports/db_summary_reports.h"
+#include "reports/explore_db_reports.h"
 #include "reports/quick_look_report.h"
 #include "reports/utterance_types_report.h"
 
@@ -79,6 +81,12 @@ constexpr std::array kReports{
                      RichText, buildDbMazesReport, false, DatabaseUse::Required},
     ReportDefinition{"db-errors-summary", "Errors Summary (database)", "ID_DB_ERRORS", RichText,
                      buildDbErrorsReport, false, DatabaseUse::Required},
+    ReportDefinition{"explore-words-codes", "Explore Words & Codes", "ID_DB_EXPLORE_WC",
+                     RichText, buildExploreWordsCodesReport, false, DatabaseUse::Required},
+    ReportDefinition{"explore-plus-lines", "Explore Plus Line Values", "ID_DB_EXPLORE_PLUS",
+                     RichText, buildExplorePlusLinesReport, false, DatabaseUse::Required},
+    ReportDefinition{"db-custom-pdf", "Customized Database Report", "ID_DB_CUSTOM_PDF", RichText,
+                     buildDbCustomReport, true, DatabaseUse::Required},
 };
 // clang-format on
 
