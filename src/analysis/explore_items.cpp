@@ -1,6 +1,7 @@
 // Counting named words and codes, and reading "+" line values.
 #include "analysis/explore_items.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 
@@ -19,6 +20,23 @@ bool matches(std::string_view text, std::string_view pattern) {
 }
 
 } // namespace
+
+std::vector<std::string> wordListFileItems(std::string_view text) {
+    std::vector<std::string> items;
+    for (std::string_view line : splitLines(text)) {
+        line = trim(line);
+        if (line.empty() || line.front() == ';')
+            continue;
+        std::size_t at = 0;
+        while (at < line.size()) {
+            const std::size_t end = std::min(line.find_first_of(" \t,", at), line.size());
+            if (end > at)
+                items.emplace_back(line.substr(at, end - at));
+            at = end + 1;
+        }
+    }
+    return items;
+}
 
 bool isCodeItem(std::string_view item) {
     return item.size() >= 2 && item.front() == '[' && item.back() == ']';

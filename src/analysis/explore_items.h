@@ -24,6 +24,10 @@ bool isCodeItem(std::string_view item);
 int countItem(const SegmentedTranscript& transcript, std::span<const int> utterances,
               std::string_view item);
 
+// The items of an explore word list file ("*.LST"): words and codes on
+// lines, separated by blanks or commas; a line starting with ";" is a note.
+std::vector<std::string> wordListFileItems(std::string_view text);
+
 // The number a "+" header line starts its value with ("+ Score: 12 of 20"
 // gives 12), the keyword matched ignoring case; empty when the line is
 // missing or its value does not start with a number.

@@ -177,7 +177,7 @@ enum class CommandStatus { Working, Unavailable };
     X(ID_HELP_FINDER, Working) \
     X(ID_CONTEXT_HELP, Working) \
     X(ID_HELP_BOOK, Unavailable) \
-    X(ID_HELP_GRAPHS, Unavailable) \
+    X(ID_HELP_GRAPHS, Working) \
     X(ID_HELP_ONLINE, Unavailable) \
     X(ID_HELP_ACROBAT, Unavailable) \
     X(ID_HELP_README, Working) \

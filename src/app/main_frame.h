@@ -107,6 +107,7 @@ private:
     void databaseSelect();
     const db::PeerSnapshot* compareWithDatabase(CTAVIDoc& doc, TranscriptAnalysis& analysis);
     void databaseReport(std::string_view kind);
+    void showNormativeGraph();
     // Reports
     QPageLayout pdfLayout() const;
     // Link

@@ -43,6 +43,13 @@ ReportContent makeReport(CTAVIApp& app, std::string_view kind, const TranscriptA
         const std::string date = todayText(app.analysisContext());
         request.database = smrDatabase(*source.peers, analysis.measures(), date);
         request.performancePeers = performancePeers(*source.peers, date);
+        const ExploreNeeds needs = exploreNeeds(kind, source.choices);
+        if (source.peerDatabase && (needs.items || needs.plusLines)) {
+            NoProgress progress;
+            addExploreColumns(*request.database, *source.peerDatabase, *source.peers, analysis,
+                              app.analysisContext(), source.choices, needs, app.prompter(),
+                              progress);
+        }
     }
     return reportContent(buildTranscriptReport(analysis, app.settings(), request));
 }

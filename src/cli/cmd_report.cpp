@@ -5,6 +5,7 @@
 #include <ostream>
 #include <string>
 
+#include "analysis/explore_items.h"
 #include "base/file_io.h"
 #include "base/text.h"
 #include "batch/peer_report_inputs.h"
@@ -69,23 +70,6 @@ std::vector<std::string> commaList(std::string_view text) {
     return items;
 }
 
-// The items of a word list file: blank- or comma-separated, lines starting
-// with ";" left out.
-std::vector<std::string> wordListItems(std::string_view text) {
-    std::vector<std::string> items;
-    for (std::string_view line : splitLines(text)) {
-        line = trim(line);
-        if (line.empty() || line.front() == ';')
-            continue;
-        std::string separated(line);
-        std::ranges::replace(separated, ' ', ',');
-        std::ranges::replace(separated, '\t', ',');
-        for (std::string& item : commaList(separated))
-            items.push_back(std::move(item));
-    }
-    return items;
-}
-
 // The choices a report's flags make; false (after saying why) on a bad value.
 bool readChoices(const cli::Args& args, std::ostream& err, ReportChoices& choices) {
     if (auto lists = args.value("--lists"))
@@ -108,7 +92,7 @@ bool readChoices(const cli::Args& args, std::ostream& err, ReportChoices& choice
             err << "tavi report: cannot read word list file " << *listFile << '\n';
             return false;
         }
-        for (std::string& item : wordListItems(text))
+        for (std::string& item : wordListFileItems(text))
             choices.exploreItems.push_back(std::move(item));
     }
     if (auto lines = args.value("--plus-lines"))

@@ -121,20 +121,25 @@ std::string writeBytes(const std::filesystem::path& path, const QByteArray& byte
 
 } // namespace
 
+QImage normativeGraphImage(const NormativeGraph& graph, double scale) {
+    ensureGuiApplication();
+    const GraphCanvas canvas = graphCanvas(graph);
+    QImage image(static_cast<int>(canvas.width * scale), static_cast<int>(canvas.height * scale),
+                 QImage::Format_ARGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.scale(scale, scale);
+    drawGraph(painter, graph, canvas);
+    return image;
+}
+
 std::string saveNormativeGraph(const NormativeGraph& graph, const std::filesystem::path& path) {
     ensureGuiApplication();
     const GraphCanvas canvas = graphCanvas(graph);
     const std::string ext = toLowerAscii(path.extension().string());
     QByteArray bytes;
     if (ext == ".png") {
-        QImage image(static_cast<int>(canvas.width * 2), static_cast<int>(canvas.height * 2),
-                     QImage::Format_ARGB32);
-        image.fill(Qt::white);
-        {
-            QPainter painter(&image);
-            painter.scale(2, 2);
-            drawGraph(painter, graph, canvas);
-        }
+        const QImage image = normativeGraphImage(graph, 2.0);
         QBuffer buffer(&bytes);
         buffer.open(QIODevice::WriteOnly);
         image.save(&buffer, "PNG");

@@ -5,6 +5,8 @@
 #include <filesystem>
 #include <string>
 
+#include <QtGui/QImage>
+
 #include "reports/normative_graph.h"
 
 namespace tavi::qt {
@@ -13,6 +15,9 @@ namespace tavi::qt {
 inline constexpr const char* kGraphSampleColour = "#4a6fa5";
 inline constexpr const char* kGraphTargetColour = "#d62728";
 inline constexpr double kGraphTargetRadius = 7.0;
+
+// The graph as an image, `scale` pixels per canvas unit.
+QImage normativeGraphImage(const NormativeGraph& graph, double scale = 1.0);
 
 // Writes the graph; "" or a message ("unknown graph format .x (use .svg,
 // .png or .pdf)", "cannot write to file").
