@@ -55,128 +55,125 @@ std::vector<DbLine> categoryRows(const char* suffix) {
     return rows;
 }
 
-} // namespace
-
-Report buildDbLengthReport(const ReportInputs& in) {
-    return buildDbComparisonReport(in, "Database Transcript Length and Intelligibility Summary",
-                                   {{"TRANSCRIPT LENGTH",
-                                     {{"TotNumUt", "RL_NUMUTTT"},
-                                      {"TotASetUt", "RL_NUMUTTA"},
-                                      {"TotVerbalUt", "Verbal utterances"},
-                                      {"NonVerbalUt", "Nonverbal utterances"},
-                                      {"AllWords", "RL_ALLWDSINCLMZ"},
-                                      {"NTW", "RL_NTW"},
-                                      {"TimeMin", "Elapsed time (minutes)"}}},
-                                    {"INTELLIGIBILITY",
-                                     {{"UnintelUt", "Unintelligible utterances"},
-                                      {"PartIntelUt", "Partly intelligible utterances"},
-                                      {"%IntelUt", "RL_PCINTEL"},
-                                      {"%IntelWd", "RL_PCINTELWDS"}}}});
+DbSummary DbLengthSummary() {
+    return DbSummary{"Database Transcript Length and Intelligibility Summary",
+                     {{"TRANSCRIPT LENGTH",
+                       {{"TotNumUt", "RL_NUMUTTT"},
+                        {"TotASetUt", "RL_NUMUTTA"},
+                        {"TotVerbalUt", "Verbal utterances"},
+                        {"NonVerbalUt", "Nonverbal utterances"},
+                        {"AllWords", "RL_ALLWDSINCLMZ"},
+                        {"NTW", "RL_NTW"},
+                        {"TimeMin", "Elapsed time (minutes)"}}},
+                      {"INTELLIGIBILITY",
+                       {{"UnintelUt", "Unintelligible utterances"},
+                        {"PartIntelUt", "Partly intelligible utterances"},
+                        {"%IntelUt", "RL_PCINTEL"},
+                        {"%IntelWd", "RL_PCINTELWDS"}}}}};
 }
 
-Report buildDbSyntaxReport(const ReportInputs& in) {
-    return buildDbComparisonReport(in, "Database Syntax/Morphology Summary",
-                                   {{"SYNTAX/MORPHOLOGY",
-                                     {{"MLUw", "RL_MLUW"},
-                                      {"MLUm", "RL_MLUM"},
-                                      {"MLUwTot", "MLU in words, all utterances"},
-                                      {"MLUmTot", "MLU in morphemes, all utterances"},
-                                      {"%UtWVerb", "RL_GCPCVERBS"},
-                                      {"VPU", "RL_GCVERBS"},
-                                      {"%UtWNMForms", "RL_PCNMFC"},
-                                      {"UttWithNMForms", "Utterances with non-standard forms"},
-                                      {"BoundMorphs", "Bound morphemes"},
-                                      {"BoundClitics", "Bound clitics"},
-                                      {"OneWdUt", "One-word utterances"}}},
-                                    {"OMISSIONS",
-                                     {{"OmitWd", "Omitted words"},
-                                      {"OmitBm", "Omitted bound morphemes"},
-                                      {"OmitCl", "Omitted clitics"}}}});
+DbSummary DbSyntaxSummary() {
+    return DbSummary{"Database Syntax/Morphology Summary",
+                     {{"SYNTAX/MORPHOLOGY",
+                       {{"MLUw", "RL_MLUW"},
+                        {"MLUm", "RL_MLUM"},
+                        {"MLUwTot", "MLU in words, all utterances"},
+                        {"MLUmTot", "MLU in morphemes, all utterances"},
+                        {"%UtWVerb", "RL_GCPCVERBS"},
+                        {"VPU", "RL_GCVERBS"},
+                        {"%UtWNMForms", "RL_PCNMFC"},
+                        {"UttWithNMForms", "Utterances with non-standard forms"},
+                        {"BoundMorphs", "Bound morphemes"},
+                        {"BoundClitics", "Bound clitics"},
+                        {"OneWdUt", "One-word utterances"}}},
+                      {"OMISSIONS",
+                       {{"OmitWd", "Omitted words"},
+                        {"OmitBm", "Omitted bound morphemes"},
+                        {"OmitCl", "Omitted clitics"}}}}};
 }
 
-Report buildDbDistributionReport(const ReportInputs& in) {
-    return buildDbComparisonReport(
-        in, "Database Utterance Distribution Tables",
-        {{"ANALYSIS-SET UTTERANCES BY LENGTH", distributionRows("UtbyUL", 0, 15, "UtbyULTot")}});
+DbSummary DbDistributionSummary() {
+    return DbSummary{
+        "Database Utterance Distribution Tables",
+        {{"ANALYSIS-SET UTTERANCES BY LENGTH", distributionRows("UtbyUL", 0, 15, "UtbyULTot")}}};
 }
 
-Report buildDbSemanticsReport(const ReportInputs& in) {
-    return buildDbComparisonReport(in, "Database Semantics Summary",
-                                   {{"SEMANTICS",
-                                     {{"NTW", "RL_NTW"},
-                                      {"NDW", "RL_NDW"},
-                                      {"TTR", "Type Token Ratio"},
-                                      {"DiffBM", "Different bound morphemes"},
-                                      {"MA_NTW", "Moving-Average NTW"},
-                                      {"MA_NDW", "Moving-Average NDW"},
-                                      {"MA_TTR", "Moving-Average TTR"}}},
-                                    {"WORD LISTS (TOKENS)",
-                                     {{"QuesTot", "Question words"},
-                                      {"NegTot", "Negatives"},
-                                      {"ConjTot", "Conjunctions"},
-                                      {"CoreModalTot", "Core modals"},
-                                      {"MarModalTot", "Marginal modals"},
-                                      {"PersPrnTot", "Personal pronouns"},
-                                      {"PossPrnTot", "Possessive pronouns"},
-                                      {"ReflPrnTot", "Reflexive pronouns"},
-                                      {"DemoPrnTot", "Demonstrative pronouns"},
-                                      {"RelPrnTot", "Relative pronouns"}}}});
+DbSummary DbSemanticsSummary() {
+    return DbSummary{"Database Semantics Summary",
+                     {{"SEMANTICS",
+                       {{"NTW", "RL_NTW"},
+                        {"NDW", "RL_NDW"},
+                        {"TTR", "Type Token Ratio"},
+                        {"DiffBM", "Different bound morphemes"},
+                        {"MA_NTW", "Moving-Average NTW"},
+                        {"MA_NDW", "Moving-Average NDW"},
+                        {"MA_TTR", "Moving-Average TTR"}}},
+                      {"WORD LISTS (TOKENS)",
+                       {{"QuesTot", "Question words"},
+                        {"NegTot", "Negatives"},
+                        {"ConjTot", "Conjunctions"},
+                        {"CoreModalTot", "Core modals"},
+                        {"MarModalTot", "Marginal modals"},
+                        {"PersPrnTot", "Personal pronouns"},
+                        {"PossPrnTot", "Possessive pronouns"},
+                        {"ReflPrnTot", "Reflexive pronouns"},
+                        {"DemoPrnTot", "Demonstrative pronouns"},
+                        {"RelPrnTot", "Relative pronouns"}}}}};
 }
 
-Report buildDbCategoriesReport(const ReportInputs& in) {
-    return buildDbComparisonReport(
-        in, "Database Grammatical Categories",
-        {{"TOKENS", categoryRows("Tot")}, {"TYPES", categoryRows("Typ")}});
+DbSummary DbCategoriesSummary() {
+    return DbSummary{"Database Grammatical Categories",
+                     {{"TOKENS", categoryRows("Tot")}, {"TYPES", categoryRows("Typ")}}};
 }
 
-Report buildDbDiscourseReport(const ReportInputs& in) {
-    return buildDbComparisonReport(in, "Database Discourse Summary",
-                                   {{"TURNS",
-                                     {{"MeanTurnUt", "Mean turn length (utterances)"},
-                                      {"MeanTurnWd", "Mean turn length (words)"},
-                                      {"MedTurnUt", "Median turn length (utterances)"},
-                                      {"MedTurnWd", "Median turn length (words)"}}},
-                                    {"RESPONSES",
-                                     {{"%RespQues", "RL_PCRQU"},
-                                      {"%RespToIntPrmpt", "% Responses to intonational prompts"},
-                                      {"Imitations", "Imitations"},
-                                      {"SponUt", "Spontaneous utterances"}}},
-                                    {"OVERLAPS AND INTERRUPTIONS",
-                                     {{"%UtWOverlap", "RL_PCULOV"},
-                                      {"%IntrOthSpk", "RL_PCINTROS"},
-                                      {"%WdsMention1st", "% Words mentioned first"}}}});
+DbSummary DbDiscourseSummary() {
+    return DbSummary{"Database Discourse Summary",
+                     {{"TURNS",
+                       {{"MeanTurnUt", "Mean turn length (utterances)"},
+                        {"MeanTurnWd", "Mean turn length (words)"},
+                        {"MedTurnUt", "Median turn length (utterances)"},
+                        {"MedTurnWd", "Median turn length (words)"}}},
+                      {"RESPONSES",
+                       {{"%RespQues", "RL_PCRQU"},
+                        {"%RespToIntPrmpt", "% Responses to intonational prompts"},
+                        {"Imitations", "Imitations"},
+                        {"SponUt", "Spontaneous utterances"}}},
+                      {"OVERLAPS AND INTERRUPTIONS",
+                       {{"%UtWOverlap", "RL_PCULOV"},
+                        {"%IntrOthSpk", "RL_PCINTROS"},
+                        {"%WdsMention1st", "% Words mentioned first"}}}}};
 }
 
-Report buildDbTurnsReport(const ReportInputs& in) {
-    return buildDbComparisonReport(
-        in, "Database Turn Length Distribution Tables",
+DbSummary DbTurnsSummary() {
+    return DbSummary{
+        "Database Turn Length Distribution Tables",
         {{"TURNS BY LENGTH IN UTTERANCES", distributionRows("TurnByTLUt", 1, 6, "TurnByTLUtTot")},
-         {"TURNS BY LENGTH IN WORDS", distributionRows("TurnByTLWd", 0, 15, "TurnByTLWdTot")}});
+         {"TURNS BY LENGTH IN WORDS", distributionRows("TurnByTLWd", 0, 15, "TurnByTLWdTot")}}};
 }
 
-Report buildDbFacilityReport(const ReportInputs& in) {
-    return buildDbComparisonReport(in, "Database Verbal Facility Summary",
-                                   {{"RATE AND PAUSES",
-                                     {{"WPM", "RL_RPWDPERMIN"},
-                                      {"UtPerMin", "Utterances per minute"},
-                                      {"%PauseTime", "RL_PCPZTIME"},
-                                      {"AvgPauseWiUt", "Mean pause within utterances (s)"},
-                                      {"AvgPauseBtUt", "Mean pause between utterances (s)"}}},
-                                    {"MAZES AND ABANDONED UTTERANCES",
-                                     {{"%MzWds", "RL_MZWDSPCTOT"},
-                                      {"MzWds", "Maze words"},
-                                      {"Tot#Mz", "Mazes"},
-                                      {"AvgWdPerMz", "Mean words per maze"},
-                                      {"%UtWMaze", "% Utterances with mazes"},
-                                      {"%AbanUt", "RL_PCABANUTT"}}},
-                                    {"CODES",
-                                     {{"%UtWFluencyCd", "% Utterances with fluency codes"},
-                                      {"%UtWCSwitchCd", "% Utterances with code switches"}}}});
+DbSummary DbFacilitySummary() {
+    return DbSummary{"Database Verbal Facility Summary",
+                     {{"RATE AND PAUSES",
+                       {{"WPM", "RL_RPWDPERMIN"},
+                        {"UtPerMin", "Utterances per minute"},
+                        {"%PauseTime", "RL_PCPZTIME"},
+                        {"AvgPauseWiUt", "Mean pause within utterances (s)"},
+                        {"AvgPauseBtUt", "Mean pause between utterances (s)"}}},
+                      {"MAZES AND ABANDONED UTTERANCES",
+                       {{"%MzWds", "RL_MZWDSPCTOT"},
+                        {"MzWds", "Maze words"},
+                        {"Tot#Mz", "Mazes"},
+                        {"AvgWdPerMz", "Mean words per maze"},
+                        {"%UtWMaze", "% Utterances with mazes"},
+                        {"%AbanUt", "RL_PCABANUTT"}}},
+                      {"CODES",
+                       {{"%UtWFluencyCd", "% Utterances with fluency codes"},
+                        {"%UtWCSwitchCd", "% Utterances with code switches"}}}}};
 }
 
-Report buildDbMazesReport(const ReportInputs& in) {
-    return buildDbComparisonReport(
-        in, "Database Maze Distribution Tables",
+DbSummary DbMazesSummary() {
+    return DbSummary{
+        "Database Maze Distribution Tables",
         {{"MAZES BY UTTERANCE LENGTH IN WORDS", distributionRows("MzByUL", 1, 15, "MzByULTot")},
          {"MAZES BY MAZE LENGTH IN WORDS", distributionRows("MzByML", 1, 15, "MzByMLTot")},
          {"MAZE KINDS",
@@ -187,22 +184,84 @@ Report buildDbMazesReport(const ReportInputs& in) {
            {"MzRepWd", "Word repetitions"},
            {"MzRepPhr", "Phrase repetitions"},
            {"MzFPSingleWd", "Filled pauses, single word"},
-           {"MzFPMultWd", "Filled pauses, several words"}}}});
+           {"MzFPMultWd", "Filled pauses, several words"}}}}};
 }
 
+DbSummary DbErrorsSummary() {
+    return DbSummary{"Database Errors Summary",
+                     {{"ERRORS",
+                       {{"%UtWErrors", "RL_PCERRORS"},
+                        {"%WordErrors", "RL_PCWDERRORS"},
+                        {"UtWErrCode", "Utterances with error codes"},
+                        {"ErrCodes", "Error codes"},
+                        {"ErrCodesWd", "Word-level error codes"},
+                        {"ErrCodesUt", "Utterance-level error codes"}}},
+                      {"OMISSIONS",
+                       {{"Omissions", "Omissions"},
+                        {"OmitWd", "Omitted words"},
+                        {"OmitBm", "Omitted bound morphemes"}}}}};
+}
+
+} // namespace
+
+std::optional<DbSummary> dbSummary(std::string_view name) {
+    using Make = DbSummary (*)();
+    static constexpr std::pair<std::string_view, Make> kSummaries[] = {
+        {"length-intelligibility", DbLengthSummary},
+        {"db-syntax-summary", DbSyntaxSummary},
+        {"db-utterance-distribution", DbDistributionSummary},
+        {"db-semantics-summary", DbSemanticsSummary},
+        {"db-grammatical-categories", DbCategoriesSummary},
+        {"db-discourse-summary", DbDiscourseSummary},
+        {"db-turn-distribution", DbTurnsSummary},
+        {"db-facility-summary", DbFacilitySummary},
+        {"db-maze-distribution", DbMazesSummary},
+        {"db-errors-summary", DbErrorsSummary},
+    };
+    for (const auto& [n, make] : kSummaries)
+        if (n == name)
+            return make();
+    return std::nullopt;
+}
+
+namespace {
+
+Report build(const ReportInputs& in, std::string_view name) {
+    DbSummary summary = *dbSummary(name);
+    return buildDbComparisonReport(in, std::move(summary.title), summary.sections);
+}
+
+} // namespace
+
+Report buildDbLengthReport(const ReportInputs& in) {
+    return build(in, "length-intelligibility");
+}
+Report buildDbSyntaxReport(const ReportInputs& in) {
+    return build(in, "db-syntax-summary");
+}
+Report buildDbDistributionReport(const ReportInputs& in) {
+    return build(in, "db-utterance-distribution");
+}
+Report buildDbSemanticsReport(const ReportInputs& in) {
+    return build(in, "db-semantics-summary");
+}
+Report buildDbCategoriesReport(const ReportInputs& in) {
+    return build(in, "db-grammatical-categories");
+}
+Report buildDbDiscourseReport(const ReportInputs& in) {
+    return build(in, "db-discourse-summary");
+}
+Report buildDbTurnsReport(const ReportInputs& in) {
+    return build(in, "db-turn-distribution");
+}
+Report buildDbFacilityReport(const ReportInputs& in) {
+    return build(in, "db-facility-summary");
+}
+Report buildDbMazesReport(const ReportInputs& in) {
+    return build(in, "db-maze-distribution");
+}
 Report buildDbErrorsReport(const ReportInputs& in) {
-    return buildDbComparisonReport(in, "Database Errors Summary",
-                                   {{"ERRORS",
-                                     {{"%UtWErrors", "RL_PCERRORS"},
-                                      {"%WordErrors", "RL_PCWDERRORS"},
-                                      {"UtWErrCode", "Utterances with error codes"},
-                                      {"ErrCodes", "Error codes"},
-                                      {"ErrCodesWd", "Word-level error codes"},
-                                      {"ErrCodesUt", "Utterance-level error codes"}}},
-                                    {"OMISSIONS",
-                                     {{"Omissions", "Omissions"},
-                                      {"OmitWd", "Omitted words"},
-                                      {"OmitBm", "Omitted bound morphemes"}}}});
+    return build(in, "db-errors-summary");
 }
 
 } // namespace tavi

@@ -3,10 +3,26 @@
 // shared comparison layout.
 #pragma once
 
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "reports/db_comparison_report.h"
 #include "reports/report.h"
 #include "reports/report_registry.h"
 
 namespace tavi {
+
+// A summary's title and its sections of measures.
+struct DbSummary {
+    std::string title;
+    std::vector<DbSection> sections;
+};
+
+// The summary or distribution table of a report name ("db-syntax-summary",
+// "length-intelligibility", ...); nullopt for another name.
+std::optional<DbSummary> dbSummary(std::string_view name);
 
 Report buildDbLengthReport(const ReportInputs& in);       // Transcript Length & Intelligibility
 Report buildDbSyntaxReport(const ReportInputs& in);       // Syntax/Morphology Summary
