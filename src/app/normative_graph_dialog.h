@@ -10,6 +10,8 @@
 namespace tavi::app {
 
 class NormativeGraphDialog : public QDialog {
+    Q_OBJECT
+
 public:
     NormativeGraphDialog(NormativeGraph graph, QWidget* parent);
 
