@@ -3,6 +3,7 @@
 #include "app/report_runner.h"
 
 #include "analysis/selection.h"
+#include "app/qt_prompter.h"
 #include "app/tavi_app.h"
 #include "batch/peer_report_inputs.h"
 #include "reports/html_writer.h"
@@ -45,7 +46,7 @@ ReportContent makeReport(CTAVIApp& app, std::string_view kind, const TranscriptA
         request.performancePeers = performancePeers(*source.peers, date);
         const ExploreNeeds needs = exploreNeeds(kind, source.choices);
         if (source.peerDatabase && (needs.items || needs.plusLines)) {
-            NoProgress progress;
+            QtProgress progress; // "Calculating database plus line values... "
             addExploreColumns(*request.database, *source.peerDatabase, *source.peers, analysis,
                               app.analysisContext(), source.choices, needs, app.prompter(),
                               progress);
