@@ -92,27 +92,27 @@ enum class CommandStatus { Working, Unavailable };
     X(ID_DB_SELECT, Working) \
     X(ID_DB_SMR, Working) \
     X(ID_DB_PERF, Working) \
-    X(ID_DB_QUICK, Unavailable) \
+    X(ID_DB_QUICK, Working) \
     X(ID_DB_GOALS, Working) \
-    X(ID_DB_LENGTH, Unavailable) \
+    X(ID_DB_LENGTH, Working) \
     X(ID_DB_NSS, Unavailable) \
     X(ID_DB_ESS, Unavailable) \
     X(ID_DB_PSS, Unavailable) \
     X(ID_DB_ONQ, Unavailable) \
     X(ID_DB_CQ, Unavailable) \
-    X(ID_DB_SYNTAX, Unavailable) \
-    X(ID_DB_DIST, Unavailable) \
+    X(ID_DB_SYNTAX, Working) \
+    X(ID_DB_DIST, Working) \
     X(ID_DB_SI, Unavailable) \
-    X(ID_DB_SEMANTICS, Unavailable) \
-    X(ID_DB_GC, Unavailable) \
-    X(ID_DB_DISCOURSE, Unavailable) \
-    X(ID_DB_TURNS, Unavailable) \
-    X(ID_DB_FACILITY, Unavailable) \
-    X(ID_DB_MAZES, Unavailable) \
-    X(ID_DB_ERRORS, Unavailable) \
-    X(ID_DB_EXPLORE_WC, Unavailable) \
-    X(ID_DB_EXPLORE_PLUS, Unavailable) \
-    X(ID_DB_CUSTOM_PDF, Unavailable) \
+    X(ID_DB_SEMANTICS, Working) \
+    X(ID_DB_GC, Working) \
+    X(ID_DB_DISCOURSE, Working) \
+    X(ID_DB_TURNS, Working) \
+    X(ID_DB_FACILITY, Working) \
+    X(ID_DB_MAZES, Working) \
+    X(ID_DB_ERRORS, Working) \
+    X(ID_DB_EXPLORE_WC, Working) \
+    X(ID_DB_EXPLORE_PLUS, Working) \
+    X(ID_DB_CUSTOM_PDF, Working) \
     X(ID_EXPLORE_LIST, Working) \
     X(ID_EXPLORE_FIND, Working) \
     X(ID_EXPLORE_INSERT, Working) \
@@ -177,7 +177,7 @@ enum class CommandStatus { Working, Unavailable };
     X(ID_HELP_FINDER, Working) \
     X(ID_CONTEXT_HELP, Working) \
     X(ID_HELP_BOOK, Unavailable) \
-    X(ID_HELP_GRAPHS, Unavailable) \
+    X(ID_HELP_GRAPHS, Working) \
     X(ID_HELP_ONLINE, Unavailable) \
     X(ID_HELP_ACROBAT, Unavailable) \
     X(ID_HELP_README, Working) \

@@ -113,6 +113,7 @@ private:
     void databaseSelect();
     const db::PeerSnapshot* compareWithDatabase(CTAVIDoc& doc, TranscriptAnalysis& analysis);
     void databaseReport(std::string_view kind);
+    void showNormativeGraph();
     // Reports
     QPageLayout pdfLayout() const;
     // Explore, on the active transcript or (multiple) on chosen files

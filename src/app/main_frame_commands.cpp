@@ -172,6 +172,7 @@ void CMainFrame::registerCommands() {
     on(ID_HELP_FINDER, [this] { showHelpDocument(QStringLiteral("docs/index.md")); });
     on(ID_CONTEXT_HELP, [this] { showHelpDocument(QStringLiteral("docs/index.md")); });
     on(ID_HELP_README, [this] { showHelpDocument(QStringLiteral("README.md")); });
+    on(ID_HELP_GRAPHS, [this] { showNormativeGraph(); });
     on(ID_APP_ABOUT, [this] { showAbout(); });
 }
 

@@ -4,6 +4,7 @@
 #include "app/dbp_set_dialog.h"
 #include "app/main_frame.h"
 #include "app/qt_prompter.h"
+#include "app/report_options_dialog.h"
 #include "app/report_runner.h"
 #include "app/rept_doc.h"
 #include "app/rept_frame.h"
@@ -146,6 +147,10 @@ void CMainFrame::databaseReport(std::string_view kind) {
         return;
     ReportSource source = reportSource(*doc);
     source.peers = peers;
+    source.peerDatabase = doc->peers().database(doc->peers().selection->database, app_.prompter());
+    if (const ReportDefinition* definition = findReport(kind);
+        definition && !chooseReportOptions(*definition, *analysis, source.choices, this))
+        return;
     showReport(makeReport(app_, kind, *analysis, source), doc);
 }
 

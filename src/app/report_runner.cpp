@@ -3,6 +3,7 @@
 #include "app/report_runner.h"
 
 #include "analysis/selection.h"
+#include "app/qt_prompter.h"
 #include "app/tavi_app.h"
 #include "batch/peer_report_inputs.h"
 #include "reports/html_writer.h"
@@ -46,6 +47,13 @@ TranscriptReportRequest reportRequest(CTAVIApp& app, std::string_view kind,
         const std::string date = todayText(app.analysisContext());
         request.database = smrDatabase(*source.peers, analysis.measures(), date);
         request.performancePeers = performancePeers(*source.peers, date);
+        const ExploreNeeds needs = exploreNeeds(kind, source.choices);
+        if (source.peerDatabase && (needs.items || needs.plusLines)) {
+            QtProgress progress; // "Calculating database plus line values... "
+            addExploreColumns(*request.database, *source.peerDatabase, *source.peers, analysis,
+                              app.analysisContext(), source.choices, needs, app.prompter(),
+                              progress);
+        }
     }
     return request;
 }

@@ -32,7 +32,8 @@ struct ReportSource {
     std::string name;      // the transcript's title
     TranLines lines;       // for reports that read its header lines
     ReportChoices choices; // the dialog's choices (the app's SMR variables by default)
-    const db::PeerSnapshot* peers = nullptr; // compared with a database, when given
+    const db::PeerSnapshot* peers = nullptr;  // compared with a database, when given
+    db::PeerDatabase* peerDatabase = nullptr; // its database, for the explore reports
 };
 
 // The report `kind` (a name of the report table, e.g. "syntax-summary") of

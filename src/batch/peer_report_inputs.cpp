@@ -3,7 +3,14 @@
 
 #include <chrono>
 
+#include <algorithm>
+#include <map>
+#include <memory>
+
+#include "analysis/explore_items.h"
 #include "base/format.h"
+#include "database/explore_samples.h"
+#include "reports/explore_db_reports.h"
 
 namespace tavi {
 
@@ -35,11 +42,76 @@ SmrDatabase smrDatabase(const db::PeerSnapshot& snapshot, const SpeakerMeasures&
         column.mean = stat.mean;
         if (stat.hasSd)
             column.sd = stat.sd;
-        auto comparison = snapshot.compare(*id, measures[*id].number());
+        column.min = stat.min;
+        column.max = stat.max;
+        column.n = stat.n;
+        column.value = measures[*id].number();
+        auto comparison = snapshot.compare(*id, column.value);
         column.differs = comparison && comparison->differs();
+        if (comparison)
+            column.standing = comparison->standing;
         return column;
     };
     return database;
+}
+
+ExploreNeeds exploreNeeds(std::string_view kind, const ReportChoices& choices) {
+    auto wants = [&](std::string_view name) {
+        return kind == name || (kind == "db-custom-pdf" &&
+                                std::ranges::find(choices.kinds, name) != choices.kinds.end());
+    };
+    return {wants("explore-words-codes"), wants("explore-plus-lines")};
+}
+
+namespace {
+
+SmrDatabaseColumn exploreColumn(const PeerStat& stat, std::optional<double> value,
+                                float sdInterval) {
+    SmrDatabaseColumn column;
+    column.mean = stat.mean;
+    column.sd = stat.sd;
+    column.min = stat.min;
+    column.max = stat.max;
+    column.n = stat.n;
+    column.value = value;
+    if (auto comparison = compareWithPeers(value, stat, sdInterval)) {
+        column.standing = comparison->standing;
+        column.differs = comparison->differs();
+    }
+    return column;
+}
+
+} // namespace
+
+void addExploreColumns(SmrDatabase& database, db::PeerDatabase& peers,
+                       const db::PeerSnapshot& snapshot, const TranscriptAnalysis& analysis,
+                       const AnalysisContext& context, const ReportChoices& choices,
+                       ExploreNeeds needs, Prompter& prompter, Progress& progress) {
+    auto columns = std::make_shared<std::map<std::string, SmrDatabaseColumn>>();
+    const SegmentedTranscript& transcript = analysis.check.segmented;
+    if (needs.items && !choices.exploreItems.empty()) {
+        const auto& utterances =
+            analysis.result.selection.speakers[analysis.speaker == 1 ? 1 : 0].total;
+        auto stats = db::exploreItemStats(peers, snapshot, context, choices.exploreItems, prompter,
+                                          progress);
+        for (const auto& [item, stat] : stats)
+            (*columns)[exploreItemKey(item)] =
+                exploreColumn(stat, countItem(transcript, utterances, item), snapshot.sdInterval);
+    }
+    if (needs.plusLines) {
+        const std::vector<std::string> keywords =
+            choices.plusLines.empty() ? numericPlusLines(transcript) : choices.plusLines;
+        auto stats = db::explorePlusLineStats(peers, snapshot, keywords, prompter, progress);
+        for (const auto& [keyword, stat] : stats)
+            (*columns)[explorePlusLineKey(keyword)] =
+                exploreColumn(stat, plusLineValue(transcript, keyword), snapshot.sdInterval);
+    }
+    database.extra = [columns](std::string_view key) -> std::optional<SmrDatabaseColumn> {
+        auto it = columns->find(std::string(key));
+        if (it == columns->end())
+            return std::nullopt;
+        return it->second;
+    };
 }
 
 PerformancePeers performancePeers(const db::PeerSnapshot& snapshot, const std::string& date) {

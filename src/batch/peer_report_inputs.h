@@ -8,6 +8,7 @@
 
 #include "database/peer_selection.h"
 #include "reports/performance_report.h"
+#include "reports/report_registry.h"
 #include "reports/standard_measures_report.h"
 #include "session/analysis_session.h"
 
@@ -21,6 +22,22 @@ std::string todayText(const AnalysisContext& context);
 // snapshot and the measures must outlive the columns.
 SmrDatabase smrDatabase(const db::PeerSnapshot& snapshot, const SpeakerMeasures& measures,
                         const std::string& date);
+
+// Whether report `kind` (or the customised PDF's reports) reads the explore
+// columns of words and codes, and of "+" lines.
+struct ExploreNeeds {
+    bool items = false;
+    bool plusLines = false;
+};
+ExploreNeeds exploreNeeds(std::string_view kind, const ReportChoices& choices);
+
+// Adds the explore reports' columns to `database`: the chosen words and codes
+// and the "+" lines (the chosen ones, else every one of the transcript with a
+// number), counted in the transcript and in each selected sample.
+void addExploreColumns(SmrDatabase& database, db::PeerDatabase& peers,
+                       const db::PeerSnapshot& snapshot, const TranscriptAnalysis& analysis,
+                       const AnalysisContext& context, const ReportChoices& choices,
+                       ExploreNeeds needs, Prompter& prompter, Progress& progress);
 
 // The Performance Report's and goal bank's peers from a comparison.
 PerformancePeers performancePeers(const db::PeerSnapshot& snapshot, const std::string& date);

@@ -5,6 +5,8 @@
 #include <ostream>
 #include <string>
 
+#include "analysis/explore_items.h"
+#include "base/file_io.h"
 #include "base/text.h"
 #include "batch/peer_report_inputs.h"
 #include "cli/args.h"
@@ -13,6 +15,7 @@
 #include "cli/peer_flags.h"
 #include "cli/stream_prompter.h"
 #include "reports/custom_report.h"
+#include "reports/db_custom_report.h"
 #include "reports/grid_writer.h"
 #include "reports/html_writer.h"
 #include "reports/json_writer.h"
@@ -83,14 +86,27 @@ bool readChoices(const cli::Args& args, std::ostream& err, ReportChoices& choice
         choices.sortAlphabetically = *sort == "alpha";
     }
     choices.includeMazes = args.has("--with-mazes");
+    if (auto items = args.value("--items"))
+        choices.exploreItems = commaList(*items);
+    if (auto listFile = args.value("--list-file")) {
+        std::string text;
+        if (!readFile(*listFile, text)) {
+            err << "tavi report: cannot read word list file " << *listFile << '\n';
+            return false;
+        }
+        for (std::string& item : wordListFileItems(text))
+            choices.exploreItems.push_back(std::move(item));
+    }
+    if (auto lines = args.value("--plus-lines"))
+        choices.plusLines = commaList(*lines);
     return true;
 }
 
 int run(cli::CommandContext& ctx) {
-    cli::Args args(
-        ctx.args,
-        {"--speaker", "-o", "--db", "--lists", "--sort", "--kinds", TAVI_PEER_VALUED_FLAGS},
-        {cli::kIncludeErrors, "--json", "--with-mazes", TAVI_PEER_SWITCHES});
+    cli::Args args(ctx.args,
+                   {"--speaker", "-o", "--db", "--lists", "--sort", "--kinds", "--items",
+                    "--list-file", "--plus-lines", TAVI_PEER_VALUED_FLAGS},
+                   {cli::kIncludeErrors, "--json", "--with-mazes", TAVI_PEER_SWITCHES});
     const auto& positional = args.positional();
     if (!args.ok() || positional.size() != 2) {
         ctx.err << "tavi report: "
@@ -119,6 +135,13 @@ int run(cli::CommandContext& ctx) {
             return cli::kExitUsage;
         }
     }
+    if (definition->name == "db-custom-pdf")
+        for (const std::string& kind : request.choices.kinds)
+            if (!dbCustomAccepts(kind)) {
+                ctx.err << "tavi report: " << kind
+                        << " is not a report against a database (db-custom-pdf --kinds)\n";
+                return cli::kExitUsage;
+            }
     const std::string speaker = args.value("--speaker").value_or("1");
     if (speaker != "1" && speaker != "2") {
         ctx.err << "tavi report: --speaker takes 1 or 2\n";
@@ -146,20 +169,28 @@ int run(cli::CommandContext& ctx) {
         lines = splitTranscriptLines(text);
         request.lines = &lines;
     }
-    std::optional<db::PeerSnapshot> snapshot;
+    std::optional<cli::OpenComparison> comparison;
     if (args.has("--db") && definition->database == DatabaseUse::None) {
         ctx.err << "tavi report: " << definition->name << " does not compare with a database\n";
         return cli::kExitUsage;
     }
     if (args.has("--db")) {
         int status = cli::kExitOk;
-        snapshot = cli::compareForCommand(ctx, args, file.string(), *outcome.analysis,
+        comparison =
+            cli::openComparisonForCommand(ctx, args, file.string(), *outcome.analysis,
                                           prepared->settings, prepared->context, prompter, status);
-        if (!snapshot)
+        if (!comparison)
             return status;
+        const db::PeerSnapshot& snapshot = comparison->snapshot;
         const std::string date = todayText(prepared->context);
-        request.database = smrDatabase(*snapshot, outcome.analysis->measures(), date);
-        request.performancePeers = performancePeers(*snapshot, date);
+        request.database = smrDatabase(snapshot, outcome.analysis->measures(), date);
+        request.performancePeers = performancePeers(snapshot, date);
+        const ExploreNeeds needs = exploreNeeds(definition->name, request.choices);
+        if (needs.items || needs.plusLines) {
+            NoProgress progress;
+            addExploreColumns(*request.database, *comparison->database, snapshot, *outcome.analysis,
+                              prepared->context, request.choices, needs, prompter, progress);
+        }
     } else if (definition->database == DatabaseUse::Required) {
         ctx.err << "tavi report: " << definition->name << " needs --db DB\n";
         return cli::kExitUsage;
@@ -238,10 +269,18 @@ const cli::CommandRegistrar reg{
      "  --lists KEYS       (utterance-lists) the lists to show, e.g. PQUES,PIMIT\n"
      "  --sort frequency|alpha  (word and morpheme tables) the order of the rows\n"
      "  --with-mazes       (word-roots) count the words of mazes too\n"
-     "  --kinds A,B,...    (custom-pdf) the reports the PDF holds, in order (default:\n"
-     "                     smr and every report of the Analyze menu that needs no\n"
-     "                     database); with -o FILE.pdf one PDF with a title page and\n"
+     "  --kinds A,B,...    (custom-pdf, db-custom-pdf) the reports the PDF holds, in\n"
+     "                     order (custom-pdf by default: smr and every report of\n"
+     "                     the Analyze menu that needs no database); custom-pdf\n"
+     "                     with -o FILE.pdf writes one PDF with a title page and\n"
      "                     a table of contents, else the reports joined into one\n"
+     "  --items W,[C],...  (explore-words-codes) the words and codes to count; a\n"
+     "                     code in brackets, a final * matches any ending\n"
+     "  --list-file FILE   (explore-words-codes) more items from a word list file\n"
+     "                     (*.LST: items on lines, blank- or comma-separated;\n"
+     "                     lines starting with ; are notes)\n"
+     "  --plus-lines K,... (explore-plus-lines) the \"+\" lines to compare\n"
+     "                     (default: every \"+\" line of the transcript with a number)\n"
      "  --include-errors   report on a transcript that has errors as it stands\n"
      "  --db DB            compare with the matched samples of the reference\n"
      "                     database DB (smr: each value is followed by the database\n"

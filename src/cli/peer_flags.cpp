@@ -70,10 +70,10 @@ std::optional<std::string> applyPeerFlags(const Args& args, db::PeerSelection& s
     return std::nullopt;
 }
 
-std::optional<db::PeerSnapshot>
-compareForCommand(CommandContext& ctx, const Args& args, const std::string& transcriptPath,
-                  const TranscriptAnalysis& analysis, const Settings& settings,
-                  const AnalysisContext& context, Prompter& prompter, int& status) {
+std::optional<OpenComparison>
+openComparisonForCommand(CommandContext& ctx, const Args& args, const std::string& transcriptPath,
+                         const TranscriptAnalysis& analysis, const Settings& settings,
+                         const AnalysisContext& context, Prompter& prompter, int& status) {
     const std::filesystem::path dbPath = args.value("--db").value_or("");
     std::unique_ptr<db::PeerDatabase> database;
     std::error_code ec;
@@ -100,9 +100,21 @@ compareForCommand(CommandContext& ctx, const Args& args, const std::string& tran
         return std::nullopt;
     NoProgress progress;
     auto snapshot = db::comparePeers(*database, selection, target, context, {}, prompter, progress);
-    if (snapshot)
-        status = kExitOk;
-    return snapshot;
+    if (!snapshot)
+        return std::nullopt;
+    status = kExitOk;
+    return OpenComparison{std::move(database), std::move(target), std::move(*snapshot)};
+}
+
+std::optional<db::PeerSnapshot>
+compareForCommand(CommandContext& ctx, const Args& args, const std::string& transcriptPath,
+                  const TranscriptAnalysis& analysis, const Settings& settings,
+                  const AnalysisContext& context, Prompter& prompter, int& status) {
+    auto open = openComparisonForCommand(ctx, args, transcriptPath, analysis, settings, context,
+                                         prompter, status);
+    if (!open)
+        return std::nullopt;
+    return std::move(open->snapshot);
 }
 
 } // namespace tavi::cli

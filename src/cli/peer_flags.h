@@ -4,6 +4,7 @@
 // --sd-interval. The reports' view of a comparison is in batch/peer_report_inputs.h.
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -44,6 +45,20 @@ namespace tavi::cli {
 // Sets the selection from the flags; the problem with a flag (bad usage)
 // when there is one.
 std::optional<std::string> applyPeerFlags(const Args& args, db::PeerSelection& selection);
+
+// A comparison with the database still open: the samples' records and
+// stored transcripts stay readable (graphs, explore reports).
+struct OpenComparison {
+    std::unique_ptr<db::PeerDatabase> database;
+    db::PeerTarget target;
+    db::PeerSnapshot snapshot;
+};
+
+// As compareForCommand, keeping the database and the target.
+std::optional<OpenComparison>
+openComparisonForCommand(CommandContext& ctx, const Args& args, const std::string& transcriptPath,
+                         const TranscriptAnalysis& analysis, const Settings& settings,
+                         const AnalysisContext& context, Prompter& prompter, int& status);
 
 // Compares the analysed transcript with the database of `--db` under the
 // selection flags, saying every problem through the prompter. Nullopt with

@@ -78,14 +78,14 @@ const char* genderWord(std::int16_t code) {
     }
 }
 
+} // namespace
+
 int sampleSpeaker(const sd2& record) {
     if (record.buildOption1 == 2)
         return 1;
     std::size_t semicolon = record.key.rfind(';');
     return semicolon != std::string::npos && record.key.substr(semicolon + 1) == "2" ? 1 : 0;
 }
-
-} // namespace
 
 PeerSelection newPeerSelection(const std::filesystem::path& database,
                                const DescriptiveHeader& header, const Settings& settings) {
@@ -541,6 +541,10 @@ std::optional<PeerSnapshot> comparePeers(PeerDatabase& database, PeerSelection& 
     snapshot.stats = peerStatistics(*values);
     for (std::size_t i : match->selected)
         snapshot.keys.push_back(database.records()[i].key);
+    snapshot.selectedRecords = match->selected;
+    snapshot.sampleValues = std::move(*values);
+    snapshot.amount = target.amount;
+    snapshot.applyCut = selection.applyCut;
     return snapshot;
 }
 

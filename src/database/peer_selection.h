@@ -105,6 +105,9 @@ std::string criteriaLine(const PeerSelection& selection, const PeerTarget& targe
 // "Select Database Samples for %s" with the transcript's name.
 std::string selectionTitle(std::string_view transcriptName);
 
+// The speaker a stored sample was taken from: 0 the 1st, 1 the 2nd.
+int sampleSpeaker(const sd2& record);
+
 // Values of one sample per measure; NaN where the value is missing.
 using SampleValues = std::array<float, kMeasureCount>;
 
@@ -219,6 +222,13 @@ struct PeerSnapshot {
     float sdInterval = kDefaultSdInterval;
     std::array<PeerStat, kMeasureCount> stats{};
     std::vector<std::string> keys; // the selected records' keys
+    // The selected samples one by one, for graphs and the explore reports:
+    // their indices into the database's records, their values (in the same
+    // order) and the transcript amount and cut choice the equating used.
+    std::vector<std::size_t> selectedRecords;
+    std::vector<SampleValues> sampleValues;
+    TranscriptAmount amount;
+    bool applyCut = false;
 
     // The comparison of a transcript value with measure `id`'s statistics.
     std::optional<PeerComparison> compare(MeasureId id, std::optional<double> value) const;

@@ -7,14 +7,18 @@
 
 #include "reports/code_summary_report.h"
 #include "reports/custom_report.h"
+#include "reports/db_custom_report.h"
+#include "reports/db_summary_reports.h"
 #include "reports/discourse_summary_report.h"
 #include "reports/errors_summary_report.h"
+#include "reports/explore_db_reports.h"
 #include "reports/maze_distribution_report.h"
+#include "reports/quick_look_report.h"
 #include "reports/semantics_summary_report.h"
 #include "reports/syntax_summary_report.h"
+#include "reports/table_reports.h"
 #include "reports/turn_distribution_report.h"
 #include "reports/utterance_distribution_report.h"
-#include "reports/table_reports.h"
 #include "reports/utterance_types_report.h"
 #include "reports/verbal_facility_report.h"
 
@@ -109,6 +113,35 @@ constexpr std::array kReports{
                      buildCodeSwitchCodesReport, true},
     // Macro analysis: scoring schemes, questions, Subordination Index.
     // Reports against a database (the Database menu).
+    ReportDefinition{"quick-look", "Quick Look", "ID_DB_QUICK", RichText, buildQuickLookReport,
+                     false, DatabaseUse::Required},
+    ReportDefinition{"length-intelligibility", "Transcript Length & Intelligibility",
+                     "ID_DB_LENGTH", RichText, buildDbLengthReport, false, DatabaseUse::Required},
+    ReportDefinition{"db-syntax-summary", "Syntax/Morphology Summary (database)", "ID_DB_SYNTAX",
+                     RichText, buildDbSyntaxReport, false, DatabaseUse::Required},
+    ReportDefinition{"db-utterance-distribution", "Utterance Distribution Tables (database)",
+                     "ID_DB_DIST", RichText, buildDbDistributionReport, false,
+                     DatabaseUse::Required},
+    ReportDefinition{"db-semantics-summary", "Semantics Summary (database)", "ID_DB_SEMANTICS",
+                     RichText, buildDbSemanticsReport, false, DatabaseUse::Required},
+    ReportDefinition{"db-grammatical-categories", "Grammatical Categories (database)", "ID_DB_GC",
+                     RichText, buildDbCategoriesReport, false, DatabaseUse::Required},
+    ReportDefinition{"db-discourse-summary", "Discourse Summary (database)", "ID_DB_DISCOURSE",
+                     RichText, buildDbDiscourseReport, false, DatabaseUse::Required},
+    ReportDefinition{"db-turn-distribution", "Turn Length Distribution Tables (database)",
+                     "ID_DB_TURNS", RichText, buildDbTurnsReport, false, DatabaseUse::Required},
+    ReportDefinition{"db-facility-summary", "Verbal Facility Summary (database)", "ID_DB_FACILITY",
+                     RichText, buildDbFacilityReport, false, DatabaseUse::Required},
+    ReportDefinition{"db-maze-distribution", "Maze Distribution Tables (database)", "ID_DB_MAZES",
+                     RichText, buildDbMazesReport, false, DatabaseUse::Required},
+    ReportDefinition{"db-errors-summary", "Errors Summary (database)", "ID_DB_ERRORS", RichText,
+                     buildDbErrorsReport, false, DatabaseUse::Required},
+    ReportDefinition{"explore-words-codes", "Explore Words & Codes", "ID_DB_EXPLORE_WC",
+                     RichText, buildExploreWordsCodesReport, false, DatabaseUse::Required},
+    ReportDefinition{"explore-plus-lines", "Explore Plus Line Values", "ID_DB_EXPLORE_PLUS",
+                     RichText, buildExplorePlusLinesReport, false, DatabaseUse::Required},
+    ReportDefinition{"db-custom-pdf", "Customized Database Report", "ID_DB_CUSTOM_PDF", RichText,
+                     buildDbCustomReport, true, DatabaseUse::Required},
 };
 // clang-format on
 

@@ -32,6 +32,8 @@ struct ReportChoices {
     bool sortAlphabetically = false;         // tables of words: by frequency otherwise
     bool includeMazes = false;               // word roots: main body and mazes
     std::vector<std::string> kinds;          // the customised PDF: the reports it holds
+    std::vector<std::string> exploreItems;   // explore words & codes: "dog", "go*", "[EW]"
+    std::vector<std::string> plusLines;      // explore plus lines: keywords; empty: every one
 };
 
 // Everything a report builder reads. The header context is filled for the

@@ -11,6 +11,7 @@
 #include <string_view>
 #include <vector>
 
+#include "analysis/peer_stats.h"
 #include "reports/labels.h"
 #include "reports/measure_source.h"
 #include "reports/report.h"
@@ -57,11 +58,19 @@ struct SmrVariables {
 std::string_view smrLinePrefix(const SmrLineDef& line);
 
 // A measure's database columns: the mean and SD of the matched samples and
-// whether the transcript's value lies at or beyond the SD interval.
+// whether the transcript's value lies at or beyond the SD interval; the
+// database reports also print the smallest and largest sample value, the
+// number of samples that gave one, the direction of a difference and the
+// transcript's own value.
 struct SmrDatabaseColumn {
     double mean = 0.0;
     std::optional<double> sd; // empty for measures that carry none
     bool differs = false;
+    double min = 0.0;
+    double max = 0.0;
+    int n = 0;
+    PeerStanding standing = PeerStanding::Comparable; // Above or Below when it differs
+    std::optional<double> value;                      // the transcript's value
 };
 using SmrDatabaseSource = std::function<std::optional<SmrDatabaseColumn>(std::string_view id)>;
 
@@ -72,6 +81,9 @@ struct SmrDatabase {
     SmrDatabaseSource columns;
     std::vector<std::string> sourceLines;
     std::string sdInterval; // as printed, e.g. "1"
+    // Columns of things that are not measures ("word:dog", "plus:Score"),
+    // counted in the transcript and the samples for the explore reports.
+    std::function<std::optional<SmrDatabaseColumn>(std::string_view key)> extra;
 };
 
 // The mark beside a value at or beyond the SD interval.

@@ -6,12 +6,14 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFile>
+#include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 
 #include "app/dbp_set_dialog.h"
+#include "app/normative_graph_dialog.h"
 #include "app/rept_doc.h"
 #include "app/rept_frame.h"
 #include "app/rept_view.h"
@@ -226,6 +228,45 @@ TEST_F(DatabaseTest, SdIntervalIsCheckedAndSavedAsTheDefaultForNewSelections) {
         dialog->reject();
     });
     run("ID_DB_SELECT");
+}
+
+TEST_F(DatabaseTest, DatabaseSummariesExploreAndNormativeGraphs) {
+    selectSamples("Home");
+    const QString quick = reportText("ID_DB_QUICK");
+    EXPECT_TRUE(quick.contains("QUICK LOOK")) << quick.toStdString();
+    EXPECT_TRUE(quick.contains("4/16 samples selected"));
+    EXPECT_TRUE(quick.contains("the database mean"));
+    EXPECT_TRUE(reportText("ID_DB_SYNTAX").contains("DB Mean"));
+
+    // The explore dialog takes the words and codes.
+    whenModal([](QWidget* w) {
+        auto* edit = w->findChild<QLineEdit*>("items");
+        ASSERT_NE(edit, nullptr);
+        edit->setText("the, [EW]");
+        qobject_cast<QDialog*>(w)->accept();
+    });
+    const QString explore = reportText("ID_DB_EXPLORE_WC");
+    EXPECT_TRUE(explore.contains("Database Word and Code List")) << explore.toStdString();
+    EXPECT_TRUE(explore.contains("[EW]"));
+
+    // Help > Normative Graphs: a measure, then the graph drawn from the samples.
+    whenModal([](QWidget* w) {
+        auto* dialog = qobject_cast<QInputDialog*>(w);
+        ASSERT_NE(dialog, nullptr);
+        EXPECT_EQ(dialog->textValue(), "MLU in Words (MLUw)");
+        dialog->accept();
+    });
+    whenModal([](QWidget* w) {
+        auto* dialog = qobject_cast<NormativeGraphDialog*>(w);
+        ASSERT_NE(dialog, nullptr);
+        EXPECT_EQ(dialog->windowTitle(), "MLU in Words by age");
+        auto* graph = dialog->findChild<QLabel*>("graph");
+        ASSERT_NE(graph, nullptr);
+        EXPECT_FALSE(graph->pixmap().isNull());
+        dialog->reject();
+    });
+    run("ID_HELP_GRAPHS");
+    settle();
 }
 
 } // namespace

@@ -60,10 +60,9 @@ TEST_F(ShellTest, MainMenuHasItsMenusCommandsAndHeadingsInOrder) {
     EXPECT_EQ(analyze->actions()[1]->objectName(), "ID_ANAL_SMR");
 
     // A command not built yet keeps its place, disabled, and says so.
-    QAction* length = action("ID_DB_LENGTH");
-    EXPECT_FALSE(length->isEnabled());
-    EXPECT_EQ(length->statusTip(),
-              "Database Transcript Length and Intelligibility Summary (not available yet)");
+    QAction* corpus = action("ID_FILE_IMPORT_CP");
+    EXPECT_FALSE(corpus->isEnabled());
+    EXPECT_EQ(corpus->statusTip(), "Import a C&P corpus file (not available yet)");
     EXPECT_EQ(action("ID_ANAL_PERF")->statusTip(), "Performance Report");
     EXPECT_EQ(action("ID_ANAL_CODES")->statusTip(), "Code Summary Report");
 
