@@ -7,8 +7,23 @@
 namespace tavi {
 
 const Value* SpeakerMeasures::find(std::string_view name) const {
-    auto id = measureIdByName(name);
-    return id ? &values[static_cast<int>(*id)] : nullptr;
+    if (auto id = measureIdByName(name))
+        return &values[static_cast<int>(*id)];
+    for (const MacroScore& s : macro) {
+        if (s.variable == name)
+            return &s.composite;
+        for (const MacroComponent& c : s.components)
+            if (c.variable == name)
+                return &c.score;
+    }
+    return nullptr;
+}
+
+const MacroScore* SpeakerMeasures::macroScore(std::string_view key) const {
+    for (const MacroScore& s : macro)
+        if (s.key == key)
+            return &s;
+    return nullptr;
 }
 
 std::string SpeakerMeasures::formatted(MeasureId id) const {
@@ -79,6 +94,7 @@ MeasureResult computeMeasures(const SegmentedTranscript& transcript,
         fillWordLists(v, m);
         fillCategoriesAndVerbs(v, m);
         fillUtteranceLists(v, m);
+        fillMacroAnalysis(v, m);
     }
     return result;
 }
