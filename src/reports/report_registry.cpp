@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 
+#include "reports/macro_report.h"
 #include "reports/utterance_types_report.h"
 
 namespace tavi {
@@ -38,6 +39,16 @@ Report goalBank(const ReportInputs& in) {
     return buildGoalBank(performanceFrom(in));
 }
 
+template <char... K> Report scoringTemplate(const ReportInputs& in) {
+    static constexpr char kKey[] = {K..., '\0'};
+    return buildTemplateReport(kKey, in.context, in.analysis.measures(), in.labels, in.database);
+}
+
+Report subordinationIndex(const ReportInputs& in) {
+    return buildSubordinationIndexReport(in.context, in.analysis.measures(), in.labels,
+                                         in.database);
+}
+
 using enum ReportKind;
 
 // clang-format off
@@ -53,6 +64,19 @@ constexpr std::array kReports{
     // Summaries and distribution tables of the Analyze menu.
     // Lists and tables of words, morphemes and codes of the Analyze menu.
     // Macro analysis: scoring schemes, questions, Subordination Index.
+    ReportDefinition{"nss", "Narrative Scoring Scheme", "ID_ANAL_NSS", RichText, scoringTemplate<'N', 'S', 'S'>},
+    ReportDefinition{"ess", "Expository Scoring Scheme", "ID_ANAL_ESS", RichText, scoringTemplate<'E', 'S', 'S'>},
+    ReportDefinition{"pss", "Persuasion Scoring Scheme", "ID_ANAL_PSS", RichText, scoringTemplate<'P', 'S', 'S'>},
+    ReportDefinition{"onq", "Oral Narrative Quality", "ID_ANAL_ONQ", RichText, scoringTemplate<'O', 'N', 'Q'>},
+    ReportDefinition{"questions", "Comprehension Questions", "ID_ANAL_CQ", RichText, scoringTemplate<'C', 'Q'>},
+    ReportDefinition{"onc", "Oral Narrative Comprehension", "", RichText, scoringTemplate<'O', 'N', 'C'>},
+    ReportDefinition{"si", "Subordination Index", "ID_ANAL_SI", RichText, subordinationIndex},
+    ReportDefinition{"db-nss", "Database Narrative Scoring Scheme", "ID_DB_NSS", RichText, scoringTemplate<'N', 'S', 'S'>, false, DatabaseUse::Required},
+    ReportDefinition{"db-ess", "Database Expository Scoring Scheme", "ID_DB_ESS", RichText, scoringTemplate<'E', 'S', 'S'>, false, DatabaseUse::Required},
+    ReportDefinition{"db-pss", "Database Persuasion Scoring Scheme", "ID_DB_PSS", RichText, scoringTemplate<'P', 'S', 'S'>, false, DatabaseUse::Required},
+    ReportDefinition{"db-onq", "Database Oral Narrative Quality", "ID_DB_ONQ", RichText, scoringTemplate<'O', 'N', 'Q'>, false, DatabaseUse::Required},
+    ReportDefinition{"db-questions", "Database Comprehension Questions", "ID_DB_CQ", RichText, scoringTemplate<'C', 'Q'>, false, DatabaseUse::Required},
+    ReportDefinition{"db-si", "Database Subordination Index", "ID_DB_SI", RichText, subordinationIndex, false, DatabaseUse::Required},
     // Reports against a database (the Database menu).
 };
 // clang-format on
