@@ -49,28 +49,28 @@ enum class CommandStatus { Working, Unavailable };
     X(ID_EDIT_DELETE_CODE, Unavailable) \
     X(ID_EDIT_IDENTIFY_ROOTS, Unavailable) \
     X(ID_EDIT_INSERT_SI, Unavailable) \
-    X(ID_TEMPLATE_NSS, Unavailable) \
-    X(ID_TEMPLATE_ESS, Unavailable) \
-    X(ID_TEMPLATE_PSS, Unavailable) \
-    X(ID_TEMPLATE_CQ, Unavailable) \
-    X(ID_TEMPLATE_FCB, Unavailable) \
-    X(ID_TEMPLATE_ONQ, Unavailable) \
-    X(ID_TEMPLATE_ONC, Unavailable) \
+    X(ID_TEMPLATE_NSS, Working) \
+    X(ID_TEMPLATE_ESS, Working) \
+    X(ID_TEMPLATE_PSS, Working) \
+    X(ID_TEMPLATE_CQ, Working) \
+    X(ID_TEMPLATE_FCB, Working) \
+    X(ID_TEMPLATE_ONQ, Working) \
+    X(ID_TEMPLATE_ONC, Working) \
     X(ID_EDIT_INSERT_GC, Unavailable) \
     X(ID_ANAL_SMR, Working) \
     X(ID_ANAL_PERF, Working) \
     X(ID_ANAL_UTT_TYPES, Working) \
     X(ID_ANAL_SUL, Unavailable) \
-    X(ID_ANAL_NSS, Unavailable) \
-    X(ID_ANAL_ESS, Unavailable) \
-    X(ID_ANAL_PSS, Unavailable) \
-    X(ID_ANAL_ONQ, Unavailable) \
-    X(ID_ANAL_CQ, Unavailable) \
+    X(ID_ANAL_NSS, Working) \
+    X(ID_ANAL_ESS, Working) \
+    X(ID_ANAL_PSS, Working) \
+    X(ID_ANAL_ONQ, Working) \
+    X(ID_ANAL_CQ, Working) \
     X(ID_ANAL_SYNTAX, Unavailable) \
     X(ID_ANAL_DIST, Unavailable) \
     X(ID_ANAL_BM, Unavailable) \
     X(ID_ANAL_CLITIC, Unavailable) \
-    X(ID_ANAL_SI, Unavailable) \
+    X(ID_ANAL_SI, Working) \
     X(ID_ANAL_SEMANTICS, Unavailable) \
     X(ID_ANAL_WR, Unavailable) \
     X(ID_ANAL_SWL, Unavailable) \
@@ -95,14 +95,14 @@ enum class CommandStatus { Working, Unavailable };
     X(ID_DB_QUICK, Unavailable) \
     X(ID_DB_GOALS, Working) \
     X(ID_DB_LENGTH, Unavailable) \
-    X(ID_DB_NSS, Unavailable) \
-    X(ID_DB_ESS, Unavailable) \
-    X(ID_DB_PSS, Unavailable) \
-    X(ID_DB_ONQ, Unavailable) \
-    X(ID_DB_CQ, Unavailable) \
+    X(ID_DB_NSS, Working) \
+    X(ID_DB_ESS, Working) \
+    X(ID_DB_PSS, Working) \
+    X(ID_DB_ONQ, Working) \
+    X(ID_DB_CQ, Working) \
     X(ID_DB_SYNTAX, Unavailable) \
     X(ID_DB_DIST, Unavailable) \
-    X(ID_DB_SI, Unavailable) \
+    X(ID_DB_SI, Working) \
     X(ID_DB_SEMANTICS, Unavailable) \
     X(ID_DB_GC, Unavailable) \
     X(ID_DB_DISCOURSE, Unavailable) \

@@ -100,6 +100,9 @@ private:
     void analyzeReport(std::string_view kind, bool askSpeaker = true);
     bool chooseReportSpeaker(const ReportDefinition& report, TranscriptAnalysis& analysis);
     void registerReportCommands();
+    // Macro analysis (main_frame_macro.cpp)
+    void registerMacroCommands();
+    void insertTemplate(std::string_view key);
     // Database
     CTAVIDoc* databaseTarget() const;
     void refreshDatabaseMenu();

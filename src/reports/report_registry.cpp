@@ -13,10 +13,10 @@ namespace tavi {
 namespace {
 
 Report standardMeasures(const ReportInputs& in) {
+    const SmrVariables shown = smrVariablesFor(in.choices.smrVariables, in.values);
     if (in.database)
-        return buildStandardMeasuresReport(in.context, in.values, in.choices.smrVariables,
-                                           in.labels, *in.database);
-    return buildStandardMeasuresReport(in.context, in.values, in.choices.smrVariables, in.labels);
+        return buildStandardMeasuresReport(in.context, in.values, shown, in.labels, *in.database);
+    return buildStandardMeasuresReport(in.context, in.values, shown, in.labels);
 }
 
 Report utteranceTypes(const ReportInputs& in) {
