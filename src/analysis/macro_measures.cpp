@@ -23,6 +23,7 @@ std::vector<MacroScore> scoreTemplates(const TemplateSet& templates,
                      t.maxComposite(),
                      scores.scored(),
                      Value::count(scores.composite()),
+                     Value::count(scores.scored()),
                      {}};
         for (const ComponentScore& s : scores.components) {
             const TemplateComponent& c = *s.component;
@@ -70,8 +71,13 @@ void fillMacroAnalysis(const SpeakerView& v, SpeakerMeasures& m) {
     SiSummary& si = m.si;
     for (int i : v.analysisSet) {
         std::optional<int> n = siClauseCount(v.utt(i), o.siCodePrefix);
-        if (!n)
+        if (!n) {
+            for (const Code& c : v.utt(i).codes())
+                if (c.text.ends_with('?') &&
+                    siClauseCount(c.text.substr(0, c.text.size() - 1), o.siCodePrefix))
+                    ++si.awaitingReview;
             continue;
+        }
         ++si.coded;
         si.clauses += *n;
         if (si.byClauseCount.size() <= static_cast<size_t>(*n))
@@ -80,6 +86,7 @@ void fillMacroAnalysis(const SpeakerView& v, SpeakerMeasures& m) {
         si.codedUtterances.push_back(i);
     }
     m[MeasureId::SI] = si.index();
+    si.codedValue = Value::count(si.coded);
 }
 
 } // namespace tavi

@@ -35,6 +35,7 @@ struct MacroScore {
     int maxComposite = 0;
     int scored = 0; // components with a score
     Value composite;
+    Value rated; // `scored` as a value: the column key + " Rated" ("FCB Rated")
     std::vector<MacroComponent> components;
 };
 
@@ -56,9 +57,11 @@ std::optional<int> siClauseCount(const Utterance& u,
 // The Subordination Index of one speaker: coded utterances of the analysis set.
 struct SiSummary {
     int coded = 0;                    // utterances with an SI code
+    int awaitingReview = 0;           // utterances with a suggested code ("[SI-2?]") only
     int clauses = 0;                  // their clause counts added up
     std::vector<int> byClauseCount;   // [n]: coded utterances with n clauses
     std::vector<int> codedUtterances; // utterance indices, in order
+    Value codedValue;                 // `coded` as a value: the column "SI Coded"
     Value index() const { return Value::ratio(clauses, coded); }
 };
 

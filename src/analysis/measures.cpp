@@ -12,10 +12,14 @@ const Value* SpeakerMeasures::find(std::string_view name) const {
     for (const MacroScore& s : macro) {
         if (s.variable == name)
             return &s.composite;
+        if (name.size() == s.key.size() + 6 && name.starts_with(s.key) && name.ends_with(" Rated"))
+            return &s.rated;
         for (const MacroComponent& c : s.components)
             if (c.variable == name)
                 return &c.score;
     }
+    if (name == "SI Coded")
+        return &si.codedValue;
     return nullptr;
 }
 

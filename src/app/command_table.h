@@ -48,7 +48,7 @@ enum class CommandStatus { Working, Unavailable };
     X(ID_EDIT_INSERT_SYMBOL, Working) \
     X(ID_EDIT_DELETE_CODE, Unavailable) \
     X(ID_EDIT_IDENTIFY_ROOTS, Unavailable) \
-    X(ID_EDIT_INSERT_SI, Unavailable) \
+    X(ID_EDIT_INSERT_SI, Working) \
     X(ID_TEMPLATE_NSS, Working) \
     X(ID_TEMPLATE_ESS, Working) \
     X(ID_TEMPLATE_PSS, Working) \
@@ -146,7 +146,7 @@ enum class CommandStatus { Working, Unavailable };
     X(ID_LISTS_CODES, Unavailable) \
     X(ID_LISTS_TEXT, Unavailable) \
     X(ID_LISTS_SYMBOLS, Unavailable) \
-    X(ID_EDSET_SI, Unavailable) \
+    X(ID_EDSET_SI, Working) \
     X(ID_EDSET_RIF_EDIT, Unavailable) \
     X(ID_EDSET_RIF_SETTINGS, Unavailable) \
     X(ID_EDSET_BACKUP, Working) \

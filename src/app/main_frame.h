@@ -103,6 +103,9 @@ private:
     // Macro analysis (main_frame_macro.cpp)
     void registerMacroCommands();
     void insertTemplate(std::string_view key);
+    void insertSiCodes();
+    void siCodeSettings();
+    int siSpeaker_ = 0; // "SI Code Settings": the speaker Insert SI Codes codes
     // Database
     CTAVIDoc* databaseTarget() const;
     void refreshDatabaseMenu();

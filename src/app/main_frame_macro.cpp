@@ -7,6 +7,7 @@
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QFormLayout>
+#include <QInputDialog>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QRegularExpression>
@@ -14,6 +15,7 @@
 #include <QTextCursor>
 #include <QTextDocument>
 
+#include "analysis/si_suggest.h"
 #include "app/main_frame.h"
 #include "app/tavi_app.h"
 #include "app/tavi_doc.h"
@@ -123,6 +125,51 @@ void CMainFrame::insertTemplate(std::string_view key) {
     updateCommands();
 }
 
+void CMainFrame::insertSiCodes() {
+    CTAVIFrame* frame = activeTranscriptFrame();
+    if (!frame)
+        return;
+    CTAVIDoc& doc = frame->doc();
+    std::optional<TranscriptAnalysis> analysis = checkedAnalysis(doc, siSpeaker_);
+    if (!analysis)
+        return;
+    const AnalysisContext context = app_.analysisContext();
+    VerbList verbs;
+    VerbList::loadFile(app_.settings().folders.sharedData + "verbs.txt", verbs);
+    const QString before = doc.document()->toPlainText();
+    SiInsertion inserted =
+        tavi::insertSiCodes(before.toStdString(), analysis->check.segmented,
+                            analysis->result.selection.speakers[analysis->speaker].analysisSet,
+                            verbs, context.measures.dictionary, context.measures.siCodePrefix);
+    if (inserted.coded > 0) {
+        QString after = QString::fromStdString(inserted.text);
+        if (!before.endsWith(QLatin1Char('\n')) && after.endsWith(QLatin1Char('\n')))
+            after.chop(1);
+        QTextCursor cursor(doc.document());
+        cursor.beginEditBlock();
+        cursor.select(QTextCursor::Document);
+        cursor.insertText(after);
+        cursor.endEditBlock();
+    }
+    QMessageBox::information(
+        this, QStringLiteral("TAVI"),
+        QStringLiteral("%1 utterances were given a suggested SI code, marked \"?\" for review: "
+                       "check each count and remove the \"?\" to have it counted.")
+            .arg(inserted.coded));
+    updateCommands();
+}
+
+void CMainFrame::siCodeSettings() {
+    const QStringList speakers{QStringLiteral("1st Speaker"), QStringLiteral("2nd Speaker")};
+    bool ok = false;
+    const QString chosen = QInputDialog::getItem(
+        this, QStringLiteral("SI Code Settings"),
+        QStringLiteral("Insert SI Codes codes the analysis-set utterances of:"), speakers,
+        siSpeaker_, false, &ok);
+    if (ok)
+        siSpeaker_ = speakers.indexOf(chosen);
+}
+
 void CMainFrame::registerMacroCommands() {
     using enum CommandId;
     struct Item {
@@ -163,6 +210,9 @@ void CMainFrame::registerMacroCommands() {
     for (const auto& [id, key] : inserts)
         on(
             id, [this, key] { insertTemplate(key); }, transcript);
+    on(
+        ID_EDIT_INSERT_SI, [this] { insertSiCodes(); }, transcript);
+    on(ID_EDSET_SI, [this] { siCodeSettings(); });
 }
 
 } // namespace tavi::app

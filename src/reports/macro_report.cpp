@@ -124,6 +124,10 @@ Report buildSubordinationIndexReport(const TranscriptReportContext& context,
             report.header.push_back({"", "", "", line});
     const SiSummary& si = measures.si;
     ReportSection section;
+    if (si.awaitingReview > 0)
+        section.items.push_back(
+            TextLine{format("%d suggested SI codes await review (remove the \"?\" to count them).",
+                            si.awaitingReview)});
     if (si.coded == 0) {
         section.items.push_back(
             TextLine{"No analysis-set utterance of this speaker carries an SI code."});
