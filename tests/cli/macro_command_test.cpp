@@ -152,6 +152,45 @@ TEST_F(MacroCommand, EveryMacroKindWritesEveryFormat) {
     EXPECT_NE(tavi("report db-nss " + file("scored.tvi")).status, 0);
 }
 
+TEST_F(MacroCommand, PerformanceReportHasMacroAnalysisAndComprehension) {
+    auto run = tavi("report performance " + file("scored.tvi"));
+    ASSERT_EQ(run.status, 0) << run.err;
+    for (const char* text :
+         {"The Narrative Scoring Scheme was used to assess the structure and content of the "
+          "speaker's narrative. The speaker's composite score was 24 out of a possible 35 points.",
+          "composite score was 6 out of a possible 8 points.",
+          "After listening to the story for the first time, the speaker was asked 10 "
+          "comprehension questions. The speaker answered 8 of them correctly."})
+        EXPECT_NE(run.out.find(text), std::string::npos) << text << "\n" << run.out;
+}
+
+// A database built from three scored samples (NSS 24, 22 and 26): the
+// composite's mean and SD come from each record's stored transcript.
+TEST_F(MacroCommand, DatabaseReportsCompareTheCompositeWithStoredSamples) {
+    std::string scored = kScored;
+    scored.replace(scored.find("+ Context: Nar"), 14, "+ Context: Nar\n+ CA: 7;2\n+ Gender: F");
+    for (int introduction : {3, 1, 5}) {
+        std::string sample = scored;
+        sample.replace(sample.find("Introduction: 3"), 15,
+                       "Introduction: " + std::to_string(introduction));
+        ASSERT_EQ(
+            tavi::writeFileAtomic(dir_ / ("s" + std::to_string(introduction) + ".tvi"), sample),
+            tavi::WriteStatus::Ok);
+    }
+    ASSERT_EQ(tavi::writeFileAtomic(dir_ / "target.tvi", scored), tavi::WriteStatus::Ok);
+    ASSERT_EQ(tavi("db create " + file("n.tvidb") + " --context Nar").status, 0);
+    ASSERT_EQ(tavi("db add " + file("n.tvidb") + " " + file("s1.tvi") + " " + file("s3.tvi") + " " +
+                   file("s5.tvi"))
+                  .status,
+              0);
+    auto nss = tavi("report db-nss --db " + file("n.tvidb") + " " + file("target.tvi"));
+    ASSERT_EQ(nss.status, 0) << nss.err;
+    EXPECT_NE(nss.out.find("Database Mean:  24.00\nDatabase SD:  2.00\n"), std::string::npos)
+        << nss.out;
+    auto si = tavi("report db-si --db " + file("n.tvidb") + " " + file("target.tvi"));
+    EXPECT_NE(si.out.find("Database Mean:  1.40\n"), std::string::npos) << si.out;
+}
+
 TEST_F(MacroCommand, SiSuggestCodesTheUncodedUtterancesForReview) {
     ASSERT_EQ(tavi::writeFileAtomic(dir_ / "plain.tvi", "$ Child, Examiner\n"
                                                         "C the dog ran away.\n"
