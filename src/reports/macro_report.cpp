@@ -73,11 +73,9 @@ ReportSection templateSection(std::string_view key, const SpeakerMeasures& measu
     }
     ReportTable table;
     table.labelHeading = text(labels, l.category);
-    table.headings = {labels("RL_SCORE"), "Range", "Meaning"};
+    table.headings = {labels("RL_SCORE"), "Range"};
     for (const MacroComponent& c : score->components)
-        table.rows.push_back({c.name,
-                              {formatCount(c.score.number()), range(c),
-                               c.score.isMissing() ? "not scored" : c.meaning}});
+        table.rows.push_back({c.name, {formatCount(c.score.number()), range(c)}});
     section.items.push_back(std::move(table));
     LabelledLine composite{"", text(labels, l.composite), ":  ",
                            format("%d of %d", score->composite.asCount(), score->maxComposite)};
@@ -103,11 +101,17 @@ Report buildTemplateReport(std::string_view key, const TranscriptReportContext& 
     if (const MacroScore* score = measures.macroScore(key))
         addDatabaseLines(scores.items, score->variable, database);
     report.sections.push_back(std::move(scores));
-    // What each component looks at, from the template.
+    // What each score given means and what each component looks at, from
+    // the template.
     if (const MacroScore* score = measures.macroScore(key)) {
+        ReportSection given{"Scores Given", {}};
+        for (const MacroComponent& c : score->components)
+            given.items.push_back(
+                TextLine{c.name + ": " + (c.score.isMissing() ? "not scored" : c.meaning)});
+        report.sections.push_back(std::move(given));
         ReportSection about{"Components", {}};
         for (const MacroComponent& c : score->components)
-            about.items.push_back(LabelledLine{"", c.name, ": ", c.description});
+            about.items.push_back(TextLine{c.name + ": " + c.description});
         report.sections.push_back(std::move(about));
     }
     return report;

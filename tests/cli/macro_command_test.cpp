@@ -114,7 +114,9 @@ TEST_F(MacroCommand, ReportsShowScoresCompositesAndTheSiDistribution) {
     const std::string row = nss.out.substr(at + 1, nss.out.find('\n', at + 1) - at - 1);
     EXPECT_NE(row.find(" 5 "), std::string::npos) << row;
     EXPECT_NE(row.find(" 0-5 "), std::string::npos) << row;
-    EXPECT_NE(row.find("New referents are introduced"), std::string::npos) << row;
+    EXPECT_NE(nss.out.find("\nReferencing: New referents are introduced before pronouns"),
+              std::string::npos)
+        << nss.out;
     auto cq = tavi("report questions " + file("scored.tvi"));
     EXPECT_NE(cq.out.find("CQ Score:  8 of 10"), std::string::npos) << cq.out;
     auto ess = tavi("report ess " + file("scored.tvi"));
