@@ -32,7 +32,7 @@ namespace {
 bool holdsMacroLines(QTextDocument& doc, const QString& stem) {
     const QRegularExpression pattern =
         stem.isEmpty()
-            ? QRegularExpression(QStringLiteral("\\[SI-\\d+\\]"),
+            ? QRegularExpression(QStringLiteral("\\[SI-\\d+\\??\\]"),
                                  QRegularExpression::CaseInsensitiveOption)
             : QRegularExpression(QStringLiteral("^\\+\\s*") + QRegularExpression::escape(stem) +
                                      QStringLiteral("\\s[^:]*:"),
