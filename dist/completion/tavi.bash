@@ -119,10 +119,11 @@ _tavi() {
     done
 
     # A kind or subcommand first: the kinds listed under "Reports (KIND):"
-    # ("tavi report smr"), or named in the usage line ("tavi x a|b"), or
+    # ("tavi report smr"), or named in the usage line ("tavi x a|b",
+    # "tavi si suggest"), or
     # "tavi db SUBCOMMAND".
     local kinds
-    kinds=$(sed -nE "s/^Usage: [^ ]+ ${command} ([a-z0-9]+(\\|[a-z0-9]+)+).*/\\1/p" <<<"$help")
+    kinds=$(sed -nE "s/^Usage: [^ ]+ ${command} ([a-z0-9]+(\\|[a-z0-9]+)*)( .*)?$/\\1/p" <<<"$help")
     kinds+=" $(sed -n '/^Reports (KIND):/,$ s/^  \([a-z][a-z0-9-]*\) .*/\1/p' <<<"$help")"
     if [[ ${#words[@]} -eq 0 && -n ${kinds// /} ]]; then
         mapfile -t COMPREPLY < <(compgen -W "${kinds//|/ }" -- "$cur")

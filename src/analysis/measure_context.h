@@ -72,5 +72,6 @@ void fillDistributions(const SpeakerView& v, SpeakerMeasures& m);
 void fillWordLists(const SpeakerView& v, SpeakerMeasures& m);
 void fillCategoriesAndVerbs(const SpeakerView& v, SpeakerMeasures& m);
 void fillUtteranceLists(const SpeakerView& v, SpeakerMeasures& m);
+void fillMacroAnalysis(const SpeakerView& v, SpeakerMeasures& m);
 
 } // namespace tavi

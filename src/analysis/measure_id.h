@@ -22,11 +22,11 @@ enum class MeasureFormat { Count, Mean, Percent, Text };
     X(TimeMin, "TimeMin", Mean)                                                                    \
     X(PctIntelUt, "%IntelUt", Percent)                                                             \
     X(PctIntelWd, "%IntelWd", Percent)                                                             \
-    X(NSS, "NSS", Mean)                                                                            \
-    X(ESS, "ESS", Mean)                                                                            \
-    X(PSS, "PSS", Mean)                                                                            \
-    X(ONQ, "ONQ", Mean)                                                                            \
-    X(ONC, "ONC", Mean)                                                                            \
+    X(NSS, "NSS", Count)                                                                           \
+    X(ESS, "ESS", Count)                                                                           \
+    X(PSS, "PSS", Count)                                                                           \
+    X(ONQ, "ONQ", Count)                                                                           \
+    X(ONC, "ONC", Count)                                                                           \
     X(MLUw, "MLUw", Mean)                                                                          \
     X(MLUm, "MLUm", Mean)                                                                          \
     X(PctUtWVerb, "%UtWVerb", Percent)                                                             \

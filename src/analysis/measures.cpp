@@ -7,8 +7,27 @@
 namespace tavi {
 
 const Value* SpeakerMeasures::find(std::string_view name) const {
-    auto id = measureIdByName(name);
-    return id ? &values[static_cast<int>(*id)] : nullptr;
+    if (auto id = measureIdByName(name))
+        return &values[static_cast<int>(*id)];
+    for (const MacroScore& s : macro) {
+        if (s.variable == name)
+            return &s.composite;
+        if (name.size() == s.key.size() + 6 && name.starts_with(s.key) && name.ends_with(" Rated"))
+            return &s.rated;
+        for (const MacroComponent& c : s.components)
+            if (c.variable == name)
+                return &c.score;
+    }
+    if (name == "SI Coded")
+        return &si.codedValue;
+    return nullptr;
+}
+
+const MacroScore* SpeakerMeasures::macroScore(std::string_view key) const {
+    for (const MacroScore& s : macro)
+        if (s.key == key)
+            return &s;
+    return nullptr;
 }
 
 std::string SpeakerMeasures::formatted(MeasureId id) const {
@@ -80,6 +99,7 @@ MeasureResult computeMeasures(const SegmentedTranscript& transcript,
         fillWordLists(v, m);
         fillCategoriesAndVerbs(v, m);
         fillUtteranceLists(v, m);
+        fillMacroAnalysis(v, m);
     }
     return result;
 }

@@ -14,6 +14,7 @@
 
 #include "analysis/analysis_set.h"
 #include "analysis/code_lists.h"
+#include "analysis/macro_measures.h"
 #include "analysis/measure_id.h"
 #include "analysis/selection.h"
 #include "analysis/transcript_cut.h"
@@ -57,6 +58,11 @@ struct MeasureOptions {
     // Utterance-length distribution: "DIST MORPH" / "DIST WORD", "DIST ASET" / "DIST TOTAL".
     bool distributionInMorphemes = false;
     bool distributionOnAnalysisSet = true;
+
+    // Scoring templates read from the "+" lines (null: none), and the form of
+    // the Subordination Index code ("[SI-2]").
+    const TemplateSet* templates = nullptr;
+    std::string siCodePrefix = std::string(kDefaultSiCodePrefix);
 };
 
 // Types and total of one standard word list or grammatical category.
@@ -85,6 +91,13 @@ struct SpeakerMeasures {
     std::array<WordCount, kWordListKinds> wordLists{};
     std::array<WordCount, kGrammaticalCategories> categories{};
     std::array<std::vector<int>, kUtteranceLists> utteranceLists{}; // utterance indices
+
+    // Macro analysis: the templates the transcript scores (1st speaker only)
+    // and the Subordination Index codes of this speaker.
+    std::vector<MacroScore> macro;
+    SiSummary si;
+    // A template by key ("NSS"), or null.
+    const MacroScore* macroScore(std::string_view key) const;
 
     // Notes the reports print beside values.
     bool timingMissing = false;     // "Timing information was not provided."

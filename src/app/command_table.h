@@ -48,29 +48,29 @@ enum class CommandStatus { Working, Unavailable };
     X(ID_EDIT_INSERT_SYMBOL, Working) \
     X(ID_EDIT_DELETE_CODE, Working) \
     X(ID_EDIT_IDENTIFY_ROOTS, Unavailable) \
-    X(ID_EDIT_INSERT_SI, Unavailable) \
-    X(ID_TEMPLATE_NSS, Unavailable) \
-    X(ID_TEMPLATE_ESS, Unavailable) \
-    X(ID_TEMPLATE_PSS, Unavailable) \
-    X(ID_TEMPLATE_CQ, Unavailable) \
-    X(ID_TEMPLATE_FCB, Unavailable) \
-    X(ID_TEMPLATE_ONQ, Unavailable) \
-    X(ID_TEMPLATE_ONC, Unavailable) \
+    X(ID_EDIT_INSERT_SI, Working) \
+    X(ID_TEMPLATE_NSS, Working) \
+    X(ID_TEMPLATE_ESS, Working) \
+    X(ID_TEMPLATE_PSS, Working) \
+    X(ID_TEMPLATE_CQ, Working) \
+    X(ID_TEMPLATE_FCB, Working) \
+    X(ID_TEMPLATE_ONQ, Working) \
+    X(ID_TEMPLATE_ONC, Working) \
     X(ID_EDIT_INSERT_GC, Unavailable) \
     X(ID_ANAL_SMR, Working) \
     X(ID_ANAL_PERF, Working) \
     X(ID_ANAL_UTT_TYPES, Working) \
     X(ID_ANAL_SUL, Working) \
-    X(ID_ANAL_NSS, Unavailable) \
-    X(ID_ANAL_ESS, Unavailable) \
-    X(ID_ANAL_PSS, Unavailable) \
-    X(ID_ANAL_ONQ, Unavailable) \
-    X(ID_ANAL_CQ, Unavailable) \
+    X(ID_ANAL_NSS, Working) \
+    X(ID_ANAL_ESS, Working) \
+    X(ID_ANAL_PSS, Working) \
+    X(ID_ANAL_ONQ, Working) \
+    X(ID_ANAL_CQ, Working) \
     X(ID_ANAL_SYNTAX, Working) \
     X(ID_ANAL_DIST, Working) \
     X(ID_ANAL_BM, Working) \
     X(ID_ANAL_CLITIC, Working) \
-    X(ID_ANAL_SI, Unavailable) \
+    X(ID_ANAL_SI, Working) \
     X(ID_ANAL_SEMANTICS, Working) \
     X(ID_ANAL_WR, Working) \
     X(ID_ANAL_SWL, Working) \
@@ -95,14 +95,14 @@ enum class CommandStatus { Working, Unavailable };
     X(ID_DB_QUICK, Working) \
     X(ID_DB_GOALS, Working) \
     X(ID_DB_LENGTH, Working) \
-    X(ID_DB_NSS, Unavailable) \
-    X(ID_DB_ESS, Unavailable) \
-    X(ID_DB_PSS, Unavailable) \
-    X(ID_DB_ONQ, Unavailable) \
-    X(ID_DB_CQ, Unavailable) \
+    X(ID_DB_NSS, Working) \
+    X(ID_DB_ESS, Working) \
+    X(ID_DB_PSS, Working) \
+    X(ID_DB_ONQ, Working) \
+    X(ID_DB_CQ, Working) \
     X(ID_DB_SYNTAX, Working) \
     X(ID_DB_DIST, Working) \
-    X(ID_DB_SI, Unavailable) \
+    X(ID_DB_SI, Working) \
     X(ID_DB_SEMANTICS, Working) \
     X(ID_DB_GC, Working) \
     X(ID_DB_DISCOURSE, Working) \
@@ -146,7 +146,7 @@ enum class CommandStatus { Working, Unavailable };
     X(ID_LISTS_CODES, Unavailable) \
     X(ID_LISTS_TEXT, Unavailable) \
     X(ID_LISTS_SYMBOLS, Unavailable) \
-    X(ID_EDSET_SI, Unavailable) \
+    X(ID_EDSET_SI, Working) \
     X(ID_EDSET_RIF_EDIT, Unavailable) \
     X(ID_EDSET_RIF_SETTINGS, Unavailable) \
     X(ID_EDSET_BACKUP, Working) \

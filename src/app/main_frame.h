@@ -106,6 +106,12 @@ private:
     bool chooseReportSpeaker(const ReportDefinition& report, TranscriptAnalysis& analysis);
     void registerReportCommands();
     void analyzeCustomPdf();
+    // Macro analysis (main_frame_macro.cpp)
+    void registerMacroCommands();
+    void insertTemplate(std::string_view key);
+    void insertSiCodes();
+    void siCodeSettings();
+    int siSpeaker_ = 0; // "SI Code Settings": the speaker Insert SI Codes codes
     // Database
     CTAVIDoc* databaseTarget() const;
     void refreshDatabaseMenu();

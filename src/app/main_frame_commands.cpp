@@ -78,6 +78,7 @@ void CMainFrame::registerCommands() {
         ID_DB_PERF, [this] { databaseReport("performance"); }, compared);
     on(
         ID_DB_GOALS, [this] { databaseReport("goals"); }, compared);
+    registerMacroCommands();
     registerReportCommands();
 
     // Edit

@@ -288,6 +288,18 @@ std::optional<MissingValueProblem> validateMissingValues(const BatchSelections& 
     return std::nullopt;
 }
 
+int selectionIndex(const VariableCatalogue& c, int index) {
+    const VariableGroup& group = c.groupOf(index);
+    int before = 0;
+    for (const VariableGroup& g : c.groups()) {
+        if (&g == &group)
+            break;
+        if (g.keyword == group.keyword)
+            before += g.count;
+    }
+    return before + c.variable(index).indexInGroup;
+}
+
 std::vector<int> chosenVariables(const BatchSelections& s, const VariableCatalogue& c) {
     std::vector<int> chosen;
     for (const VariableGroup& g : c.groups()) {
@@ -298,7 +310,7 @@ std::vector<int> chosenVariables(const BatchSelections& s, const VariableCatalog
             else if (g.keyword == "PLUSLINE")
                 on = s.plusLines[static_cast<size_t>(i)];
             else if (auto it = s.groups.find(g.keyword); it != s.groups.end())
-                on = it->second.count(i) != 0;
+                on = it->second.count(selectionIndex(c, g.first + i)) != 0;
             if (on)
                 chosen.push_back(g.first + i);
         }
@@ -318,9 +330,9 @@ void setVariableChosen(BatchSelections& s, const VariableCatalogue& c, int index
     } else if (g.keyword == "PLUSLINE") {
         s.plusLines[static_cast<size_t>(v.indexInGroup)] = on;
     } else if (on) {
-        s.groups[g.keyword].insert(v.indexInGroup);
+        s.groups[g.keyword].insert(selectionIndex(c, index));
     } else if (auto it = s.groups.find(g.keyword); it != s.groups.end()) {
-        it->second.erase(v.indexInGroup);
+        it->second.erase(selectionIndex(c, index));
         if (it->second.empty())
             s.groups.erase(it);
     }

@@ -94,6 +94,10 @@ std::optional<MissingValueProblem> validateMissingValues(const BatchSelections& 
 
 // Chosen catalogue variables, in catalogue order.
 std::vector<int> chosenVariables(const BatchSelections& s, const VariableCatalogue& c);
+// The number a selection line gives a catalogue variable: its place in its
+// group, counted on across earlier groups of the same keyword (the four
+// scoring-scheme groups share "MACROSTRUCT": NSS 0-7, ESS 8-18, ...).
+int selectionIndex(const VariableCatalogue& c, int index);
 // Chooses one catalogue variable (by index) or all of them.
 void chooseVariable(BatchSelections& s, const VariableCatalogue& c, int index);
 void chooseAllVariables(BatchSelections& s, const VariableCatalogue& c);

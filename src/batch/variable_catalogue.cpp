@@ -117,11 +117,11 @@ void addStandardMeasures(CatalogueBuilder& b) {
     b.decimal("TimeMin", "Elapsed Time (minutes)");
     b.decimal("%IntelUt", "% Intelligible Utterances");
     b.decimal("%IntelWd", "% Intelligible Words");
-    b.decimal("NSS", "NSS Composite Score");
-    b.decimal("ESS", "ESS Composite Score");
-    b.decimal("PSS", "PSS Composite Score");
-    b.decimal("ONQ", "Oral Narrative Quality");
-    b.decimal("ONC", "Oral Narrative Comprehension");
+    b.count("NSS", "NSS Composite Score");
+    b.count("ESS", "ESS Composite Score");
+    b.count("PSS", "PSS Composite Score");
+    b.count("ONQ", "Oral Narrative Quality");
+    b.count("ONC", "Oral Narrative Comprehension");
     b.decimal("MLUw", "MLU in Words");
     b.decimal("MLUm", "MLU in Morphemes");
     b.decimal("%UtWVerb", "% Utterances with Verbs");
@@ -428,22 +428,95 @@ void addCodeSwitch(CatalogueBuilder& b) {
     b.count("CSwitchCodesUt", std::string("Utterance-level Code-switch Codes") + kTotal);
 }
 
+// The components of the shipped scoring templates (data/templates): column
+// name and component name. A template file edited by the user keeps these
+// columns; components it adds are read by `tavi measures` but have no column.
+using Components = std::initializer_list<std::pair<const char*, const char*>>;
+
+void addComponents(CatalogueBuilder& b, Components components, const char* kind) {
+    for (const auto& [name, title] : components)
+        b.count(name, std::string(title) + " - " + kind);
+}
+
 void addComprehension(CatalogueBuilder& b) {
     b.group("Comprehension Questions", "COMPQUES");
     b.count("CQ Total", "CQ Score");
-    b.decimal("ONC", "Oral Narrative Comprehension");
+    b.count("ONC", "Oral Narrative Comprehension");
+    for (int q = 1; q <= 10; ++q)
+        b.count("CQ_Q" + std::to_string(q), "Question " + std::to_string(q) + " - CQ Score");
+    addComponents(b,
+                  {{"ONC_Who", "Who"},
+                   {"ONC_Where", "Where"},
+                   {"ONC_Problem", "Problem"},
+                   {"ONC_Feeling", "Feeling"},
+                   {"ONC_Action", "Action"},
+                   {"ONC_Ending", "Ending"}},
+                  "ONC score");
 }
 
-// Groups whose variables come from lists outside the fixed catalogue (scoring
-// element tables, fluency behaviours, the explore word list): they stand in
-// the group table with no fixed variables.
-void addListGroups(CatalogueBuilder& b) {
+// Fluency behaviours, the Subordination Index and the scoring schemes: the
+// composites and the components of the shipped templates.
+void addMacroGroups(CatalogueBuilder& b) {
     b.group("Fluency Codes and Behaviors", "FLUENCY");
+    b.count("FCB Total", "Total Rating - Concomitant Behaviors");
+    b.count("FCB Rated", "Behaviors Rated - Concomitant Behaviors");
+    addComponents(b,
+                  {{"FCB_Blink", "Eye Blinking"},
+                   {"FCB_Gaze", "Eye Gaze Shift"},
+                   {"FCB_Face", "Facial Tension"},
+                   {"FCB_Head", "Head Movement"},
+                   {"FCB_Limb", "Limb Movement"},
+                   {"FCB_Breath", "Breathing"},
+                   {"FCB_Voice", "Vocal Changes"},
+                   {"FCB_Filler", "Filler Sounds"}},
+                  "Concomitant Behaviors");
     b.group("Subordination Index", "SI");
+    b.decimal("SI", "SI Composite Score - SI code");
+    b.count("SI Coded", "Utterances with an SI code - SI code");
     b.group("Narrative Scoring Scheme", "MACROSTRUCT");
+    b.count("NSS", "NSS Composite Score");
+    addComponents(b,
+                  {{"NSS_Intro", "Introduction"},
+                   {"NSS_CharDev", "Character Development"},
+                   {"NSS_MentalSt", "Mental States"},
+                   {"NSS_Ref", "Referencing"},
+                   {"NSS_ConfRes", "Conflict Resolution"},
+                   {"NSS_Cohes", "Cohesion"},
+                   {"NSS_Concl", "Conclusion"}},
+                  "NSS score");
     b.group("Expository Scoring Scheme", "MACROSTRUCT");
+    b.count("ESS", "ESS Composite Score");
+    addComponents(b,
+                  {{"ESS_Prep", "Preparations"},
+                   {"ESS_Object", "Object"},
+                   {"ESS_Start", "Start"},
+                   {"ESS_Course", "Course of Play"},
+                   {"ESS_Rules", "Rules"},
+                   {"ESS_Scoring", "Scoring"},
+                   {"ESS_Ending", "Ending"},
+                   {"ESS_Strategy", "Strategy"},
+                   {"ESS_Terms", "Terminology"},
+                   {"ESS_Cohes", "Cohesion"}},
+                  "ESS score");
     b.group("Persuasion Scoring Scheme", "MACROSTRUCT");
+    b.count("PSS", "PSS Composite Score");
+    addComponents(b,
+                  {{"PSS_Issue", "Issue Identification"},
+                   {"PSS_Reasons", "Supporting Reasons"},
+                   {"PSS_OtherPOV", "Other Point of View"},
+                   {"PSS_Compromise", "Compromise"},
+                   {"PSS_Concl", "Conclusion"},
+                   {"PSS_Cohes", "Cohesion"},
+                   {"PSS_Effect", "Effectiveness"}},
+                  "PSS score");
     b.group("Oral Narrative Quality", "MACROSTRUCT");
+    b.count("ONQ", "Oral Narrative Quality");
+    addComponents(b,
+                  {{"ONQ_Grammar", "Story Grammar"},
+                   {"ONQ_Sequence", "Sequence"},
+                   {"ONQ_Vocab", "Vocabulary"},
+                   {"ONQ_Fluency", "Fluency"}},
+                  "ONQ score");
 }
 
 void addGrammaticalCategories(CatalogueBuilder& b) {
@@ -504,7 +577,7 @@ const VariableCatalogue& VariableCatalogue::standard() {
         addNonmainstream(b);
         addCodeSwitch(b);
         addComprehension(b);
-        addListGroups(b);
+        addMacroGroups(b);
         addGrammaticalCategories(b);
         b.group("Explore", "EXPLORE");
         return c;

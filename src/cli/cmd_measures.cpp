@@ -7,10 +7,10 @@
 #include <string>
 
 #include "base/format.h"
+#include "base/json_text.h"
 #include "cli/args.h"
 #include "cli/cli_analysis.h"
 #include "cli/command.h"
-#include "base/json_text.h"
 #include "cli/stream_prompter.h"
 #include "transcript/time_value.h"
 
@@ -30,9 +30,27 @@ std::string jsonValue(const Value& v) {
     return jsonNumber(v.asReal());
 }
 
+// The values of the scoring templates the transcript holds and the number
+// of SI-coded utterances, after the measures: names and values.
+std::vector<std::pair<std::string, const Value*>> macroValues(const SpeakerMeasures& m) {
+    std::vector<std::pair<std::string, const Value*>> values;
+    for (const MacroScore& s : m.macro) {
+        if (!measureIdByName(s.variable))
+            values.emplace_back(s.variable, &s.composite);
+        values.emplace_back(s.key + " Rated", &s.rated);
+        for (const MacroComponent& c : s.components)
+            values.emplace_back(c.variable, &c.score);
+    }
+    if (m.si.coded > 0 || m.si.awaitingReview > 0)
+        values.emplace_back("SI Coded", &m.si.codedValue);
+    return values;
+}
+
 void printText(const SpeakerMeasures& m, std::ostream& out) {
     for (size_t i = 0; i < kMeasureCount; ++i)
         out << kMeasureInfo[i].name << '\t' << m.formatted(static_cast<MeasureId>(i)) << '\n';
+    for (const auto& [name, value] : macroValues(m))
+        out << name << '\t' << formatValue(*value, MeasureFormat::Count) << '\n';
 }
 
 void printJson(const SpeakerMeasures& m, std::ostream& out) {
@@ -40,6 +58,8 @@ void printJson(const SpeakerMeasures& m, std::ostream& out) {
     for (size_t i = 0; i < kMeasureCount; ++i)
         out << (i ? ",\n  " : "\n  ") << jsonString(kMeasureInfo[i].name) << ": "
             << jsonValue(m[static_cast<MeasureId>(i)]);
+    for (const auto& [name, value] : macroValues(m))
+        out << ",\n  " << jsonString(name) << ": " << jsonValue(*value);
     out << "\n}\n";
 }
 
@@ -210,7 +230,9 @@ const cli::CommandRegistrar reg{
      "Prints every measure of the 1st (default) or 2nd speaker, one line each:\n"
      "identifier, a tab, the value as the reports print it (\"   ---\" when it\n"
      "cannot be computed). --json prints one object keyed by the identifiers,\n"
-     "numbers unrounded, texts as strings, missing values as null.\n\n"
+     "numbers unrounded, texts as strings, missing values as null.\n"
+     "A transcript scored with templates adds their components' columns (NSS_Intro,\n"
+     "...) and the number scored (NSS Rated); one with SI codes adds \"SI Coded\".\n\n"
      "The analysis set, word base, transcript cut, moving-average window and code\n"
      "lists come from the settings (see tavi settings); these flags override them\n"
      "for this run only:\n"

@@ -216,6 +216,45 @@ std::string verbsSentence(const PerformanceInputs& in) {
            " lower than the database mean" + by(*b) + ".";
 }
 
+// One paragraph per scoring scheme the transcript is scored with.
+std::string macroSection(const PerformanceInputs& in) {
+    static constexpr std::pair<const char*, const char*> kSchemes[] = {
+        {"NSS", "Narrative Scoring Scheme"},
+        {"ESS", "Expository Scoring Scheme"},
+        {"ONQ", "Oral Narrative Quality"},
+        {"PSS", "Persuasion Scoring Scheme"}};
+    static constexpr const char* kSampleKind[] = {"narrative", "exposition", "narrative",
+                                                  "persuasive sample"};
+    std::string text;
+    for (size_t i = 0; i < std::size(kSchemes); ++i) {
+        const MacroScore* s = in.measures ? in.measures->macroScore(kSchemes[i].first) : nullptr;
+        if (!s)
+            continue;
+        text += format("%sThe %s was used to assess the structure and content of %s%s %s.",
+                       text.empty() ? "" : " ", kSchemes[i].second, kSpeakerLower, kPossessive,
+                       kSampleKind[i]);
+        text += format(" %s%s composite score was %d out of a possible %d points.", kSpeaker,
+                       kPossessive, s->composite.asCount(), s->maxComposite);
+    }
+    return text;
+}
+
+// The comprehension questions: how many were asked and answered correctly.
+std::string comprehensionSection(const PerformanceInputs& in) {
+    const MacroScore* s = in.measures ? in.measures->macroScore("CQ") : nullptr;
+    if (!s)
+        return {};
+    const int asked = static_cast<int>(s->components.size());
+    const int right = s->composite.asCount();
+    std::string text = format(
+        "After listening to the story for the first time, %s was asked %d comprehension questions.",
+        kSpeakerLower, asked);
+    if (right == asked)
+        return text + format(" %s answered all of them correctly.", kSpeaker);
+    return text + moreSentence(in, M::CQTotal,
+                               format(" %s answered %d of them correctly", kSpeaker, right));
+}
+
 std::string syntaxSection(const PerformanceInputs& in) {
     std::string text;
     if (auto v = valueOf(in, M::MLUw))
@@ -405,6 +444,8 @@ Report buildPerformanceReport(const PerformanceInputs& in) {
             elicitationSection(in));
     section("Transcript Length", lengthSection(in));
     section("Intelligibility", intelligibilitySection(in));
+    section("Macro Analysis", macroSection(in));
+    section("Comprehension", comprehensionSection(in));
     section("Syntax/Morphology", syntaxSection(in));
     section("Semantics", semanticsSection(in));
     section("Discourse", discourseSection(in));

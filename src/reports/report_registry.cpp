@@ -12,6 +12,7 @@
 #include "reports/discourse_summary_report.h"
 #include "reports/errors_summary_report.h"
 #include "reports/explore_db_reports.h"
+#include "reports/macro_report.h"
 #include "reports/maze_distribution_report.h"
 #include "reports/quick_look_report.h"
 #include "reports/semantics_summary_report.h"
@@ -27,10 +28,10 @@ namespace tavi {
 namespace {
 
 Report standardMeasures(const ReportInputs& in) {
+    const SmrVariables shown = smrVariablesFor(in.choices.smrVariables, in.values);
     if (in.database)
-        return buildStandardMeasuresReport(in.context, in.values, in.choices.smrVariables,
-                                           in.labels, *in.database);
-    return buildStandardMeasuresReport(in.context, in.values, in.choices.smrVariables, in.labels);
+        return buildStandardMeasuresReport(in.context, in.values, shown, in.labels, *in.database);
+    return buildStandardMeasuresReport(in.context, in.values, shown, in.labels);
 }
 
 Report utteranceTypes(const ReportInputs& in) {
@@ -51,6 +52,16 @@ Report performance(const ReportInputs& in) {
 
 Report goalBank(const ReportInputs& in) {
     return buildGoalBank(performanceFrom(in));
+}
+
+template <char... K> Report scoringTemplate(const ReportInputs& in) {
+    static constexpr char kKey[] = {K..., '\0'};
+    return buildTemplateReport(kKey, in.context, in.analysis.measures(), in.labels, in.database);
+}
+
+Report subordinationIndex(const ReportInputs& in) {
+    return buildSubordinationIndexReport(in.context, in.analysis.measures(), in.labels,
+                                         in.database);
 }
 
 using enum ReportKind;
@@ -112,6 +123,19 @@ constexpr std::array kReports{
     ReportDefinition{"code-switch-codes", "Code-switch Codes", "ID_ANAL_CODESWITCH", RichText,
                      buildCodeSwitchCodesReport, true},
     // Macro analysis: scoring schemes, questions, Subordination Index.
+    ReportDefinition{"nss", "Narrative Scoring Scheme", "ID_ANAL_NSS", RichText, scoringTemplate<'N', 'S', 'S'>},
+    ReportDefinition{"ess", "Expository Scoring Scheme", "ID_ANAL_ESS", RichText, scoringTemplate<'E', 'S', 'S'>},
+    ReportDefinition{"pss", "Persuasion Scoring Scheme", "ID_ANAL_PSS", RichText, scoringTemplate<'P', 'S', 'S'>},
+    ReportDefinition{"onq", "Oral Narrative Quality", "ID_ANAL_ONQ", RichText, scoringTemplate<'O', 'N', 'Q'>},
+    ReportDefinition{"questions", "Comprehension Questions", "ID_ANAL_CQ", RichText, scoringTemplate<'C', 'Q'>},
+    ReportDefinition{"onc", "Oral Narrative Comprehension", "", RichText, scoringTemplate<'O', 'N', 'C'>},
+    ReportDefinition{"si", "Subordination Index", "ID_ANAL_SI", RichText, subordinationIndex},
+    ReportDefinition{"db-nss", "Database Narrative Scoring Scheme", "ID_DB_NSS", RichText, scoringTemplate<'N', 'S', 'S'>, false, DatabaseUse::Required},
+    ReportDefinition{"db-ess", "Database Expository Scoring Scheme", "ID_DB_ESS", RichText, scoringTemplate<'E', 'S', 'S'>, false, DatabaseUse::Required},
+    ReportDefinition{"db-pss", "Database Persuasion Scoring Scheme", "ID_DB_PSS", RichText, scoringTemplate<'P', 'S', 'S'>, false, DatabaseUse::Required},
+    ReportDefinition{"db-onq", "Database Oral Narrative Quality", "ID_DB_ONQ", RichText, scoringTemplate<'O', 'N', 'Q'>, false, DatabaseUse::Required},
+    ReportDefinition{"db-questions", "Database Comprehension Questions", "ID_DB_CQ", RichText, scoringTemplate<'C', 'Q'>, false, DatabaseUse::Required},
+    ReportDefinition{"db-si", "Database Subordination Index", "ID_DB_SI", RichText, subordinationIndex, false, DatabaseUse::Required},
     // Reports against a database (the Database menu).
     ReportDefinition{"quick-look", "Quick Look", "ID_DB_QUICK", RichText, buildQuickLookReport,
                      false, DatabaseUse::Required},

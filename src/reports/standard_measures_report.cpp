@@ -190,6 +190,14 @@ SmrVariables SmrVariables::defaults() {
     return variables;
 }
 
+SmrVariables smrVariablesFor(const SmrVariables& chosen, const MeasureSource& measures) {
+    SmrVariables shown = chosen;
+    for (size_t i : {6, 7, 8, 9, 10, 16})
+        if (!shown.chosen[i] && measures && measures(kLines[i].measureId))
+            shown.chosen[i] = true;
+    return shown;
+}
+
 std::string_view smrLinePrefix(const SmrLineDef& line) {
     return line.analysisSet ? "# " : "  ";
 }

@@ -54,6 +54,11 @@ struct SmrVariables {
     bool operator==(const SmrVariables&) const = default;
 };
 
+// The lines to print for one transcript: the chosen ones, plus the macro
+// analysis lines and the SI score whenever the transcript holds their scored
+// lines or codes.
+SmrVariables smrVariablesFor(const SmrVariables& chosen, const MeasureSource& measures);
+
 // The prefix of a line: "# " for analysis-set measures, two blanks otherwise.
 std::string_view smrLinePrefix(const SmrLineDef& line);
 

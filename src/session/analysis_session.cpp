@@ -60,6 +60,7 @@ AnalysisContext analysisContext(const Settings& settings,
     context.resources = std::move(resources);
     if (context.resources)
         context.resources->attach(context.measures);
+    context.measures.templates = context.check.templates.get();
     return context;
 }
 

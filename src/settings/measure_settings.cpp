@@ -59,6 +59,8 @@ CheckOptions checkOptionsFrom(const Settings& s) {
     keyword("PL_PLUSDOB", o.dobKeyword);
     keyword("PL_PLUSDOE", o.doeKeyword);
     keyword("PL_PLUSCA", o.caKeyword);
+    o.templates =
+        std::make_shared<const TemplateSet>(loadTemplateFolder(s.folders.templates, nullptr));
     return o;
 }
 

@@ -82,6 +82,7 @@ struct SettingsFolders {
     std::string altDatabase; // "ALTDBASEDIR": external databases
     std::string rif;         // "HASHFILEDIR": root identification files
     std::string batch;       // "BATCHDIR": rectangular data file selections
+    std::string templates;   // scoring templates (macro analysis)
 
     bool operator==(const SettingsFolders&) const = default;
 };

@@ -63,6 +63,7 @@ Settings defaultSettings(const std::string& sharedData, const std::string& userD
     folders.altDatabase = work;
     folders.database = isFolder(sharedData + "samples/") ? sharedData + "samples/" : sharedData;
     folders.rif = sharedData;
+    folders.templates = sharedData + "templates/";
     settings.transcriptFont = font(11, "DejaVu Sans Mono");
     settings.reportFont = font(10, "DejaVu Sans");
     settings.printFont = font(10, "DejaVu Sans");

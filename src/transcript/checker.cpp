@@ -346,6 +346,12 @@ void Checker::State::finish() {
         result.segmented.headers, headerOptions, [this](Problem id, int at, std::string message) {
             list.report(errCode(id), at, options.transcriptIndex, std::move(message));
         });
+    if (options.templates)
+        checkTemplateLines(*options.templates, result.segmented.headers,
+                           [this](Problem id, int at, std::string message) {
+                               list.report(errCode(id), at, options.transcriptIndex,
+                                           std::move(message));
+                           });
     const PauseTallies& p = result.pauses;
     if (p.firstTimedLine != 0 && p.firstUntimedLine != 0)
         report(Problem::MixedPauseTiming, p.firstTimedLine, p.firstUntimedLine);

@@ -13,6 +13,7 @@
 
 #include "transcript/date_format.h"
 #include "transcript/err.h"
+#include "transcript/scoring_template.h"
 #include "transcript/segmented_transcript.h"
 #include "transcript/tran_line.h"
 
@@ -34,6 +35,8 @@ struct CheckOptions {
     std::function<bool(int line)> analysedLine;
     // Keep the segmented transcript in the result (one walk for both).
     bool keepSegmentation = false;
+    // The scoring templates whose "+" lines are checked; null: none.
+    std::shared_ptr<const TemplateSet> templates;
 };
 
 enum class SpeakerTableState { NotYetSeen, Good, Bad };

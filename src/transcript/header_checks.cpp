@@ -1,6 +1,8 @@
 // Header line checks: dates, ages and the required header line.
 #include "transcript/header_checks.h"
 
+#include "transcript/scoring_template.h"
+
 #include <algorithm>
 
 #include "base/format.h"
@@ -141,6 +143,32 @@ int checkHeaders(const std::vector<HeaderLine>& headers, const HeaderCheckOption
         report(Problem::AgeMismatch, caLine->line, options.ca, options.dob, options.doe,
                formatText);
     return *ca;
+}
+
+void checkTemplateLines(const TemplateSet& templates, const std::vector<HeaderLine>& headers,
+                        const HeaderReport& reportTo) {
+    auto report = [&]<class... A>(ProblemRef<A...> p, int line, const A&... args) {
+        reportTo(p.id, line, problemText(p, args...));
+    };
+    for (const ScoringTemplate& t : templates.all()) {
+        TemplateScores scores = readTemplateScores(t, headers);
+        if (!scores.present)
+            continue;
+        int firstLine = 0;
+        for (const ComponentScore& c : scores.components)
+            if (c.line && (!firstLine || c.line < firstLine))
+                firstLine = c.line;
+        for (const ComponentScore& c : scores.components) {
+            const std::string keyword = t.keyword(*c.component);
+            if (!c.line)
+                report(Problem::MissingHeader, firstLine, keyword);
+            else if (c.text.empty() || c.text == "?")
+                report(Problem::TemplateScoreMissing, c.line, keyword);
+            else if (!c.score || c.outOfRange)
+                report(Problem::TemplateScoreOutOfRange, c.line, keyword, c.text,
+                       c.component->minScore, c.component->maxScore);
+        }
+    }
 }
 
 } // namespace tavi

@@ -30,6 +30,13 @@ using HeaderReport = std::function<void(Problem id, int line, std::string messag
 int checkHeaders(const std::vector<HeaderLine>& headers, const HeaderCheckOptions& options,
                  const HeaderReport& report);
 
+class TemplateSet;
+
+// The lines of every scoring template the transcript uses: a score outside
+// the component's range, a line left unscored, a component line missing.
+void checkTemplateLines(const TemplateSet& templates, const std::vector<HeaderLine>& headers,
+                        const HeaderReport& report);
+
 struct Date {
     int year = 0; // four digits; two-digit years are taken as 1950..2049
     int month = 0;

@@ -122,6 +122,11 @@ TEST(BatchRun, RowsMatchTheSingleTranscriptMeasures) {
                 if (v.source != ValueSource::Measure)
                     continue;
                 const Value* value = single.speakers[speaker].find(v.measure);
+                // A scoring-template column of a template the transcript
+                // does not hold is empty.
+                const Value missing;
+                if (!value && !measureIdByName(v.measure))
+                    value = &missing;
                 ASSERT_NE(value, nullptr) << v.name;
                 EXPECT_EQ(row[c], batchValueText(*value, v, options.selections))
                     << files[f] << " speaker " << speaker << " " << v.name;

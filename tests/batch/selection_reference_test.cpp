@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "base/file_io.h"
+#include "batch/batch_selections.h"
 #include "batch/variable_catalogue.h"
 
 namespace tavi {
@@ -52,8 +53,8 @@ std::vector<std::string> catalogueEntries() {
         entries.push_back("group " + g.keyword + " " + g.title);
         for (int i = 0; i < g.count; ++i) {
             const BatchVariable& v = c.variable(g.first + i);
-            entries.push_back(g.keyword + " " + std::to_string(i) + " " + v.name + " = " +
-                              v.description);
+            entries.push_back(g.keyword + " " + std::to_string(selectionIndex(c, g.first + i)) +
+                              " " + v.name + " = " + v.description);
         }
     }
     return entries;

@@ -52,6 +52,8 @@ kinds=$(tavi report --help | sed -n '/^Reports (KIND):/,$ s/^  \([a-z][a-z0-9-]*
 # shellcheck disable=SC2086
 expect "tavi report " $kinds
 expect "tavi report go" goals
+expect "tavi si " suggest
+expect "tavi si suggest --speaker " 1 2
 expect "tavi report smr --speaker " 1 2
 expect "tavi report smr --sp" --speaker
 expect "tavi report types " LOUD.TVI story.tvi sub
