@@ -45,26 +45,6 @@ constexpr std::array<std::string_view, 12> kRarelyVerbs = {
 
 } // namespace
 
-VerbList VerbList::parse(std::string_view text) {
-    VerbList list;
-    for (std::string_view line : splitLines(text))
-        if (std::string_view w = trim(line); !w.empty() && w.front() != '#')
-            list.words_.insert(lower(w));
-    return list;
-}
-
-bool VerbList::loadFile(const std::string& path, VerbList& list) {
-    std::string bytes;
-    if (!readFile(path, bytes))
-        return false;
-    list = parse(decodeText(bytes).utf8);
-    return true;
-}
-
-bool VerbList::contains(std::string_view word) const {
-    return words_.contains(std::string(word));
-}
-
 int suggestClauseCount(const std::vector<std::string>& words, const VerbList& verbs,
                        const GcDictionary* dictionary) {
     auto lexical = [&](size_t i) {

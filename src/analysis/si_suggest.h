@@ -12,27 +12,13 @@
 #include <unordered_set>
 #include <vector>
 
+#include "analysis/verb_list.h"
 #include "transcript/segmented_transcript.h"
 #include "transcript/utterance.h"
 
 namespace tavi {
 
 class GcDictionary;
-
-class VerbList {
-public:
-    VerbList() = default;
-    // One word a line, as data/verbs.txt holds them (every inflected form).
-    static VerbList parse(std::string_view text);
-    // Empty (and false) when the file cannot be read.
-    static bool loadFile(const std::string& path, VerbList& list);
-    bool contains(std::string_view word) const;
-    bool empty() const { return words_.empty(); }
-    void add(std::string word) { words_.insert(std::move(word)); }
-
-private:
-    std::unordered_set<std::string> words_;
-};
 
 // The suggested clause count of words in order (lower case, main body only;
 // clitics already spelt out as words: "it's" as "it", "is").

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "base/file_io.h"
 #include "base/text.h"
 
 namespace tavi {
@@ -16,6 +17,15 @@ VerbList VerbList::parse(std::string_view text) {
         text.remove_prefix(std::min(end + 1, text.size()));
     }
     return list;
+}
+
+bool VerbList::loadFile(const std::string& path, VerbList& list) {
+    list = VerbList();
+    std::string bytes;
+    if (!readFile(path, bytes))
+        return false;
+    list = parse(decodeText(bytes).utf8);
+    return true;
 }
 
 } // namespace tavi

@@ -14,9 +14,14 @@ class VerbList {
 public:
     // One form a line; blank lines are skipped, forms kept in lower case.
     static VerbList parse(std::string_view text);
+    // Reads a verb file (any encoding the transcripts may have); false, with
+    // the list left empty, when it cannot be read.
+    static bool loadFile(const std::string& path, VerbList& list);
     // Whether a word (lower case) is a verb form of the list.
     bool contains(std::string_view word) const { return forms_.contains(std::string(word)); }
     size_t size() const { return forms_.size(); }
+    bool empty() const { return forms_.empty(); }
+    void add(std::string form) { forms_.insert(std::move(form)); }
 
 private:
     std::unordered_set<std::string> forms_;
