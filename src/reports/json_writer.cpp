@@ -75,11 +75,17 @@ std::string reportToJson(const Report& report, const JsonReportSource& source) {
                       ", \"title\": " + jsonString(report.title) +
                       ", \"transcript\": " + jsonString(source.transcript) +
                       ", \"speaker\": " + std::to_string(source.speaker + 1) + ",\n \"header\": {";
+    int unlabelled = 0;
     for (size_t i = 0; i < report.header.size(); ++i) {
         const LabelledLine& line = report.header[i];
-        out += (i ? ", " : "") +
-               jsonString(line.label.empty() ? std::string_view("Transcript") : line.label) + ": " +
-               jsonString(line.value);
+        std::string key = line.label;
+        if (key.empty()) {
+            ++unlabelled;
+            key = unlabelled == 1   ? "Transcript"
+                  : unlabelled == 2 ? "Source"
+                                    : "Source " + std::to_string(unlabelled - 1);
+        }
+        out += (i ? ", " : "") + jsonString(key) + ": " + jsonString(line.value);
     }
     out += "},\n \"sections\": [";
     std::vector<std::string> sections;

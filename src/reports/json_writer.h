@@ -1,6 +1,8 @@
 // A report as JSON, one envelope for every kind of report, for scripts that
 // read reports rather than people: the header as label/text pairs (the
-// unlabelled first line, the transcript's name, under "Transcript"), each
+// unlabelled first line, the transcript's name, under "Transcript"; further
+// unlabelled lines, where the numbers come from, under "Source", "Source 2"
+// ...), each
 // section's rows with their cells. A cell that reads as a number (a count, a
 // mean, a percentage without its sign) is a JSON number, a missing value is
 // null, anything else a string.
