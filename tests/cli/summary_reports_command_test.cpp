@@ -11,14 +11,14 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "../support/golden_text.h"
 #include "base/file_io.h"
 
 namespace {
 
-namespace fs = std::filesystem;
+using tavi::test::expectGolden;
 
-const fs::path kSamples = fs::path(TAVI_TEST_DATA_DIR) / ".." / ".." / "data" / "samples";
-const fs::path kGolden = fs::path(TAVI_TEST_DATA_DIR) / "reports";
+namespace fs = std::filesystem;
 
 struct ShellRun {
     int status = -1;
@@ -59,23 +59,10 @@ protected:
         tavi::readFile(dir_ / "stderr.txt", text);
         return text;
     }
-    static std::string sample(const char* name) {
-        return "'" + (kSamples / (std::string(name) + ".tvi")).string() + "'";
-    }
+    static std::string sample(const char* name) { return tavi::test::sampleArgument(name); }
 
     fs::path dir_;
 };
-
-void expectGolden(const std::string& actual, const std::string& name) {
-    const fs::path golden = kGolden / name;
-    if (std::getenv("TAVI_UPDATE_GOLDEN")) {
-        ASSERT_EQ(tavi::writeFileAtomic(golden, actual), tavi::WriteStatus::Ok);
-        return;
-    }
-    std::string expected;
-    ASSERT_TRUE(tavi::readFile(golden, expected)) << golden;
-    EXPECT_EQ(actual, expected) << "report differs from " << golden;
-}
 
 TEST_F(SummaryCommand, SummariesOfASampleMatchTheirGoldenText) {
     for (const char* kind :

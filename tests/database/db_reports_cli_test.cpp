@@ -12,6 +12,7 @@
 #include <regex>
 #include <sstream>
 
+#include "../support/golden_text.h"
 #include "base/file_io.h"
 #include "base/text.h"
 #include "peer_fixture.h"
@@ -23,22 +24,8 @@ namespace {
 using tavi::test::Peers;
 using tavi::test::sample;
 
-const std::string kGoldenDir = std::string(TAVI_TEST_DATA_DIR) + "/reports/database/";
-
 std::string withoutDate(const std::string& report) {
     return std::regex_replace(report, std::regex("TAVI [0-9.]+, [0-9-]+\n"), "TAVI, DATE\n");
-}
-
-void expectGolden(const std::string& actual, const std::string& name) {
-    const std::string path = kGoldenDir + name;
-    if (std::getenv("TAVI_UPDATE_GOLDEN")) {
-        std::ofstream(path) << actual;
-        return;
-    }
-    std::ifstream in(path);
-    std::stringstream s;
-    s << in.rdbuf();
-    EXPECT_EQ(actual, s.str()) << "report differs from " << path;
 }
 
 // The statistics `tavi db select --json` gives one measure.
@@ -156,7 +143,7 @@ TEST_F(DbReports, EverySummaryRowAgreesWithTheDatabaseSelection) {
 TEST_F(DbReports, GoldenQuickLookAndSyntaxSummary) {
     auto quick = report("quick-look");
     ASSERT_EQ(quick.status, 0) << quick.err;
-    expectGolden(withoutDate(quick.out), "quick-look.txt");
+    tavi::test::expectGolden(withoutDate(quick.out), "database/quick-look.txt");
     // MLU 7 against 8, 10, 12: 1.50 SD below, in words.
     EXPECT_NE(quick.out.find("MLU in Words:  7.00  1.50 SD below the database mean (10.00, SD "
                              "2.00)"),
@@ -164,7 +151,7 @@ TEST_F(DbReports, GoldenQuickLookAndSyntaxSummary) {
         << quick.out;
     auto syntax = report("db-syntax-summary");
     ASSERT_EQ(syntax.status, 0) << syntax.err;
-    expectGolden(withoutDate(syntax.out), "db-syntax-summary.txt");
+    tavi::test::expectGolden(withoutDate(syntax.out), "database/db-syntax-summary.txt");
 }
 
 TEST_F(DbReports, ExploreWordsCodesAndPlusLines) {
