@@ -46,6 +46,16 @@ bool CTAVIDoc::load(const QString& path, QString& error) {
         error = QStringLiteral("Cannot open ") + path;
         return false;
     }
+    // A PDF, a word-processor file or any other binary file would show as
+    // garbage and be checked line by line: say what it is instead.
+    const std::string_view head = std::string_view(loaded.text).substr(0, 8192);
+    if (head.starts_with("%PDF-") || head.find('\0') != std::string_view::npos) {
+        error =
+            QStringLiteral("Cannot open %1: it is not a transcript but a %2 file.")
+                .arg(QFileInfo(path).fileName(),
+                     head.starts_with("%PDF-") ? QStringLiteral("PDF") : QStringLiteral("binary"));
+        return false;
+    }
     std::string joined;
     for (const tranLine& line : loaded.lines) {
         joined += line.text;

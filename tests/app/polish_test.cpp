@@ -2,6 +2,7 @@
 // can be seen, fonts that stay as they were when a dialog is confirmed, a
 // report without a caret, the new-transcript dialog's dates and labels, and
 // Help buttons that open their document.
+#include <QFile>
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QLabel>
@@ -107,6 +108,18 @@ TEST_F(PolishTest, OptionsDialogsOpenTheirHelpBesideThemAndButtonsKeepOneLine) {
         qobject_cast<QDialog*>(w)->reject();
     });
     run("ID_SETUP_WBASE");
+}
+
+TEST_F(PolishTest, APdfIsNotOpenedAsATranscript) {
+    QFile pdf(tempPath("report.pdf"));
+    ASSERT_TRUE(pdf.open(QIODevice::WriteOnly));
+    pdf.write(QByteArray("%PDF-1.4\n%\xE2\xE3\xCF\xD3\n1 0 obj\n<< >>\nstream\n\0\x01\x02"));
+    pdf.close();
+    pressOnMessage("OK");
+    EXPECT_EQ(frame->openTranscript(tempPath("report.pdf")), nullptr);
+    settle();
+    EXPECT_EQ(messages.value(0), "Cannot open report.pdf: it is not a transcript but a PDF file.");
+    EXPECT_TRUE(frame->transcriptFrames().isEmpty());
 }
 
 } // namespace
