@@ -1,5 +1,6 @@
 // The Analyze menu's single-transcript reports.
 #include <QInputDialog>
+#include <algorithm>
 
 #include "app/help_window.h"
 #include "app/main_frame.h"
@@ -94,13 +95,19 @@ bool CMainFrame::chooseReportSpeaker(const ReportDefinition& report, TranscriptA
     QStringList choices = {QString::fromStdString("1st speaker (" + speakers.first + ")")};
     if (!speakers.second.empty())
         choices << QString::fromStdString("2nd speaker (" + speakers.second + ")");
-    bool ok = false;
-    const QString chosen = QInputDialog::getItem(
-        this, QString::fromUtf8(report.title.data(), static_cast<qsizetype>(report.title.size())),
-        QStringLiteral("Speaker:"), choices, app_.reportSpeaker, false, &ok);
-    if (!ok)
+    const QString title =
+        QString::fromUtf8(report.title.data(), static_cast<qsizetype>(report.title.size()));
+    QInputDialog dialog(this);
+    dialog.setWindowTitle(title);
+    dialog.setLabelText(QStringLiteral("Speaker:"));
+    dialog.setComboBoxItems(choices);
+    dialog.setTextValue(choices.value(app_.reportSpeaker, choices.front()));
+    // Wide enough for the whole title: window managers cut a long title short.
+    dialog.setMinimumWidth(dialog.fontMetrics().horizontalAdvance(title) + 160);
+    if (dialog.exec() != QDialog::Accepted)
         return false;
-    app_.reportSpeaker = static_cast<int>(choices.indexOf(chosen));
+    app_.reportSpeaker =
+        static_cast<int>(std::max<qsizetype>(0, choices.indexOf(dialog.textValue())));
     analysis.speaker = app_.reportSpeaker;
     return true;
 }
