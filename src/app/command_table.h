@@ -178,8 +178,8 @@ enum class CommandStatus { Working, Unavailable };
     X(ID_CONTEXT_HELP, Working) \
     X(ID_HELP_BOOK, Unavailable) \
     X(ID_HELP_GRAPHS, Working) \
-    X(ID_HELP_ONLINE, Unavailable) \
-    X(ID_HELP_ACROBAT, Unavailable) \
+    X(ID_HELP_ONLINE, Working) \
+    X(ID_HELP_ACROBAT, Working) \
     X(ID_HELP_README, Working) \
     X(ID_APP_ABOUT, Working)
 // clang-format on

@@ -162,6 +162,7 @@ private:
     void closeAll(bool reportsOnly);
     void showHelpDocument(const QString& relativePath);
     void showAbout();
+    void showPdfViewer();
 
     CTAVIApp& app_;
     QMdiArea* mdi_;

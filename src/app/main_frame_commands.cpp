@@ -174,6 +174,9 @@ void CMainFrame::registerCommands() {
     on(ID_CONTEXT_HELP, [this] { showHelpDocument(QStringLiteral("docs/index.md")); });
     on(ID_HELP_README, [this] { showHelpDocument(QStringLiteral("README.md")); });
     on(ID_HELP_GRAPHS, [this] { showNormativeGraph(); });
+    // The documentation index stands in for online resources: no network.
+    on(ID_HELP_ONLINE, [this] { showHelpDocument(QStringLiteral("docs/index.md")); });
+    on(ID_HELP_ACROBAT, [this] { showPdfViewer(); });
     on(ID_APP_ABOUT, [this] { showAbout(); });
 }
 

@@ -1,8 +1,12 @@
 // The Help menu: the bundled documents and the about box.
+#include <QDesktopServices>
 #include <QDir>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QMdiSubWindow>
 #include <QMessageBox>
+#include <QProcess>
+#include <QUrl>
 
 #include "app/help_window.h"
 #include "app/main_frame.h"
@@ -56,6 +60,34 @@ void CMainFrame::showHelpDocument(const QString& relativePath) {
     placeNewWindow(frame);
     frame->show();
     mdi_->setActiveSubWindow(frame);
+}
+
+// "Get Acrobat Reader" on Linux: which program the desktop opens PDF reports
+// with (the system's choice for application/pdf), and a PDF report opened
+// with it on request. Nothing is fetched from the network.
+void CMainFrame::showPdfViewer() {
+    QProcess query;
+    query.start(QStringLiteral("xdg-mime"), {QStringLiteral("query"), QStringLiteral("default"),
+                                             QStringLiteral("application/pdf")});
+    QString viewer;
+    if (query.waitForFinished(3000) && query.exitStatus() == QProcess::NormalExit)
+        viewer = QString::fromLocal8Bit(query.readAllStandardOutput()).trimmed();
+    viewer.remove(QStringLiteral(".desktop"));
+    if (viewer.isEmpty()) {
+        app_.prompter().inform("No program is set up to open PDF files on this computer. Install "
+                               "a PDF viewer (for example the Debian package evince or okular); "
+                               "TAVI's PDF reports open in it.");
+        return;
+    }
+    const std::string question =
+        "PDF reports open with " + viewer.toStdString() + ". Open a PDF report with it now?";
+    if (!app_.prompter().confirm(question))
+        return;
+    const QString file =
+        QFileDialog::getOpenFileName(this, QStringLiteral("Open PDF Report"), app_.reportDir(),
+                                     QStringLiteral("PDF file (*.pdf *.PDF)"));
+    if (!file.isEmpty())
+        QDesktopServices::openUrl(QUrl::fromLocalFile(file));
 }
 
 void CMainFrame::showAbout() {

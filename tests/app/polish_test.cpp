@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTextBrowser>
 
@@ -120,6 +121,26 @@ TEST_F(PolishTest, APdfIsNotOpenedAsATranscript) {
     settle();
     EXPECT_EQ(messages.value(0), "Cannot open report.pdf: it is not a transcript but a PDF file.");
     EXPECT_TRUE(frame->transcriptFrames().isEmpty());
+}
+
+TEST_F(PolishTest, HelpNamesThePdfViewerAndOpensTheLocalDocumentation) {
+    whenModal([this](QWidget* w) {
+        auto* box = qobject_cast<QMessageBox*>(w);
+        ASSERT_NE(box, nullptr);
+        messages << box->text();
+        box->reject();
+    });
+    run("ID_HELP_ACROBAT");
+    settle();
+    ASSERT_EQ(messages.size(), 1);
+    EXPECT_TRUE(messages[0].startsWith("No program is set up to open PDF files") ||
+                messages[0].startsWith("PDF reports open with "))
+        << messages[0].toStdString();
+
+    run("ID_HELP_ONLINE");
+    QMdiSubWindow* help = frame->mdiArea().activeSubWindow();
+    ASSERT_NE(help, nullptr);
+    EXPECT_EQ(help->objectName(), "CHelpFrame");
 }
 
 } // namespace
