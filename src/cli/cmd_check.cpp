@@ -7,11 +7,11 @@
 
 #include "base/file_io.h"
 #include "base/format.h"
+#include "base/json_text.h"
 #include "base/text.h"
 #include "cli/args.h"
 #include "cli/cli_settings.h"
 #include "cli/command.h"
-#include "base/json_text.h"
 #include "cli/stream_prompter.h"
 #include "session/analysis_session.h"
 #include "transcript/check_listing.h"

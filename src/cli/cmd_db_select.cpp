@@ -9,10 +9,10 @@
 #include <vector>
 
 #include "base/format.h"
+#include "base/json_text.h"
 #include "batch/peer_report_inputs.h"
 #include "cli/cli_analysis.h"
 #include "cli/db_select.h"
-#include "base/json_text.h"
 #include "cli/peer_flags.h"
 #include "cli/stream_prompter.h"
 #include "database/peer_selection.h"

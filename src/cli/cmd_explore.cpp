@@ -8,11 +8,11 @@
 #include <vector>
 
 #include "base/file_io.h"
+#include "base/json_text.h"
 #include "base/text.h"
 #include "cli/args.h"
 #include "cli/cli_analysis.h"
 #include "cli/command.h"
-#include "base/json_text.h"
 #include "cli/stream_prompter.h"
 #include "explore/explore.h"
 #include "explore/explore_edit.h"
