@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QMenuBar>
+#include <QMouseEvent>
 #include <QPrinter>
 #include <QStatusBar>
 #include <algorithm>
@@ -115,6 +116,18 @@ QAction* CMainFrame::makeAction(const MenuEntry& entry) {
     return act;
 }
 
+// A menu does not make a disabled command current, so it never says it is
+// hovered: the pointer's command is looked up here, so that the prompt of a
+// command not available yet shows in the status bar as any other does.
+bool CMainFrame::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::MouseMove)
+        if (auto* menu = qobject_cast<QMenu*>(watched))
+            if (QAction* a = menu->actionAt(static_cast<QMouseEvent*>(event)->position().toPoint());
+                a && !a->isEnabled())
+                statusBar()->showMessage(a->statusTip());
+    return QMainWindow::eventFilter(watched, event);
+}
+
 void CMainFrame::buildMenus() {
     std::vector<QMenu*> open;
     for (const MenuEntry& entry : mainMenuTable()) {
@@ -128,6 +141,7 @@ void CMainFrame::buildMenus() {
                     [this](QAction* a) { statusBar()->showMessage(a->statusTip()); });
             connect(m, &QMenu::aboutToHide, this,
                     [this] { statusBar()->showMessage(QStringLiteral("Ready")); });
+            m->installEventFilter(this);
             open.push_back(m);
             break;
         }

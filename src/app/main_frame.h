@@ -71,6 +71,7 @@ protected:
 
 private:
     void buildMenus();
+    bool eventFilter(QObject* watched, QEvent* event) override;
     QAction* makeAction(const MenuEntry& entry);
     void registerCommands();
     void on(CommandId id, std::function<void()> run, std::function<bool()> enabled = {});

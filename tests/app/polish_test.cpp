@@ -9,8 +9,11 @@
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QMessageBox>
+#include <QMouseEvent>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QTextBrowser>
 
 #include "app/app_fixture.h"
@@ -141,6 +144,25 @@ TEST_F(PolishTest, HelpNamesThePdfViewerAndOpensTheLocalDocumentation) {
     QMdiSubWindow* help = frame->mdiArea().activeSubWindow();
     ASSERT_NE(help, nullptr);
     EXPECT_EQ(help->objectName(), "CHelpFrame");
+}
+
+TEST_F(PolishTest, HoveringACommandNotAvailableSaysWhyInTheStatusBar) {
+    QAction* unavailable = action("ID_FILE_IMPORT_CP");
+    ASSERT_NE(unavailable, nullptr);
+    ASSERT_FALSE(unavailable->isEnabled());
+    QMenu* menu = nullptr;
+    for (QObject* o : unavailable->associatedObjects())
+        if (auto* m = qobject_cast<QMenu*>(o))
+            menu = m;
+    ASSERT_NE(menu, nullptr);
+    menu->resize(menu->sizeHint()); // laid out as when it opens
+    const QPointF at = menu->actionGeometry(unavailable).center();
+    QMouseEvent move(QEvent::MouseMove, at, menu->mapToGlobal(at), Qt::NoButton, Qt::NoButton,
+                     Qt::NoModifier);
+    QApplication::sendEvent(menu, &move);
+    EXPECT_EQ(frame->statusBar()->currentMessage(), unavailable->statusTip());
+    EXPECT_TRUE(frame->statusBar()->currentMessage().contains("not available"))
+        << frame->statusBar()->currentMessage().toStdString();
 }
 
 } // namespace
