@@ -137,6 +137,11 @@ private:
     bool separateOptions(bool multiple, SeparateOptions& options);
     void replaceTranscriptText(CTAVIFrame& frame, const std::string& text);
     std::string writeExploreEdit(const QString& path, const CodeEdit& edit);
+    QStringList forEachExploredFile(
+        const QStringList& files, const ExploreCriteria& criteria,
+        const std::function<std::string(const std::string&)>& question,
+        const std::function<std::string(const QString&, const std::string&, const ExploreResult&)>&
+            visit);
     void editFiles(const ExploreCriteria& criteria,
                    const std::function<std::string(const std::string&)>& question,
                    const std::function<CodeEdit(const std::string&, const ExploreResult&)>& edit);

@@ -271,14 +271,14 @@ std::string CMainFrame::writeExploreEdit(const QString& path, const CodeEdit& ed
     return name + ": cannot be written (not changed)";
 }
 
-// Runs an edit over chosen files: each is searched, asked about when it has
-// errors, edited and saved with its backup; one message tells the outcome.
-void CMainFrame::editFiles(
-    const ExploreCriteria& criteria, const std::function<std::string(const std::string&)>& question,
-    const std::function<CodeEdit(const std::string&, const ExploreResult&)>& edit) {
-    const QStringList files = exploreFiles(QStringLiteral("Explore Multiple Transcripts"));
-    if (files.isEmpty())
-        return;
+// Explores each of the files, asks about one with errors (Yes goes on, No
+// skips it, Cancel stops) and lets `visit` say what became of it; the
+// outcome lines are returned in file order.
+QStringList CMainFrame::forEachExploredFile(
+    const QStringList& files, const ExploreCriteria& criteria,
+    const std::function<std::string(const std::string&)>& question,
+    const std::function<std::string(const QString&, const std::string&, const ExploreResult&)>&
+        visit) {
     const AnalysisContext context = app_.analysisContext();
     QStringList outcome;
     for (const QString& path : files) {
@@ -296,8 +296,24 @@ void CMainFrame::editFiles(
             if (a == Answer::No)
                 continue;
         }
-        outcome << QString::fromStdString(writeExploreEdit(path, edit(text, r)));
+        outcome << QString::fromStdString(visit(path, text, r));
     }
+    return outcome;
+}
+
+// Runs an edit over chosen files: each is searched, asked about when it has
+// errors, edited and saved with its backup; one message tells the outcome.
+void CMainFrame::editFiles(
+    const ExploreCriteria& criteria, const std::function<std::string(const std::string&)>& question,
+    const std::function<CodeEdit(const std::string&, const ExploreResult&)>& edit) {
+    const QStringList files = exploreFiles(QStringLiteral("Explore Multiple Transcripts"));
+    if (files.isEmpty())
+        return;
+    const QStringList outcome = forEachExploredFile(
+        files, criteria, question,
+        [&](const QString& path, const std::string& text, const ExploreResult& r) {
+            return writeExploreEdit(path, edit(text, r));
+        });
     if (!outcome.isEmpty())
         app_.prompter().inform(outcome.join(QLatin1Char('\n')).toStdString());
 }
@@ -500,36 +516,21 @@ void CMainFrame::exploreSave(bool multiple) {
         this, QStringLiteral("Save Separate Transcripts In"), app_.transcriptDir());
     if (folder.isEmpty())
         return;
-    const AnalysisContext context = app_.analysisContext();
-    QStringList outcome;
-    for (const QString& path : files) {
-        const std::string name = QFileInfo(path).fileName().toStdString();
-        std::string text;
-        if (!readTranscriptText(path.toStdString(), text)) {
-            outcome << QString::fromStdString(name + " could not be opened");
-            continue;
-        }
-        ExploreResult r = exploreText(text, context, *criteria);
-        if (r.analysis.hasErrors()) {
-            Answer a = app_.prompter().ask(separateErrorsQuestion(name));
-            if (a == Answer::Cancel)
-                break;
-            if (a == Answer::No)
-                continue;
-        }
-        const QString target = QDir(folder).filePath(QString::fromStdString(options.prefix + name));
-        if (QFileInfo(target).canonicalFilePath() == QFileInfo(path).canonicalFilePath()) {
-            outcome << QString::fromStdString(name + ": not saved over itself");
-            continue;
-        }
-        const std::string separate =
-            separateTranscriptText(splitTranscriptLines(text), r.matches, options);
-        outcome << QString::fromStdString(
-            saveTranscript(target.toStdString(), separate) == WriteStatus::Ok
-                ? format("%s: %d utterances saved", target.toStdString().c_str(),
-                         static_cast<int>(r.matches.size()))
-                : "Cannot write to " + target.toStdString());
-    }
+    const QStringList outcome = forEachExploredFile(
+        files, *criteria, separateErrorsQuestion,
+        [&](const QString& path, const std::string& text, const ExploreResult& r) -> std::string {
+            const std::string name = QFileInfo(path).fileName().toStdString();
+            const QString target =
+                QDir(folder).filePath(QString::fromStdString(options.prefix + name));
+            if (QFileInfo(target).canonicalFilePath() == QFileInfo(path).canonicalFilePath())
+                return name + ": not saved over itself";
+            const std::string separate =
+                separateTranscriptText(splitTranscriptLines(text), r.matches, options);
+            if (saveTranscript(target.toStdString(), separate) != WriteStatus::Ok)
+                return "Cannot write to " + target.toStdString();
+            return format("%s: %d utterances saved", target.toStdString().c_str(),
+                          static_cast<int>(r.matches.size()));
+        });
     app_.prompter().inform(outcome.join(QLatin1Char('\n')).toStdString());
 }
 
