@@ -3,8 +3,10 @@
 // Find stepping through the found utterances, code insertion undone and
 // deleted, and separate transcripts.
 #include <QCheckBox>
+#include <QDir>
 #include <QFile>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSpinBox>
@@ -202,6 +204,41 @@ TEST_F(ExploreTest, ExploreMultipleInsertsIntoFilesKeepingABackup) {
     std::string backup;
     ASSERT_TRUE(readFile(backupPath(copy.toStdString(), app->backupDir().toStdString()), backup));
     EXPECT_EQ(backup, before);
+}
+
+TEST_F(ExploreTest, ExploreMultipleSavesSeparateTranscriptsButNeverOverTheirSource) {
+    const QString folder = tempPath("separate");
+    ASSERT_TRUE(QDir().mkpath(folder));
+    const QString source = QDir(folder).filePath("park.tvi");
+    ASSERT_TRUE(QFile::copy(dataFile("park.tvi"), source));
+    chooseLongUtterances();
+    whenModal([](QWidget* w) {
+        auto* prefix = w->findChild<QLineEdit*>(QStringLiteral("prefix"));
+        ASSERT_NE(prefix, nullptr);
+        prefix->setText("long-");
+        qobject_cast<QDialog*>(w)->accept();
+    });
+    chooseFile(source);
+    chooseFile(folder);
+    pressOnMessage("OK");
+    run("ID_EMULT_SAVE");
+    const QString target = QDir(folder).filePath("long-park.tvi");
+    EXPECT_EQ(messages.back(), target + ": 3 utterances saved");
+    TranscriptAnalysis separate = analyseFile(target.toStdString(), app->analysisContext());
+    EXPECT_FALSE(separate.hasErrors());
+    EXPECT_EQ(separate.measures().find("TotNumUt")->asCount(), 3);
+
+    // An empty prefix would write the separate transcript over its source.
+    chooseLongUtterances();
+    whenModal([](QWidget* w) {
+        w->findChild<QLineEdit*>(QStringLiteral("prefix"))->clear();
+        qobject_cast<QDialog*>(w)->accept();
+    });
+    chooseFile(source);
+    chooseFile(folder);
+    pressOnMessage("OK");
+    run("ID_EMULT_SAVE");
+    EXPECT_EQ(messages.back(), "park.tvi: not saved over itself");
 }
 
 } // namespace
