@@ -9,6 +9,7 @@
 #include <memory>
 #include <string>
 
+#include "../support/tavi_process.h"
 #include "analysis/measures.h"
 #include "transcript/segmenter.h"
 #include "transcript/transcript_file.h"
@@ -65,14 +66,9 @@ std::string run(const std::string& args, int* status) {
     std::filesystem::create_directories(dir);
     std::string cmd = std::string(TAVI_BINARY) + " --settings-dir " + dir.string() + " measures " +
                       args + " 2>&1";
-    std::unique_ptr<FILE, int (*)(FILE*)> pipe(popen(cmd.c_str(), "r"), pclose);
-    std::string out;
-    std::array<char, 4096> buf;
-    size_t n;
-    while ((n = fread(buf.data(), 1, buf.size(), pipe.get())) > 0)
-        out.append(buf.data(), n);
-    *status = WEXITSTATUS(pclose(pipe.release()));
-    return out;
+    tavi::test::TaviRun r = tavi::test::runShell(cmd);
+    *status = r.status;
+    return r.out;
 }
 
 MeasureResult measuresOf(std::string_view text) {

@@ -10,29 +10,18 @@
 #include <fstream>
 #include <string>
 
+#include "../support/tavi_process.h"
+
 namespace {
 
 namespace fs = std::filesystem;
 
-struct Outcome {
-    std::string out;
-    int status = -1;
-};
+using Outcome = tavi::test::TaviRun;
 
 // Runs `tavi check ARGS`, capturing stdout (stderr into `errFile`).
 Outcome runCheck(const std::string& args, const fs::path& errFile) {
-    std::string command = std::string(TAVI_BINARY) + " check " + args + " 2>" + errFile.string();
-    Outcome run;
-    FILE* pipe = popen(command.c_str(), "r");
-    if (!pipe)
-        return run;
-    char buffer[4096];
-    size_t n;
-    while ((n = fread(buffer, 1, sizeof buffer, pipe)) > 0)
-        run.out.append(buffer, n);
-    int status = pclose(pipe);
-    run.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    return run;
+    return tavi::test::runShell(std::string(TAVI_BINARY) + " check " + args + " 2>" +
+                                errFile.string());
 }
 
 class CheckCommand : public ::testing::Test {

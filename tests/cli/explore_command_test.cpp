@@ -11,14 +11,13 @@
 #include <fstream>
 #include <string>
 
+#include "../support/tavi_process.h"
+
 namespace {
 
 namespace fs = std::filesystem;
 
-struct Outcome {
-    std::string out;
-    int status = -1;
-};
+using Outcome = tavi::test::TaviRun;
 
 class ExploreCommand : public ::testing::Test {
 protected:
@@ -35,17 +34,7 @@ protected:
         std::string command = "TAVI_DATA_USER=" + (dir_ / "user").string() +
                               " XDG_DOCUMENTS_DIR=" + (dir_ / "docs").string() + " " + TAVI_BINARY +
                               " explore " + args + " 2>" + (dir_ / "stderr.txt").string();
-        Outcome run;
-        FILE* pipe = popen(command.c_str(), "r");
-        if (!pipe)
-            return run;
-        char buffer[4096];
-        size_t n;
-        while ((n = fread(buffer, 1, sizeof buffer, pipe)) > 0)
-            run.out.append(buffer, n);
-        int status = pclose(pipe);
-        run.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-        return run;
+        return tavi::test::runShell(command);
     }
     std::string file(const std::string& name, const std::string& bytes) {
         fs::path p = dir_ / name;

@@ -11,6 +11,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "../support/tavi_process.h"
 #include "base/file_io.h"
 
 namespace {
@@ -20,10 +21,7 @@ namespace fs = std::filesystem;
 const fs::path kSamples = fs::path(TAVI_TEST_DATA_DIR) / ".." / ".." / "data" / "samples";
 const fs::path kGolden = fs::path(TAVI_TEST_DATA_DIR) / "reports";
 
-struct TaviRun {
-    int status = -1;
-    std::string out;
-};
+using tavi::test::TaviRun;
 
 class ReportCommand : public ::testing::Test {
 protected:
@@ -39,15 +37,7 @@ protected:
         const std::string command = std::string("'") + TAVI_BINARY + "' --settings-dir '" +
                                     (dir_ / "settings").string() + "' " + arguments + " 2>'" +
                                     (dir_ / "stderr.txt").string() + "'";
-        TaviRun run;
-        FILE* pipe = ::popen(command.c_str(), "r");
-        std::array<char, 4096> buffer{};
-        size_t n;
-        while ((n = std::fread(buffer.data(), 1, buffer.size(), pipe)) > 0)
-            run.out.append(buffer.data(), n);
-        const int status = ::pclose(pipe);
-        run.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-        return run;
+        return tavi::test::runShell(command);
     }
     std::string stderrText() {
         std::string text;

@@ -12,6 +12,7 @@
 #include <unistd.h>
 
 #include "../support/golden_text.h"
+#include "../support/tavi_process.h"
 #include "base/file_io.h"
 
 namespace {
@@ -20,10 +21,7 @@ using tavi::test::expectGolden;
 
 namespace fs = std::filesystem;
 
-struct ShellRun {
-    int status = -1;
-    std::string out;
-};
+using ShellRun = tavi::test::TaviRun;
 
 class SummaryCommand : public ::testing::Test {
 protected:
@@ -44,15 +42,7 @@ protected:
              at = command.find("tavi ", at + tavi.size()))
             command.replace(at, 4, tavi);
         command += " 2>'" + (dir_ / "stderr.txt").string() + "'";
-        ShellRun run;
-        FILE* pipe = ::popen(command.c_str(), "r");
-        std::array<char, 4096> buffer{};
-        size_t n;
-        while ((n = std::fread(buffer.data(), 1, buffer.size(), pipe)) > 0)
-            run.out.append(buffer.data(), n);
-        const int status = ::pclose(pipe);
-        run.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-        return run;
+        return tavi::test::runShell(command);
     }
     std::string stderrText() {
         std::string text;

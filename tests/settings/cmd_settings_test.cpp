@@ -5,30 +5,14 @@
 #include <cstdio>
 #include <sys/wait.h>
 
+#include "../support/tavi_process.h"
 #include "temp_folder.h"
 
 namespace tavi {
 namespace {
 
-struct ShellRun {
-    int status = -1;
-    std::string out;
-};
-
-// Runs a shell command line and returns its exit status and standard output.
-ShellRun runShell(const std::string& command) {
-    ShellRun run;
-    std::FILE* pipe = ::popen(command.c_str(), "r");
-    if (!pipe)
-        return run;
-    char buffer[4096];
-    size_t n = 0;
-    while ((n = std::fread(buffer, 1, sizeof buffer, pipe)) > 0)
-        run.out.append(buffer, n);
-    int status = ::pclose(pipe);
-    run.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    return run;
-}
+using test::runShell;
+using ShellRun = test::TaviRun;
 
 std::string quoted(const std::string& text) {
     return "'" + text + "'";

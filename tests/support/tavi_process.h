@@ -18,11 +18,9 @@ struct TaviRun {
     std::string err;
 };
 
-inline TaviRun runTavi(const std::filesystem::path& settingsDir, const std::string& arguments) {
-    const std::filesystem::path errFile = settingsDir / "stderr.txt";
-    const std::string command = std::string("'") + TAVI_BINARY + "' --settings-dir '" +
-                                settingsDir.string() + "' " + arguments + " 2>'" +
-                                errFile.string() + "'";
+// Runs one shell command line: its standard output and exit status (-1 when
+// it could not be started or did not exit normally).
+inline TaviRun runShell(const std::string& command) {
     TaviRun run;
     FILE* pipe = ::popen(command.c_str(), "r");
     if (!pipe)
@@ -33,6 +31,14 @@ inline TaviRun runTavi(const std::filesystem::path& settingsDir, const std::stri
         run.out.append(buffer.data(), n);
     const int status = ::pclose(pipe);
     run.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    return run;
+}
+
+inline TaviRun runTavi(const std::filesystem::path& settingsDir, const std::string& arguments) {
+    const std::filesystem::path errFile = settingsDir / "stderr.txt";
+    TaviRun run =
+        runShell(std::string("'") + TAVI_BINARY + "' --settings-dir '" + settingsDir.string() +
+                 "' " + arguments + " 2>'" + errFile.string() + "'");
     std::ifstream err(errFile, std::ios::binary);
     run.err.assign(std::istreambuf_iterator<char>(err), {});
     return run;
