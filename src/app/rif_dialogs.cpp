@@ -17,6 +17,7 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include "app/help_window.h"
 #include "app/qt_prompter.h"
 #include "app/tavi_app.h"
 #include "base/file_io.h"
@@ -248,6 +249,14 @@ CRifEditorDialog::CRifEditorDialog(CTAVIApp& app, const QString& path, QWidget* 
         buttons->addButton(QStringLiteral("Save &As..."), QDialogButtonBox::ActionRole);
     QPushButton* close = buttons->addButton(QDialogButtonBox::Close);
     close->setText(QStringLiteral("&Close"));
+    QPushButton* help = buttons->addButton(QDialogButtonBox::Help);
+    help->setText(QStringLiteral("&Help"));
+    connect(help, &QPushButton::clicked, this, [this] {
+        const QString document =
+            QStringLiteral("docs/root-identification.md#edit-rif-file-contents");
+        if (!openHelpWindow(app_, document, this))
+            app_.prompter().inform("Cannot open " + document.toStdString());
+    });
     add->setObjectName(QStringLiteral("add"));
     remove->setObjectName(QStringLiteral("delete"));
     import->setObjectName(QStringLiteral("import"));

@@ -38,6 +38,11 @@ void applyRifSettingsLine(const KeywordLine& line, RifSettings& rif) {
 
 RifSettings rifSettings(const Settings& settings) {
     RifSettings rif;
+    // The language options may name a slot's first file ("LANGUAGE RIF1ALT1
+    // name"); a "RIFSET" line of the slot comes after and wins.
+    for (size_t s = 0; s < rif.files.size(); ++s)
+        if (const std::string& named = settings.language.slots[s].rif[0]; !named.empty())
+            rif.files[s] = named;
     for (const KeywordLine& line : settings.sectionLines("RIFSET"))
         applyRifSettingsLine(line, rif);
     return rif;

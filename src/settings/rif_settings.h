@@ -30,7 +30,9 @@ struct RifSettings {
 
 std::vector<std::string> rifSettingsLines(const RifSettings& rif);
 void applyRifSettingsLine(const KeywordLine& line, RifSettings& rif);
-// The settings as the "RIFSET" lines of the settings record give them.
+// The settings as the "RIFSET" lines of the settings record give them; a
+// slot without a "FILE" line takes the first file the language options name
+// for it ("LANGUAGE RIF1<slot> name"), if any.
 RifSettings rifSettings(const Settings& settings);
 
 // The slot whose language name equals the transcript's language (without

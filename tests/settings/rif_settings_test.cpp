@@ -22,6 +22,14 @@ TEST(RifSettings, SavedLinesReadBackAndAnEmptySlotStaysEmpty) {
     // Nothing saved: the shipped English file for the primary slot.
     EXPECT_EQ(rifSettings(Settings{}).files[0], kDefaultRifFile);
     EXPECT_FALSE(rifSettings(Settings{}).replaceAll);
+
+    // A file named by the language options stands unless a RIFSET line names another.
+    Settings named;
+    named.language.slots[2].rif[0] = "French.rif";
+    named.language.slots[0].rif[0] = "Mine.rif";
+    named.replaceSectionLines("RIFSET", {"RIFSET FILEPRIMARY English.rif"});
+    EXPECT_EQ(rifSettings(named).files[2], "French.rif");
+    EXPECT_EQ(rifSettings(named).files[0], "English.rif");
 }
 
 TEST(RifSettings, TranscriptLanguageChoosesTheSlot) {
