@@ -18,6 +18,7 @@
 #include "base/text.h"
 #include "explore/word_marking.h"
 #include "settings/rif_settings.h"
+#include "transcript/header_line.h"
 #include "transcript/transcript_file.h"
 
 namespace tavi::app {
@@ -25,10 +26,11 @@ namespace tavi::app {
 namespace {
 
 // The transcript's "+Language:" value, empty when it has none.
-std::string transcriptLanguage(const SegmentedTranscript& t) {
-    for (const HeaderLine& h : t.headers)
-        if (equalsIgnoreCase(h.keyword, "Language"))
-            return h.value;
+std::string transcriptLanguage(const TranLines& lines) {
+    for (const tranLine& line : lines)
+        if (std::optional<HeaderLine> h = parseHeaderLine(line.text, line.line);
+            h && equalsIgnoreCase(h->keyword, "Language"))
+            return h->value;
     return {};
 }
 
@@ -61,7 +63,7 @@ void CMainFrame::identifyRoots() {
     const TranscriptAnalysis analysis = analyseTranscript(lines, app_.analysisContext());
     const Settings& settings = app_.settings();
     const RifSettings rif = rifSettings(settings);
-    const LanguageSlot slot = rifSlotFor(transcriptLanguage(analysis.check.segmented), rif);
+    const LanguageSlot slot = rifSlotFor(transcriptLanguage(lines), rif);
     const std::filesystem::path path = rifFilePath(settings, rif, slot);
     if (path.empty()) {
         app_.prompter().inform("No root identification file is set for this language (see "
@@ -116,11 +118,8 @@ void CMainFrame::editRifContents() {
     const Settings& settings = app_.settings();
     const RifSettings rif = rifSettings(settings);
     LanguageSlot slot = LanguageSlot::Primary;
-    if (CTAVIFrame* frame = activeTranscriptFrame()) {
-        const TranscriptAnalysis analysis =
-            analyseTranscript(frame->doc().lines(), app_.analysisContext(), {.measure = false});
-        slot = rifSlotFor(transcriptLanguage(analysis.check.segmented), rif);
-    }
+    if (CTAVIFrame* frame = activeTranscriptFrame())
+        slot = rifSlotFor(transcriptLanguage(frame->doc().lines()), rif);
     std::filesystem::path path = rifFilePath(settings, rif, slot);
     if (path.empty())
         path = std::filesystem::path(settings.folders.rif) / kDefaultRifFile;

@@ -98,6 +98,35 @@ TEST_F(RifTest, IdentifyRootsAsksForEachWordAndWritesOneUndoableEdit) {
     EXPECT_EQ(text(f), original);
 }
 
+TEST_F(RifTest, TheTranscriptsLanguageChoosesTheFile) {
+    useRifFile("went:go:\n");
+    QFile spanish(tempPath("es.rif"));
+    ASSERT_TRUE(spanish.open(QIODevice::WriteOnly));
+    spanish.write("fue:ir,ser:\n");
+    spanish.close();
+    app->settings().replaceSectionLines(
+        "RIFSET",
+        {"RIFSET FILEPRIMARY test.rif", "RIFSET FILEALT1 es.rif", "RIFSET LANGALT1 Spanish"});
+    CTAVIFrame* f = frame->newTranscript(
+        QStringLiteral("$ Child, Examiner\n+ Language: spanish\nC fue went.\n"));
+    whenModal([](QWidget* w) {
+        auto* choices = w->findChild<QListWidget*>("choices");
+        ASSERT_EQ(choices->count(), 2);
+        choices->setCurrentRow(1);
+        press(w, "replace");
+    });
+    pressOnMessage("OK");
+    run("ID_EDIT_IDENTIFY_ROOTS");
+    EXPECT_TRUE(text(f).endsWith("C fue|ser went.\n")) << text(f).toStdString();
+
+    // The editor opens the file of the active transcript's language.
+    whenModal([this](QWidget* w) {
+        EXPECT_EQ(qobject_cast<CRifEditorDialog*>(w)->path(), tempPath("es.rif"));
+        qobject_cast<QDialog*>(w)->reject();
+    });
+    run("ID_EDSET_RIF_EDIT");
+}
+
 TEST_F(RifTest, EditorImportsAWordListFindsAndSaves) {
     useRifFile("went:go:\n");
     QFile list(tempPath("words.txt"));
