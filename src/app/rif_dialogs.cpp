@@ -297,18 +297,7 @@ CRifEditorDialog::CRifEditorDialog(CTAVIApp& app, const QString& path, QWidget* 
             importFile(file);
     });
     connect(saveButton, &QPushButton::clicked, this, [this] { save(); });
-    connect(saveAs, &QPushButton::clicked, this, [this] {
-        const QString file = QFileDialog::getSaveFileName(
-            this, QStringLiteral("Save RIF File As"), path_,
-            QStringLiteral("Root identification files (*.rif);;All files (*)"));
-        if (file.isEmpty())
-            return;
-        const QString old = path_;
-        path_ = file;
-        if (!save())
-            path_ = old;
-        pathLabel_->setText(path_);
-    });
+    connect(saveAs, &QPushButton::clicked, this, [this] { this->saveAs(); });
     connect(buttons, &QDialogButtonBox::rejected, this, &CRifEditorDialog::reject);
     connect(table_, &QTableWidget::itemChanged, this, [this] { modified_ = true; });
     load(path);
@@ -376,7 +365,42 @@ std::optional<RifWords> CRifEditorDialog::words() {
     return words;
 }
 
+bool CRifEditorDialog::saveAs() {
+    // The program's own files are never changed: a copy of one starts in the
+    // transcript folder.
+    const QString start = isProgramFile() ? folderName(app_.settings().folders.transcript) +
+                                                QLatin1Char('/') + QFileInfo(path_).fileName()
+                                          : path_;
+    const QString file = QFileDialog::getSaveFileName(
+        this, QStringLiteral("Save RIF File As"), start,
+        QStringLiteral("Root identification files (*.rif);;All files (*)"));
+    if (file.isEmpty())
+        return false;
+    const QString old = path_;
+    path_ = file;
+    if (isProgramFile() || !save()) {
+        path_ = old;
+        return false;
+    }
+    pathLabel_->setText(path_);
+    const QString rifFolder = QFileInfo(folderName(app_.settings().folders.rif)).absoluteFilePath();
+    if (QFileInfo(path_).absolutePath() != rifFolder)
+        app_.prompter().inform("Root identification files are looked for in " +
+                               rifFolder.toStdString() +
+                               ": to use this file, choose its folder in Setup > File Locations > "
+                               "Root Identification Files, or name it in RIF Settings");
+    return true;
+}
+
+bool CRifEditorDialog::isProgramFile() const {
+    const QString shared =
+        QFileInfo(folderName(app_.settings().folders.sharedData)).absoluteFilePath();
+    return !shared.isEmpty() && QFileInfo(path_).absoluteFilePath().startsWith(shared + '/');
+}
+
 bool CRifEditorDialog::save() {
+    if (isProgramFile())
+        return saveAs();
     std::optional<RifWords> table = words();
     if (!table)
         return false;

@@ -75,8 +75,10 @@ public:
     // (its message was shown).
     std::optional<RifWords> words();
     void setWords(const RifWords& words);
-    // Writes the file; true when it was written.
+    // Writes the file; true when it was written. A file of the program's
+    // data folder is never written: Save asks where to keep a copy.
     bool save();
+    bool saveAs();
     // Imports a word list ("word:defn1,defn2:replace1,replace2" lines).
     void importFile(const QString& file);
     void find(const QString& text);
@@ -86,6 +88,7 @@ public:
 
 private:
     void load(const QString& path);
+    bool isProgramFile() const;
     void addRow(const RifEntry& entry);
 
     CTAVIApp& app_;

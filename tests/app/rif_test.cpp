@@ -189,6 +189,37 @@ TEST_F(RifTest, EditorAsksBeforeLosingChangesAndRefusesABrokenRow) {
     EXPECT_EQ(readRifFile(tempPath("test.rif").toStdString())->words.size(), 1u);
 }
 
+TEST_F(RifTest, TheProgramsOwnFileIsSavedAsACopy) {
+    const QString shipped =
+        QString::fromStdString(app->settings().folders.sharedData) + "English.rif";
+    QFile original(shipped);
+    ASSERT_TRUE(original.open(QIODevice::ReadOnly));
+    const QByteArray before = original.readAll();
+    original.close();
+    whenModal([this, shipped](QWidget* w) {
+        auto* editor = qobject_cast<CRifEditorDialog*>(w);
+        EXPECT_EQ(editor->path(), shipped);
+        auto* table = editor->findChild<QTableWidget*>("words");
+        press(editor, "add");
+        table->item(table->rowCount() - 1, 0)->setText("wugs");
+        chooseFile(tempPath("mine.rif"));
+        pressOnMessage("OK"); // saved
+        pressOnMessage("OK"); // where files are looked for
+        press(editor, "save");
+        EXPECT_EQ(editor->path(), tempPath("mine.rif"));
+        editor->reject();
+    });
+    run("ID_EDSET_RIF_EDIT");
+    ASSERT_EQ(messages.size(), 2);
+    EXPECT_EQ(messages[0], "RIF file saved in " + tempPath("mine.rif"));
+    ASSERT_TRUE(original.open(QIODevice::ReadOnly));
+    EXPECT_EQ(original.readAll(), before);
+    std::optional<RifFileContents> copy = readRifFile(tempPath("mine.rif").toStdString());
+    ASSERT_TRUE(copy);
+    EXPECT_TRUE(copy->words.count("wugs"));
+    EXPECT_TRUE(copy->words.count("went"));
+}
+
 TEST_F(RifTest, SettingsAreSavedAsTheRifsetSection) {
     whenModal([this](QWidget* w) {
         auto* dialog = qobject_cast<CRifSettingsDialog*>(w);
