@@ -47,7 +47,7 @@ enum class CommandStatus { Working, Unavailable };
     X(ID_EDIT_INSERT_TEXT, Working) \
     X(ID_EDIT_INSERT_SYMBOL, Working) \
     X(ID_EDIT_DELETE_CODE, Working) \
-    X(ID_EDIT_IDENTIFY_ROOTS, Unavailable) \
+    X(ID_EDIT_IDENTIFY_ROOTS, Working) \
     X(ID_EDIT_INSERT_SI, Working) \
     X(ID_TEMPLATE_NSS, Working) \
     X(ID_TEMPLATE_ESS, Working) \
@@ -56,7 +56,7 @@ enum class CommandStatus { Working, Unavailable };
     X(ID_TEMPLATE_FCB, Working) \
     X(ID_TEMPLATE_ONQ, Working) \
     X(ID_TEMPLATE_ONC, Working) \
-    X(ID_EDIT_INSERT_GC, Unavailable) \
+    X(ID_EDIT_INSERT_GC, Working) \
     X(ID_ANAL_SMR, Working) \
     X(ID_ANAL_PERF, Working) \
     X(ID_ANAL_UTT_TYPES, Working) \
@@ -147,8 +147,8 @@ enum class CommandStatus { Working, Unavailable };
     X(ID_LISTS_TEXT, Unavailable) \
     X(ID_LISTS_SYMBOLS, Unavailable) \
     X(ID_EDSET_SI, Working) \
-    X(ID_EDSET_RIF_EDIT, Unavailable) \
-    X(ID_EDSET_RIF_SETTINGS, Unavailable) \
+    X(ID_EDSET_RIF_EDIT, Working) \
+    X(ID_EDSET_RIF_SETTINGS, Working) \
     X(ID_EDSET_BACKUP, Working) \
     X(ID_ANSET_TIMING, Unavailable) \
     X(ID_ANSET_MATTR, Working) \

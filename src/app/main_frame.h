@@ -113,6 +113,12 @@ private:
     void insertSiCodes();
     void siCodeSettings();
     int siSpeaker_ = 0; // "SI Code Settings": the speaker Insert SI Codes codes
+    // Root identification and grammatical-category codes (main_frame_rif.cpp)
+    void registerRifCommands();
+    void identifyRoots();
+    void editRifContents();
+    void rifSettingsDialog();
+    void insertGcCodes();
     // Database
     CTAVIDoc* databaseTarget() const;
     void refreshDatabaseMenu();

@@ -80,6 +80,7 @@ void CMainFrame::registerCommands() {
         ID_DB_GOALS, [this] { databaseReport("goals"); }, compared);
     registerMacroCommands();
     registerReportCommands();
+    registerRifCommands();
 
     // Edit
     on(

@@ -27,8 +27,8 @@ bool startsWord(char c) {
     return isBlank(c) || c == '(' || c == '<' || c == '"';
 }
 
-// Positions just after each word of the utterance as written; npos for a
-// word that cannot be found in the line (a linked word).
+} // namespace
+
 std::vector<size_t> wordEnds(std::string_view body, const Utterance& u) {
     std::vector<size_t> ends;
     size_t from = body.empty() ? 0 : 1; // after the speaker identifier
@@ -51,6 +51,8 @@ std::vector<size_t> wordEnds(std::string_view body, const Utterance& u) {
     }
     return ends;
 }
+
+namespace {
 
 bool wordInArea(const Word& w, ExploreArea area) {
     if (w.omitted || w.unintelligible)

@@ -26,6 +26,10 @@ struct ExploreMatch {
                                     // it; npos for a word not found as written (a linked word)
 };
 
+// Positions just after each word of the utterance in its line as written;
+// npos for a word that cannot be found there (a linked word).
+std::vector<size_t> wordEnds(std::string_view body, const Utterance& u);
+
 struct ExploreResult {
     TranscriptAnalysis analysis; // the problems and the selection the search ran on
     std::vector<ExploreMatch> matches;
