@@ -10,6 +10,8 @@
 
 #include "reports/report.h"
 
+class QPagedPaintDevice;
+
 namespace tavi::qt {
 
 struct PdfPageSetup {
@@ -23,6 +25,14 @@ struct PdfPageSetup {
 // The PDF bytes of the reports, each starting on a new page and numbering its
 // own pages. Creates the GUI application object when there is none.
 std::string reportsToPdf(const std::vector<const Report*>& reports, const PdfPageSetup& setup = {});
+
+// Draws the reports as `reportsToPdf` does on another paged device, such as
+// a printer: the device must be set to 300 dots per inch with its origin at
+// the paper's corner (a printer's "full page"), the setup giving its paper
+// size and the margins. False when the device is not so set or cannot be
+// painted on.
+bool paintReports(QPagedPaintDevice& device, const std::vector<const Report*>& reports,
+                  const PdfPageSetup& setup);
 
 // A customised report as one PDF: a title page (the cover's title and header
 // lines), a table of contents giving the page each report starts on, then
