@@ -21,13 +21,14 @@ out=${1:-$root/docs/screenshots}
 command -v xvfb-run >/dev/null || { echo "screenshots: install xvfb and xauth"; exit 1; }
 settings=$(mktemp -d)
 trap 'rm -rf "$settings"' EXIT
-mkdir -p "$settings/docs/My TAVI Data" "$out"
+docs=$settings/home/clinician/Documents
+mkdir -p "$docs/My TAVI Data" "$out"
 out=$(cd "$out" && pwd)
 sample=$(cd "$(dirname "$sample")" && pwd)/$(basename "$sample")
 status=0
 # From the database's folder, so that the pictures show its name only.
 (cd "$(dirname "$database")" &&
-    TAVI_DATA_USER=$settings/user XDG_DOCUMENTS_DIR=$settings/docs QT_QPA_PLATFORM=xcb \
+    TAVI_DATA_USER=$settings/user XDG_DOCUMENTS_DIR=$docs QT_QPA_PLATFORM=xcb \
         timeout 120 xvfb-run -a -s "-screen 0 1280x860x24" \
         "$gui" --screenshot "$out" --database "$(basename "$database")" "$sample") || status=$?
 ls -l "$out"

@@ -214,10 +214,12 @@ TEST_F(DesktopFeelTest, TheActiveWindowIsMarkedListedAndSearchedByFind) {
 TEST_F(DesktopFeelTest, DialogsAreAsWideAsTheirTitlesAndHaveMnemonics) {
     ASSERT_NE(frame->openTranscript(dataFile("park.tvi")), nullptr);
     const char* commands[] = {
-        "ID_FILE_NEW",     "ID_FILE_PRINT_SETUP", "ID_FILE_PDF_SETUP", "ID_EDIT_GOTO_ENTRY",
-        "ID_SETUP_ASET",   "ID_SETUP_WBASE",      "ID_SETUP_TCUT",     "ID_ANSET_MATTR",
-        "ID_ANSET_PCSD",   "ID_ANAL_SMR",         "ID_DB_SELECT",      "ID_TOOLS_RDF",
-        "ID_TOOLS_GENVOC", "ID_ANAL_UTT_TYPES",   "ID_EXPLORE_LIST",   "ID_EDSET_BACKUP",
+        "ID_FILE_NEW",       "ID_FILE_PRINT_SETUP", "ID_FILE_PDF_SETUP", "ID_EDIT_GOTO_ENTRY",
+        "ID_SETUP_ASET",     "ID_SETUP_WBASE",      "ID_SETUP_TCUT",     "ID_ANSET_MATTR",
+        "ID_ANSET_PCSD",     "ID_ANAL_SMR",         "ID_DB_SELECT",      "ID_TOOLS_RDF",
+        "ID_TOOLS_GENVOC",   "ID_ANAL_UTT_TYPES",   "ID_EXPLORE_LIST",   "ID_EDSET_BACKUP",
+        "ID_TOOLS_BUILD_DB", "ID_ANAL_CUSTOM_PDF",  "ID_EDSET_SI",       "ID_ANSET_DEFDB",
+        "ID_TOOLS_CHECK",
     };
     QStringList problems;
     for (const char* id : commands) {
@@ -242,9 +244,14 @@ TEST_F(DesktopFeelTest, DialogsAreAsWideAsTheirTitlesAndHaveMnemonics) {
                     if (DialogPolish::mnemonicOf(b->text()).isNull())
                         problems << where + QStringLiteral("button ") + b->text();
                 }
-                for (QLabel* l : w->findChildren<QLabel*>())
-                    if (l->buddy() && DialogPolish::mnemonicOf(l->text()).isNull())
+                for (QLabel* l : w->findChildren<QLabel*>()) {
+                    const bool mnemonic = !DialogPolish::mnemonicOf(l->text()).isNull();
+                    if (l->buddy() && !mnemonic)
                         problems << where + QStringLiteral("label ") + l->text();
+                    // A field's label without its field shows the "&" as it is.
+                    if (!l->buddy() && mnemonic && l->text().endsWith(QLatin1Char(':')))
+                        problems << where + QStringLiteral("label without a field ") + l->text();
+                }
             }
             w->close();
         });
