@@ -64,12 +64,12 @@ CPageSetupDialog::CPageSetupDialog(const QPageLayout& layout, bool withMargins, 
 QPageLayout CPageSetupDialog::layout() const {
     const auto id = static_cast<QPageSize::PageSizeId>(paper_->currentData().toInt());
     const QPageSize size = id == initial_.pageSize().id() ? initial_.pageSize() : QPageSize(id);
-    const double m = margin_ ? margin_->value() : initial_.margins(QPageLayout::Millimeter).left();
-    QPageLayout chosen(size,
-                       landscape_->isChecked() ? QPageLayout::Landscape : QPageLayout::Portrait,
-                       QMarginsF(m, m, m, m), QPageLayout::Millimeter);
-    if (!margin_)
-        chosen.setMargins(initial_.margins(QPageLayout::Millimeter));
+    const QMarginsF margins =
+        margin_ ? QMarginsF(margin_->value(), margin_->value(), margin_->value(), margin_->value())
+                : initial_.margins(QPageLayout::Millimeter);
+    const QPageLayout chosen(
+        size, landscape_->isChecked() ? QPageLayout::Landscape : QPageLayout::Portrait, margins,
+        QPageLayout::Millimeter);
     return chosen;
 }
 

@@ -1,7 +1,7 @@
 // Reports as PDF pages, drawn with Qt's QPdfWriter (no printer needed, works
 // without a display): a bold title, the header lines, shaded sections with
 // values in a right-hand column, ruled tables, and "Page %d of %d" in the
-// footer of every page.
+// footer of every page. The same pages can be drawn on a printer.
 #pragma once
 
 #include <filesystem>
