@@ -16,6 +16,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QProcess>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
 #include <QTextDocument>
@@ -264,6 +265,19 @@ TEST_F(DesktopFeelTest, DialogsAreAsWideAsTheirTitlesAndHaveMnemonics) {
         }
     }
     EXPECT_TRUE(problems.isEmpty()) << problems.join(QLatin1Char('\n')).toStdString();
+}
+
+TEST_F(DesktopFeelTest, ADialogNarrowerThanItsTitleIsWidenedAsItShows) {
+    QDialog dialog(frame.get());
+    dialog.setWindowTitle(
+        QStringLiteral("Summary of Utterance Types - a long transcript name.tvi"));
+    auto* save = new QPushButton(QStringLiteral("Save"), &dialog);
+    save->move(4, 4);
+    dialog.resize(120, 80);
+    dialog.show();
+    QApplication::processEvents();
+    EXPECT_GE(dialog.width(), DialogPolish::titleWidth(dialog));
+    EXPECT_EQ(save->text(), "&Save");
 }
 
 TEST_F(DesktopFeelTest, MnemonicsAreChosenFromFreeLettersAtWordStarts) {
