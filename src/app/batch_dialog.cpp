@@ -82,7 +82,9 @@ CBatchDialog::CBatchDialog(CTAVIApp& app, QWidget* parent)
     outputRow->addWidget(output_, 1);
     outputRow->addWidget(browse);
     form->addRow(QStringLiteral("File &format:"), format_);
-    form->addRow(QStringLiteral("Data &file:"), outputRow);
+    auto* outputLabel = new QLabel(QStringLiteral("Data &file:"), this);
+    outputLabel->setBuddy(output_);
+    form->addRow(outputLabel, outputRow);
 
     auto* all = new QPushButton(QStringLiteral("Select All in Group"), this);
     auto* none = new QPushButton(QStringLiteral("Clear Group"), this);

@@ -33,6 +33,11 @@ public:
     // already (the frame asks every window before it closes any).
     void closeWithoutAsking() { asked_ = true; }
 
+    // The frame marks the active window: a band in the highlight colour
+    // along its frame; the other windows are drawn as the style has them.
+    void setMarkedActive(bool active);
+    bool markedActive() const { return marked_; }
+
 Q_SIGNALS:
     void contextMenuWanted(QPoint globalPos);
     // Something that decides which commands can be chosen has changed.
@@ -40,11 +45,13 @@ Q_SIGNALS:
 
 protected:
     void closeEvent(QCloseEvent* e) override;
+    void paintEvent(QPaintEvent* e) override;
     // Called once the window is sure to close.
     virtual void closing() {}
 
 private:
     bool asked_ = false;
+    bool marked_ = false;
 };
 
 } // namespace tavi::app

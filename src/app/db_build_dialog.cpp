@@ -76,7 +76,9 @@ CDBBuildDialog::CDBBuildDialog(CTAVIApp& app, QWidget* parent)
     fileRow->addWidget(browse);
 
     auto* form = new QFormLayout;
-    form->addRow(QStringLiteral("Database &file:"), fileRow);
+    auto* fileLabel = new QLabel(QStringLiteral("Database &file:"), this);
+    fileLabel->setBuddy(database_);
+    form->addRow(fileLabel, fileRow);
     form->addRow(QStringLiteral("Sampling &context:"), context_);
     form->addRow(QStringLiteral("Descri&ption:"), description_);
     form->addRow(QStringLiteral("Pass&word:"), password_);

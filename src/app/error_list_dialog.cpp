@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "app/palette_colours.h"
 #include "app/tavi_doc.h"
 #include "app/tavi_view.h"
 #include "transcript/check_listing.h"
@@ -24,7 +25,9 @@ CErrorListDialog::CErrorListDialog(CTAVIView& view, const std::vector<err>& prob
     for (const err& e : problems_) {
         (e.isWarning() ? warnings : errors)++;
         auto* row = new QListWidgetItem(QString::fromStdString(formatProblem(e)), list_);
-        row->setForeground(e.isWarning() ? QColor(0x8a, 0x5a, 0x00) : QColor(Qt::darkRed));
+        row->setForeground(
+            readableOn(e.isWarning() ? QColor(0x8a, 0x5a, 0x00) : QColor(Qt::darkRed),
+                       list_->palette().color(QPalette::Base)));
     }
     connect(list_, &QListWidget::itemDoubleClicked, this,
             [this](QListWidgetItem* item) { goToRow(list_->row(item)); });

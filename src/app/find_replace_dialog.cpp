@@ -51,8 +51,12 @@ CFindReplaceDialog::CFindReplaceDialog(QWidget* parent)
     layout->addLayout(buttons);
 }
 
-void CFindReplaceDialog::setEditor(QPlainTextEdit* editor) {
+void CFindReplaceDialog::setEditor(QPlainTextEdit* editor, const QString& where) {
     editor_ = editor;
+    QString name = where;
+    name.remove(QStringLiteral("[*]"));
+    setWindowTitle(editor && !name.isEmpty() ? QStringLiteral("Find and Replace - ") + name
+                                             : QStringLiteral("Find and Replace"));
 }
 
 QTextDocument::FindFlags CFindReplaceDialog::flags() const {

@@ -16,7 +16,8 @@ class CFindReplaceDialog final : public QDialog {
     Q_OBJECT
 public:
     explicit CFindReplaceDialog(QWidget* parent = nullptr);
-    void setEditor(QPlainTextEdit* editor);
+    // The transcript searched; its window's name shows in the title.
+    void setEditor(QPlainTextEdit* editor, const QString& where = {});
 
     bool findNext();
     void replaceOne();

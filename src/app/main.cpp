@@ -1,7 +1,8 @@
 // The desktop program: the application state and its main frame. With
-// "--screenshot DIR" it opens the transcripts given, makes the Standard
-// Measures Report of the first one, writes pictures of the windows to DIR
-// and ends (tools/screenshots.sh runs it under Xvfb for the README). With
+// "--screenshot DIR [--database FILE]" it opens the transcripts given,
+// renders the picture gallery of the first one into DIR, and ends with 1
+// when a window lay outside its area (tools/screenshots.sh runs it under
+// Xvfb for the documentation). With
 // "--commands" it lists the menu commands and ends, before any window system
 // is needed.
 #include <QApplication>
@@ -16,32 +17,11 @@
 #include "app/command_table.h"
 
 #include "app/main_frame.h"
-#include "app/report_runner.h"
+#include "app/screenshot_gallery.h"
 #include "app/tavi_app.h"
 #include "app/tavi_doc.h"
 #include "app/tavi_frame.h"
 #include "app/tavi_view.h"
-
-namespace {
-
-void takeScreenshots(tavi::app::CMainFrame& frame, tavi::app::CTAVIApp& app, const QString& dir) {
-    QDir().mkpath(dir);
-    const QList<tavi::app::CTAVIFrame*> transcripts = frame.transcriptFrames();
-    if (transcripts.isEmpty())
-        return;
-    tavi::app::CTAVIDoc& doc = transcripts.front()->doc();
-    frame.grab().save(QDir(dir).filePath(QStringLiteral("transcript.png")));
-    const tavi::TranscriptAnalysis analysis = analyseForReport(app, doc.lines(), 0);
-    tavi::app::ReportSource source;
-    source.name = doc.title().toStdString();
-    source.choices.smrVariables = app.smrVariables;
-    frame.showReport(makeReport(app, "smr", analysis, source), &doc);
-    frame.mdiArea().tileSubWindows();
-    QApplication::processEvents();
-    frame.grab().save(QDir(dir).filePath(QStringLiteral("report.png")));
-}
-
-} // namespace
 
 int main(int argc, char** argv) {
     for (int i = 1; i < argc; ++i)
@@ -59,20 +39,28 @@ int main(int argc, char** argv) {
     if (!app.ok())
         return 1;
     tavi::app::CMainFrame frame(app);
-    frame.show();
     QStringList args = QApplication::arguments();
     args.removeFirst();
     QString screenshotDir;
+    QString galleryDatabase;
     if (args.size() >= 2 && args.front() == QLatin1String("--screenshot")) {
         args.removeFirst();
         screenshotDir = args.takeFirst();
+        if (args.size() >= 2 && args.front() == QLatin1String("--database")) {
+            args.removeFirst();
+            galleryDatabase = args.takeFirst();
+        }
     }
+    // The last run's window layout, except for pictures, which start afresh.
+    const QStringList reopen = screenshotDir.isEmpty() ? frame.restoreLayout() : QStringList();
+    frame.show();
+    for (const QString& file : reopen)
+        frame.openTranscript(file);
     for (const QString& file : args)
         frame.openTranscript(file);
     if (!screenshotDir.isEmpty()) {
         QTimer::singleShot(500, &frame, [&] {
-            takeScreenshots(frame, app, screenshotDir);
-            QApplication::quit();
+            QApplication::exit(tavi::app::renderGallery(frame, screenshotDir, galleryDatabase));
         });
     }
     return QApplication::exec();

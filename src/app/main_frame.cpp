@@ -1,6 +1,7 @@
 // The frame itself: menus from the command table, command states, windows.
 #include "app/main_frame.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QMenuBar>
@@ -11,6 +12,7 @@
 #include <vector>
 
 #include "app/child_frame.h"
+#include "app/dialog_polish.h"
 #include "app/rept_doc.h"
 #include "app/rept_frame.h"
 #include "app/rept_view.h"
@@ -48,6 +50,8 @@ CMainFrame::CMainFrame(CTAVIApp& app) : app_(app), mdi_(new QMdiArea) {
     setObjectName(QStringLiteral("CMainFrame"));
     setWindowTitle(QStringLiteral("TAVI"));
     app_.prompter().setParent(this);
+    // Every dialog is widened to its title and given mnemonics as it shows.
+    qApp->installEventFilter(new DialogPolish(this));
     mdi_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     mdi_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setCentralWidget(mdi_);
@@ -57,6 +61,7 @@ CMainFrame::CMainFrame(CTAVIApp& app) : app_(app), mdi_(new QMdiArea) {
     connect(mdi_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* w) {
         if (w)
             current_ = w;
+        followActiveWindow();
         updateCommands();
     });
     updateCommands();
@@ -213,6 +218,7 @@ void CMainFrame::refreshRecentFiles() {
         delete a;
     recentActions_.clear();
     auto* menu = qobject_cast<QMenu*>(recentAnchor_->parent());
+    app_.dropMissingRecentFiles();
     const QStringList files = app_.recentFiles();
     QAction* before = nullptr;
     const auto all = menu->actions();
@@ -224,7 +230,7 @@ void CMainFrame::refreshRecentFiles() {
         a->setObjectName(QStringLiteral("ID_FILE_MRU_FILE%1").arg(i + 1));
         a->setStatusTip(QStringLiteral("Open this document"));
         const QString path = files[i];
-        connect(a, &QAction::triggered, this, [this, path] { openTranscript(path); });
+        connect(a, &QAction::triggered, this, [this, path] { openRecentFile(path); });
         menu->insertAction(before, a);
         recentActions_ << a;
     }
@@ -249,7 +255,7 @@ void CMainFrame::refreshWindowList() {
         title.replace(QStringLiteral("[*]"), QString());
         auto* a = windowMenu_->addAction(QStringLiteral("&%1 %2").arg(i + 1).arg(title));
         a->setCheckable(true);
-        a->setChecked(w == mdi_->currentSubWindow());
+        a->setChecked(w == currentWindow());
         connect(a, &QAction::triggered, this, [this, w] { mdi_->setActiveSubWindow(w); });
         windowActions_ << a;
     }
@@ -366,6 +372,7 @@ void CMainFrame::closeEvent(QCloseEvent* e) {
             e->ignore();
             return;
         }
+    saveLayout();
     for (CChildFrame* child : children)
         child->closeWithoutAsking();
     mdi_->closeAllSubWindows();

@@ -19,6 +19,7 @@
 #include "batch/list_generation.h"
 #include "database/peer_selection.h"
 #include "explore/explore_edit.h"
+#include "qt/page_setup.h"
 #include "session/analysis_session.h"
 
 class QPrinter;
@@ -62,6 +63,18 @@ public:
     CTAVIFrame* newTranscript(const QString& text);
     CTAVIFrame* openTranscript(const QString& path);
     CReptFrame* showReport(ReportContent content, CTAVIDoc* source);
+    // A file of the recent-files list; one that no longer exists is said to
+    // be missing and leaves the list.
+    CTAVIFrame* openRecentFile(const QString& path);
+
+    // The window layout of the last run (main_frame_shell.cpp), kept in
+    // "tavi-gui.layout" in the user's setup folder: the frame's size,
+    // position and state, and the transcripts that were open.
+    // `restoreLayout` sets the frame (call it before showing the frame) and
+    // returns the transcripts to open again, those that still exist.
+    QStringList restoreLayout();
+    bool saveLayout() const;
+    QString layoutPath() const;
     // Re-evaluates which commands can be chosen now.
     void updateCommands();
     QMenu* makeContextMenu(std::span<const MenuEntry> table);
@@ -81,6 +94,9 @@ private:
     // Sizes a new window to most of the visible area and cascades it from
     // the windows already open, never past the area's edges.
     void placeNewWindow(QMdiSubWindow* window);
+    // The active window marked, the others not; the Find dialog searches
+    // the active transcript (main_frame_shell.cpp).
+    void followActiveWindow();
 
     // File
     void fileNew();
@@ -91,6 +107,7 @@ private:
     void filePrint();
     void filePrintSetup();
     void pdfPrinterSetup();
+    QPrinter& printer();
     // Edit
     void editFindReplace();
     void editGoToEntry();
@@ -186,6 +203,7 @@ private:
     QMenu* windowMenu_ = nullptr;
     QList<QAction*> windowActions_;
     std::unique_ptr<QPrinter> printer_;
+    QPageLayout pdfPage_ = qt::defaultPageLayout(); // the page of saved PDF files
     int untitledCount_ = 0;
     QPointer<QMdiSubWindow> current_; // kept while the frame itself is not active
     // Explore > Find: the transcript searched, its text then and the found entries.

@@ -20,7 +20,7 @@ void CMainFrame::editFindReplace() {
     auto* dialog = findChild<CFindReplaceDialog*>();
     if (!dialog)
         dialog = new CFindReplaceDialog(this);
-    dialog->setEditor(activeEditor());
+    followActiveWindow();
     dialog->show();
     dialog->raise();
     dialog->activateWindow();

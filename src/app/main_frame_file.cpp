@@ -9,6 +9,7 @@
 #include "app/doc_template.h"
 #include "app/main_frame.h"
 #include "app/new_transcript_dialog.h"
+#include "app/page_setup_dialog.h"
 #include "app/tavi_app.h"
 #include "app/tavi_doc.h"
 #include "app/tavi_frame.h"
@@ -93,21 +94,39 @@ void CMainFrame::fileClose() {
         w->close();
 }
 
-void CMainFrame::filePrintSetup() {
-    if (!printer_)
+// The printer of Print and Print Setup, on the report page's paper until
+// the person chooses another.
+QPrinter& CMainFrame::printer() {
+    if (!printer_) {
         printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
-    QPageSetupDialog dialog(printer_.get(), this);
-    dialog.exec();
+        printer_->setPageLayout(pdfPage_);
+    }
+    return *printer_;
+}
+
+// The system's page setup works only on a system printer; without one (no
+// printing service, or printing to a file) the program's own dialog sets
+// the paper.
+void CMainFrame::filePrintSetup() {
+    QPrinter& p = printer();
+    if (p.outputFormat() == QPrinter::NativeFormat && p.isValid()) {
+        QPageSetupDialog dialog(&p, this);
+        dialog.exec();
+        return;
+    }
+    CPageSetupDialog dialog(p.pageLayout(), false, this);
+    dialog.setWindowTitle(QStringLiteral("Print Setup"));
+    if (dialog.exec() == QDialog::Accepted)
+        p.setPageLayout(dialog.layout());
 }
 
 void CMainFrame::filePrint() {
-    if (!printer_)
-        printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
-    QPrintDialog dialog(printer_.get(), this);
+    QPrinter& p = printer();
+    QPrintDialog dialog(&p, this);
     if (dialog.exec() != QDialog::Accepted)
         return;
     if (CChildFrame* child = activeChild())
-        child->print(printer_.get());
+        child->print(&p);
 }
 
 } // namespace tavi::app

@@ -1,23 +1,21 @@
 // The page of PDF files: "P&DF Printer Setup..." and the layout report
-// windows write with.
-#include <QPageSetupDialog>
-#include <QPrinter>
-
+// windows write with. It is the frame's own, apart from the printer, so
+// printing or setting up a printer never changes the page of a saved PDF.
 #include "app/main_frame.h"
+#include "app/page_setup_dialog.h"
 #include "app/report_pdf.h"
 
 namespace tavi::app {
 
 QPageLayout CMainFrame::pdfLayout() const {
-    return printer_ ? printer_->pageLayout() : qt::defaultPageLayout();
+    return pdfPage_;
 }
 
 void CMainFrame::pdfPrinterSetup() {
-    if (!printer_)
-        printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
-    printer_->setOutputFormat(QPrinter::PdfFormat);
-    QPageSetupDialog dialog(printer_.get(), this);
-    dialog.exec();
+    CPageSetupDialog dialog(pdfPage_, true, this);
+    dialog.setWindowTitle(QStringLiteral("PDF Page Setup"));
+    if (dialog.exec() == QDialog::Accepted)
+        pdfPage_ = dialog.layout();
 }
 
 } // namespace tavi::app

@@ -2,14 +2,20 @@
 // inside utterances, from the brackets and pause marks.
 #include "app/notation_highlighter.h"
 
+#include <QGuiApplication>
 #include <QRegularExpression>
+
+#include "app/palette_colours.h"
 
 namespace tavi::app {
 namespace {
 
-QTextCharFormat makeFormat(const char* colour, bool bold = false, bool italic = false) {
+// The colours are chosen for a light background; `readableOn` brightens
+// them on a dark one.
+QTextCharFormat makeFormat(const QColor& base, const char* colour, bool bold = false,
+                           bool italic = false) {
     QTextCharFormat f;
-    f.setForeground(QColor(QLatin1String(colour)));
+    f.setForeground(readableOn(QColor(QLatin1String(colour)), base));
     if (bold)
         f.setFontWeight(QFont::Bold);
     f.setFontItalic(italic);
@@ -19,20 +25,28 @@ QTextCharFormat makeFormat(const char* colour, bool bold = false, bool italic = 
 } // namespace
 
 NotationHighlighter::NotationHighlighter(QTextDocument* document) : QSyntaxHighlighter(document) {
-    auto set = [this](Role r, QTextCharFormat f) { formats_[static_cast<int>(r)] = f; };
-    set(Role::Speaker, makeFormat("#1f4e9c", true));
-    set(Role::Code, makeFormat("#b03a00"));
-    set(Role::Maze, makeFormat("#7b3fa0"));
-    set(Role::Parenthetical, makeFormat("#5d6b7a", false, true));
-    set(Role::Comment, makeFormat("#2e7d32", false, true));
-    set(Role::Pause, makeFormat("#c77700", true));
-    set(Role::Overlap, makeFormat("#00796b"));
-    set(Role::SpeakerLine, makeFormat("#1f4e9c", true));
-    set(Role::HeaderLine, makeFormat("#00695c"));
-    set(Role::CommentLine, makeFormat("#6d6d6d", false, true));
-    set(Role::TimingLine, makeFormat("#ad1457", true));
-    set(Role::PauseLine, makeFormat("#c77700", true));
-    set(Role::SectionLine, makeFormat("#4527a0", true));
+    setPalette(QGuiApplication::palette());
+}
+
+void NotationHighlighter::setPalette(const QPalette& palette) {
+    const QColor base = palette.color(QPalette::Base);
+    auto set = [this, &base](Role r, const char* colour, bool bold = false, bool italic = false) {
+        formats_[static_cast<int>(r)] = makeFormat(base, colour, bold, italic);
+    };
+    set(Role::Speaker, "#1f4e9c", true);
+    set(Role::Code, "#b03a00");
+    set(Role::Maze, "#7b3fa0");
+    set(Role::Parenthetical, "#5d6b7a", false, true);
+    set(Role::Comment, "#2e7d32", false, true);
+    set(Role::Pause, "#c77700", true);
+    set(Role::Overlap, "#00796b");
+    set(Role::SpeakerLine, "#1f4e9c", true);
+    set(Role::HeaderLine, "#00695c");
+    set(Role::CommentLine, "#6d6d6d", false, true);
+    set(Role::TimingLine, "#ad1457", true);
+    set(Role::PauseLine, "#c77700", true);
+    set(Role::SectionLine, "#4527a0", true);
+    rehighlight();
 }
 
 void NotationHighlighter::highlightBlock(const QString& text) {

@@ -3,6 +3,7 @@
 // speaker, timing, pause, section and comment lines.
 #pragma once
 
+#include <QPalette>
 #include <QSyntaxHighlighter>
 #include <QTextCharFormat>
 
@@ -11,7 +12,11 @@ namespace tavi::app {
 class NotationHighlighter final : public QSyntaxHighlighter {
     Q_OBJECT
 public:
+    // The colours suit the application's palette until `setPalette`.
     explicit NotationHighlighter(QTextDocument* document);
+    // Colours readable on this palette's text background; the text is
+    // coloured anew.
+    void setPalette(const QPalette& palette);
 
     enum class Role {
         Speaker,

@@ -155,7 +155,8 @@ void CReptFrame::addToPdfBatch() {
 }
 
 void CReptFrame::print(QPrinter* printer) {
-    view_->print(printer);
+    if (!printReports({&doc_->content().report}, *printer, pdfLayout_(), app_.settings()))
+        app_.prompter().inform("The report cannot be printed on this printer.");
 }
 
 void CReptFrame::copy() {

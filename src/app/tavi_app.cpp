@@ -62,6 +62,20 @@ void CTAVIApp::addRecentFile(const QString& path) {
     saveRecentFiles();
 }
 
+void CTAVIApp::removeRecentFile(const QString& path) {
+    if (recent_.removeAll(path) > 0)
+        saveRecentFiles();
+}
+
+bool CTAVIApp::dropMissingRecentFiles() {
+    const qsizetype before = recent_.size();
+    recent_.removeIf([](const QString& file) { return !QFileInfo::exists(file); });
+    if (recent_.size() == before)
+        return false;
+    saveRecentFiles();
+    return true;
+}
+
 void CTAVIApp::loadRecentFiles() {
     std::string bytes;
     if (!readFile(QDir(setupDir()).filePath(kRecentFileName).toStdString(), bytes))

@@ -53,6 +53,9 @@ public:
     // Recent transcripts, most recent first, kept in the user-level setup folder.
     QStringList recentFiles() const { return recent_; }
     void addRecentFile(const QString& path);
+    void removeRecentFile(const QString& path);
+    // Drops the files that no longer exist; true when any was dropped.
+    bool dropMissingRecentFiles();
 
 private:
     static QString folder(const std::string& path);

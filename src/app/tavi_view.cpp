@@ -7,6 +7,7 @@
 #include <QToolTip>
 
 #include "app/notation_highlighter.h"
+#include "app/palette_colours.h"
 #include "app/tavi_doc.h"
 
 namespace tavi::app {
@@ -14,6 +15,7 @@ namespace tavi::app {
 CTAVIView::CTAVIView(CTAVIDoc& doc, QWidget* parent)
     : QPlainTextEdit(parent), doc_(doc), highlighter_(new NotationHighlighter(doc.document())) {
     setDocument(doc.document());
+    highlighter_->setPalette(palette());
     setLineWrapMode(QPlainTextEdit::WidgetWidth);
     connect(&doc_, &CTAVIDoc::problemsChanged, this, &CTAVIView::markProblemLines);
     markProblemLines();
@@ -39,9 +41,9 @@ void CTAVIView::markProblemLines() {
         mark.cursor = QTextCursor(block);
         mark.cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
         mark.format.setUnderlineStyle(QTextCharFormat::WaveUnderline);
-        mark.format.setUnderlineColor(e.isWarning() ? QColor(0xd8, 0x90, 0x00) : Qt::red);
-        mark.format.setBackground(e.isWarning() ? QColor(0xff, 0xf6, 0xd8)
-                                                : QColor(0xff, 0xe8, 0xe8));
+        const QColor tint = e.isWarning() ? QColor(0xd8, 0x90, 0x00) : QColor(Qt::red);
+        mark.format.setUnderlineColor(readableOn(tint, palette().color(QPalette::Base), 3));
+        mark.format.setBackground(tintedBase(palette(), tint, e.isWarning() ? 0.15 : 0.12));
         mark.format.setProperty(QTextFormat::FullWidthSelection, true);
         marks << mark;
     }
@@ -61,6 +63,14 @@ bool CTAVIView::event(QEvent* e) {
         return true;
     }
     return QPlainTextEdit::event(e);
+}
+
+void CTAVIView::changeEvent(QEvent* e) {
+    QPlainTextEdit::changeEvent(e);
+    if (e->type() == QEvent::PaletteChange) {
+        highlighter_->setPalette(palette());
+        markProblemLines();
+    }
 }
 
 void CTAVIView::contextMenuEvent(QContextMenuEvent* e) {

@@ -18,6 +18,7 @@ public:
     CTAVIDoc& doc() { return doc_; }
     // Moves the caret to the start of a 1-based line and shows it.
     void goToLine(int line);
+    const NotationHighlighter& highlighter() const { return *highlighter_; }
 
 Q_SIGNALS:
     void contextMenuWanted(QPoint globalPos);
@@ -25,6 +26,8 @@ Q_SIGNALS:
 protected:
     bool event(QEvent* e) override;
     void contextMenuEvent(QContextMenuEvent* e) override;
+    // A new colour scheme: the notation colours and problem marks follow it.
+    void changeEvent(QEvent* e) override;
 
 private:
     void markProblemLines();

@@ -59,7 +59,7 @@ struct Page {
 
 class ReportLayout {
 public:
-    ReportLayout(QPdfWriter& writer, const PdfPageSetup& setup, FontMaker font)
+    ReportLayout(QPaintDevice& writer, const PdfPageSetup& setup, FontMaker font)
         : writer_(writer), font(std::move(font)), left_(mm(setup.marginMm)),
           width_(writer.width() - 2 * mm(setup.marginMm)) {}
 
@@ -79,7 +79,7 @@ private:
     void addText(const std::string& text, const QFont& f, QColor color, qreal before,
                  std::vector<Block>& out) const;
 
-    QPdfWriter& writer_;
+    QPaintDevice& writer_;
     FontMaker font;
     qreal left_;
     qreal width_;
@@ -281,26 +281,22 @@ std::string footerTitle(const Report& report) {
 
 namespace {
 
-// One PDF file being drawn: the writer, its painter and the page geometry.
+// The pages being drawn on a device at 300 dots per inch, the origin at the
+// paper's corner: the painter and the page geometry.
 class PdfDocument {
 public:
-    PdfDocument(QBuffer& buffer, const PdfPageSetup& setup, const std::string& title)
-        : writer_(&buffer), fonts_{qs(setup.fontFamily), setup.bodyPoints / 9.5} {
-        writer_.setResolution(kDpi);
-        writer_.setCreator(QStringLiteral("TAVI"));
-        writer_.setPageSize(
-            QPageSize(QSizeF(setup.widthMm, setup.heightMm), QPageSize::Millimeter));
-        writer_.setPageMargins(QMarginsF(0, 0, 0, 0), QPageLayout::Millimeter);
-        writer_.setTitle(qs(title));
-        painter_.begin(&writer_);
+    PdfDocument(QPagedPaintDevice& device, const PdfPageSetup& setup)
+        : device_(device), fonts_{qs(setup.fontFamily), setup.bodyPoints / 9.5} {
+        painter_.begin(&device_);
         margin_ = mm(setup.marginMm);
-        footerTop_ = writer_.height() - margin_;
-        layout_.emplace(writer_, setup, fonts_);
+        footerTop_ = device_.height() - margin_;
+        layout_.emplace(device_, setup, fonts_);
     }
     ~PdfDocument() { painter_.end(); }
     PdfDocument(const PdfDocument&) = delete;
     PdfDocument& operator=(const PdfDocument&) = delete;
 
+    bool active() const { return painter_.isActive(); }
     const ReportLayout& layout() const { return *layout_; }
     std::vector<Page> paginate(const std::vector<Block>& blocks) const {
         return tavi::qt::paginate(blocks, margin_, footerTop_ - mm(2));
@@ -314,17 +310,17 @@ public:
     }
     void startPage() {
         if (!firstPage_)
-            writer_.newPage();
+            device_.newPage();
         firstPage_ = false;
     }
     QPainter& painter() { return painter_; }
     const FontMaker& fonts() const { return fonts_; }
     qreal margin() const { return margin_; }
-    qreal width() const { return writer_.width() - 2 * margin_; }
-    qreal height() const { return writer_.height(); }
+    qreal width() const { return device_.width() - 2 * margin_; }
+    qreal height() const { return device_.height(); }
 
 private:
-    QPdfWriter writer_;
+    QPagedPaintDevice& device_;
     QPainter painter_;
     FontMaker fonts_;
     qreal margin_ = 0;
@@ -332,6 +328,26 @@ private:
     std::optional<ReportLayout> layout_;
     bool firstPage_ = true;
 };
+
+// The PDF writer set to the setup's page, without margins of its own.
+void setUpWriter(QPdfWriter& writer, const PdfPageSetup& setup, const std::string& title) {
+    writer.setResolution(kDpi);
+    writer.setCreator(QStringLiteral("TAVI"));
+    writer.setPageSize(QPageSize(QSizeF(setup.widthMm, setup.heightMm), QPageSize::Millimeter));
+    writer.setPageMargins(QMarginsF(0, 0, 0, 0), QPageLayout::Millimeter);
+    writer.setTitle(qs(title));
+}
+
+// Each report from a new page, numbering its own pages.
+void drawReports(PdfDocument& pdf, const std::vector<const Report*>& reports) {
+    for (const Report* report : reports) {
+        const std::vector<Block> blocks = pdf.layout().blocks(*report);
+        const std::vector<Page> pages = pdf.paginate(blocks);
+        for (size_t n = 0; n < pages.size(); ++n)
+            pdf.drawPage(pages[n], footerTitle(*report), static_cast<int>(n + 1),
+                         static_cast<int>(pages.size()));
+    }
+}
 
 // The title page: the cover's title large, its header lines below.
 void drawTitlePage(PdfDocument& pdf, const Report& cover, int pages) {
@@ -363,16 +379,23 @@ std::string reportsToPdf(const std::vector<const Report*>& reports, const PdfPag
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     {
-        PdfDocument pdf(buffer, setup, reports.empty() ? std::string() : reports.front()->title);
-        for (const Report* report : reports) {
-            const std::vector<Block> blocks = pdf.layout().blocks(*report);
-            const std::vector<Page> pages = pdf.paginate(blocks);
-            for (size_t n = 0; n < pages.size(); ++n)
-                pdf.drawPage(pages[n], footerTitle(*report), static_cast<int>(n + 1),
-                             static_cast<int>(pages.size()));
-        }
+        QPdfWriter writer(&buffer);
+        setUpWriter(writer, setup, reports.empty() ? std::string() : reports.front()->title);
+        PdfDocument pdf(writer, setup);
+        drawReports(pdf, reports);
     }
     return buffer.data().toStdString();
+}
+
+bool paintReports(QPagedPaintDevice& device, const std::vector<const Report*>& reports,
+                  const PdfPageSetup& setup) {
+    if (device.logicalDpiX() != kDpi || device.logicalDpiY() != kDpi)
+        return false;
+    PdfDocument pages(device, setup);
+    if (!pages.active())
+        return false;
+    drawReports(pages, reports);
+    return true;
 }
 
 std::string bookToPdf(const Report& cover, const std::vector<const Report*>& reports,
@@ -381,7 +404,9 @@ std::string bookToPdf(const Report& cover, const std::vector<const Report*>& rep
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     {
-        PdfDocument pdf(buffer, setup, cover.title);
+        QPdfWriter writer(&buffer);
+        setUpWriter(writer, setup, cover.title);
+        PdfDocument pdf(writer, setup);
         // Lay every report out first: the contents need their first pages.
         std::vector<std::vector<Block>> blocks;
         std::vector<std::vector<Page>> pages;

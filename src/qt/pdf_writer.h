@@ -1,7 +1,7 @@
 // Reports as PDF pages, drawn with Qt's QPdfWriter (no printer needed, works
 // without a display): a bold title, the header lines, shaded sections with
 // values in a right-hand column, ruled tables, and "Page %d of %d" in the
-// footer of every page.
+// footer of every page. The same pages can be drawn on a printer.
 #pragma once
 
 #include <filesystem>
@@ -9,6 +9,8 @@
 #include <vector>
 
 #include "reports/report.h"
+
+class QPagedPaintDevice;
 
 namespace tavi::qt {
 
@@ -23,6 +25,14 @@ struct PdfPageSetup {
 // The PDF bytes of the reports, each starting on a new page and numbering its
 // own pages. Creates the GUI application object when there is none.
 std::string reportsToPdf(const std::vector<const Report*>& reports, const PdfPageSetup& setup = {});
+
+// Draws the reports as `reportsToPdf` does on another paged device, such as
+// a printer: the device must be set to 300 dots per inch with its origin at
+// the paper's corner (a printer's "full page"), the setup giving its paper
+// size and the margins. False when the device is not so set or cannot be
+// painted on.
+bool paintReports(QPagedPaintDevice& device, const std::vector<const Report*>& reports,
+                  const PdfPageSetup& setup);
 
 // A customised report as one PDF: a title page (the cover's title and header
 // lines), a table of contents giving the page each report starts on, then

@@ -1,6 +1,8 @@
 // PDF pages read back with pdftotext: the report's texts are there (so fonts
 // were embedded, not boxes), tables keep their values, and every page says
 // "Page %d of %d" counted per report.
+#include <QPageSize>
+#include <QPdfWriter>
 #include <gtest/gtest.h>
 
 #include <cstdio>
@@ -101,6 +103,26 @@ TEST_F(PdfWriter, LongReportsBreakIntoNumberedPagesAndBatchesNumberEachReport) {
     EXPECT_NE(text.find("Standard Measures Report - Story1.tvi"), std::string::npos);
     EXPECT_NE(text.find("Summary of Utterance Types"), std::string::npos);
     EXPECT_NE(text.find("Yes/No Responses to Questions (Y)"), std::string::npos);
+}
+
+// Another paged device (a printer's stand-in: a PDF writer of its own) gets
+// the very pages of a saved PDF, when it is set to the writer's resolution.
+TEST_F(PdfWriter, PagesDrawnOnAnotherDeviceMatchTheSavedPdf) {
+    const Report report = smr();
+    ASSERT_EQ(qt::saveReportPdf(report, dir_ / "saved.pdf"), "");
+    const std::string saved = pdfText(dir_ / "saved.pdf");
+    {
+        QPdfWriter device(QString::fromStdString((dir_ / "drawn.pdf").string()));
+        device.setResolution(300);
+        device.setPageSize(QPageSize(QPageSize::Letter));
+        device.setPageMargins(QMarginsF(0, 0, 0, 0));
+        EXPECT_TRUE(qt::paintReports(device, {&report}, qt::PdfPageSetup{}));
+    }
+    EXPECT_EQ(pdfText(dir_ / "drawn.pdf"), saved);
+
+    QPdfWriter coarse(QString::fromStdString((dir_ / "coarse.pdf").string()));
+    coarse.setResolution(72);
+    EXPECT_FALSE(qt::paintReports(coarse, {&report}, qt::PdfPageSetup{}));
 }
 
 TEST_F(PdfWriter, UnwritablePathIsReported) {
