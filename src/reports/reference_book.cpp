@@ -117,6 +117,49 @@ std::string plainText(std::string_view text) {
     return std::string(trim(out));
 }
 
+// The text without HTML comments (notes for the documents' writers, not for
+// readers), outside fenced code. A line that held only a comment is dropped.
+std::string withoutComments(std::string_view markdown) {
+    std::string out;
+    bool inCode = false;
+    bool inComment = false;
+    for (std::string_view line : lines(markdown)) {
+        if (!inComment && isFence(line)) {
+            inCode = !inCode;
+        } else if (!inCode) {
+            std::string kept;
+            size_t pos = 0;
+            while (pos <= line.size()) {
+                if (inComment) {
+                    const size_t end = line.find("-->", pos);
+                    if (end == std::string_view::npos) {
+                        pos = line.size() + 1;
+                        break;
+                    }
+                    inComment = false;
+                    pos = end + 3;
+                } else {
+                    const size_t start = line.find("<!--", pos);
+                    kept.append(line.substr(pos, start == std::string_view::npos ? line.npos
+                                                                                 : start - pos));
+                    if (start == std::string_view::npos)
+                        break;
+                    inComment = true;
+                    pos = start + 4;
+                }
+            }
+            if (kept.size() != line.size() && trim(kept).empty())
+                continue;
+            out += kept;
+            out += '\n';
+            continue;
+        }
+        out += line;
+        out += '\n';
+    }
+    return out;
+}
+
 struct ChapterScan {
     std::string title;
     std::string anchor;
@@ -291,7 +334,10 @@ std::vector<BookHeading> markdownHeadings(std::string_view markdown, AnchorNamer
     return headings;
 }
 
-ReferenceBook buildReferenceBook(const std::vector<BookChapter>& chapters, std::string_view title) {
+ReferenceBook buildReferenceBook(const std::vector<BookChapter>& given, std::string_view title) {
+    std::vector<BookChapter> chapters = given;
+    for (BookChapter& chapter : chapters)
+        chapter.markdown = withoutComments(chapter.markdown);
     ReferenceBook book;
     AnchorNamer namer;
     namer.next(title);

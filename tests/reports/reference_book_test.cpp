@@ -48,7 +48,9 @@ TEST(ReferenceBook, ContentsIndexAndLinksLeadToTheHeadingsOfTheBook) {
         {"measures.md", "# Measures\n\n## Overview\n\nThe **NTW:** and **transcript** terms.\n"
                         "```\n**not a term**\n## Not a heading\n```\n"
                         "## Word counts\n\n**NDW** counts [roots](#overview); "
-                        "see [Start](index.md).\n"}};
+                        "see [Start](index.md).\n"
+                        "<!-- a note for writers\n   on two lines -->\n"
+                        "Kept <!-- dropped --> text.\n"}};
     const ReferenceBook book = buildReferenceBook(chapters, "TAVI Reference Book");
 
     // Anchors in book order: the title and "Contents" come before the chapters,
@@ -76,6 +78,10 @@ TEST(ReferenceBook, ContentsIndexAndLinksLeadToTheHeadingsOfTheBook) {
     EXPECT_NE(md.find("[all of it](#measures)"), std::string::npos);
     EXPECT_NE(md.find("[roots](#overview-1)"), std::string::npos);
     EXPECT_NE(md.find("[Start](#start)"), std::string::npos);
+    // Comments are notes for the writers: left out.
+    EXPECT_EQ(md.find("note for writers"), std::string::npos);
+    EXPECT_EQ(md.find("two lines"), std::string::npos);
+    EXPECT_NE(md.find("see [Start](#start).\nKept  text.\n"), std::string::npos);
     // Code blocks are kept as written.
     EXPECT_NE(md.find("```\n**not a term**\n## Not a heading\n```\n"), std::string::npos);
 
