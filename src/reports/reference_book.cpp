@@ -246,6 +246,17 @@ std::string escaped(std::string_view text) {
     return out;
 }
 
+// A heading as an index term: without its section number ("2.1 Words" -> "Words").
+std::string withoutSectionNumber(const std::string& heading) {
+    size_t i = 0;
+    while (i < heading.size() && ((heading[i] >= '0' && heading[i] <= '9') || heading[i] == '.'))
+        ++i;
+    if (i == 0 || i >= heading.size() || heading[i] != ' ' ||
+        !(heading[0] >= '0' && heading[0] <= '9'))
+        return heading;
+    return std::string(trim(std::string_view(heading).substr(i)));
+}
+
 bool startsWithLetter(std::string_view term) {
     const char c = term.empty() ? ' ' : term.front();
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
@@ -388,7 +399,7 @@ ReferenceBook buildReferenceBook(const std::vector<BookChapter>& given, std::str
             } else if (!inCode) {
                 if (atxHeading(line).first > 0 && next < scan.headings.size()) {
                     under = scan.headings[next++];
-                    addTerm(under.text, scan.title, under);
+                    addTerm(withoutSectionNumber(under.text), scan.title, under);
                 } else {
                     for (const std::string& term : boldTerms(line))
                         addTerm(term, scan.title, under);
@@ -431,12 +442,16 @@ ReferenceBook buildReferenceBook(const std::vector<BookChapter>& given, std::str
             letter = letterOf(entry.term);
             out += "\n## " + letter + "\n\n";
         }
-        out += "- " + escaped(entry.term) + ": ";
+        std::string term = escaped(entry.term);
+        if (const size_t dot = term.find_first_not_of("0123456789");
+            dot > 0 && dot != std::string::npos && (term[dot] == '.' || term[dot] == ')'))
+            term.insert(dot, "\\");
+        out += "- " + term + ": ";
         for (size_t i = 0; i < entry.places.size(); ++i) {
             const BookIndexPlace& p = entry.places[i];
             out += i == 0 ? "" : "; ";
             out += "[" + escaped(p.chapter);
-            if (p.section.text != p.chapter)
+            if (p.section.text != p.chapter && withoutSectionNumber(p.section.text) != entry.term)
                 out += " \xE2\x80\xBA " + escaped(p.section.text);
             out += "](#" + p.section.anchor + ")";
         }

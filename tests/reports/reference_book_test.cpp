@@ -43,11 +43,11 @@ TEST(ReferenceBook, AnchorsAreUniqueAndMadeFromTheVisibleText) {
 
 TEST(ReferenceBook, ContentsIndexAndLinksLeadToTheHeadingsOfTheBook) {
     const std::vector<BookChapter> chapters = {
-        {"index.md", "# Start\n\nSee [the measures](measures.md#word-counts) and "
+        {"index.md", "# Start\n\nSee [the measures](measures.md#21-word-counts) and "
                      "[all of it](measures.md).\n\n## Overview\n\nA **Transcript** is typed.\n"},
         {"measures.md", "# Measures\n\n## Overview\n\nThe **NTW:** and **transcript** terms.\n"
                         "```\n**not a term**\n## Not a heading\n```\n"
-                        "## Word counts\n\n**NDW** counts [roots](#overview); "
+                        "## 2.1 Word counts\n\n**NDW** counts [roots](#overview); "
                         "see [Start](index.md).\n"
                         "<!-- a note for writers\n   on two lines -->\n"
                         "Kept <!-- dropped --> text.\n"}};
@@ -59,7 +59,7 @@ TEST(ReferenceBook, ContentsIndexAndLinksLeadToTheHeadingsOfTheBook) {
     EXPECT_EQ(book.contents[0].anchor, "start");
     EXPECT_EQ(book.contents[1].anchor, "overview");
     EXPECT_EQ(book.contents[3].anchor, "overview-1");
-    EXPECT_EQ(book.contents[4].anchor, "word-counts");
+    EXPECT_EQ(book.contents[4].anchor, "21-word-counts");
     // The anchors the desktop program gives the rendered headings, in order.
     AnchorNamer rendered;
     const std::vector<BookHeading> all = markdownHeadings(book.markdown, rendered);
@@ -74,7 +74,7 @@ TEST(ReferenceBook, ContentsIndexAndLinksLeadToTheHeadingsOfTheBook) {
         md.find("- [1. Start](#start)\n  - [Overview](#overview)\n- [2. Measures](#measures)"),
         std::string::npos);
     // Links between documents and inside one lead into the book.
-    EXPECT_NE(md.find("[the measures](#word-counts)"), std::string::npos);
+    EXPECT_NE(md.find("[the measures](#21-word-counts)"), std::string::npos);
     EXPECT_NE(md.find("[all of it](#measures)"), std::string::npos);
     EXPECT_NE(md.find("[roots](#overview-1)"), std::string::npos);
     EXPECT_NE(md.find("[Start](#start)"), std::string::npos);
@@ -97,6 +97,8 @@ TEST(ReferenceBook, ContentsIndexAndLinksLeadToTheHeadingsOfTheBook) {
     EXPECT_EQ(transcript.places[1].chapter, "Measures");
     EXPECT_EQ(transcript.places[1].section.anchor, "overview-1");
     EXPECT_NE(md.find("# Index\n\n## M\n\n- Measures: [Measures](#measures)\n"), std::string::npos);
+    // A heading stands in the index without its number, linked by its chapter.
+    EXPECT_NE(md.find("- Word counts: [Measures](#21-word-counts)\n"), std::string::npos);
     EXPECT_NE(md.find("- Transcript: [Start \xE2\x80\xBA Overview](#overview); "
                       "[Measures \xE2\x80\xBA Overview](#overview-1)\n"),
               std::string::npos);
