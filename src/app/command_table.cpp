@@ -50,7 +50,9 @@ const MenuEntry kMain[] = {
     item("&Open...", ID_FILE_OPEN, "Ctrl+O", "Open an existing transcript\nOpen"),
     menu("&Import"),
     item("&CHAT file", ID_FILE_IMPORT_CHAT, "", "Import a CHAT transcript\nImport CHAT"),
-    item("C&P CORPUS file", ID_FILE_IMPORT_CP, "", "Import a C&P corpus file\nImport C&P"),
+    item("C&P CORPUS file", ID_FILE_IMPORT_CP, "",
+         "Import a C&P CORPUS file (not available: no description of this format "
+         "exists)\nImport C&P (not available: no description of this format exists)"),
     end(),
     item("&Close", ID_FILE_CLOSE, "", "Close the active document\nClose"),
     item("&Save", ID_FILE_SAVE, "Ctrl+S", "Save the active document\nSave"),

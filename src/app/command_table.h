@@ -154,29 +154,29 @@ enum class CommandStatus { Working, Unavailable };
     X(ID_ANSET_MATTR, Working) \
     X(ID_ANSET_PCSD, Working) \
     X(ID_ANSET_DEFDB, Unavailable) \
-    X(ID_SETUP_LANGUAGE, Unavailable) \
+    X(ID_SETUP_LANGUAGE, Working) \
     X(ID_FONT_DISPTRAN, Working) \
     X(ID_FONT_DISPREPT, Working) \
     X(ID_FONT_PRT, Working) \
-    X(ID_NET_CLIENT, Unavailable) \
-    X(ID_NET_PDF, Unavailable) \
-    X(ID_NETLOC_TRAN, Unavailable) \
-    X(ID_NETLOC_REPT, Unavailable) \
-    X(ID_NETLOC_DB, Unavailable) \
-    X(ID_NETLOC_ALTDB, Unavailable) \
-    X(ID_NETLOC_LIST, Unavailable) \
-    X(ID_NETLOC_RIF, Unavailable) \
-    X(ID_NETLOC_BATCH, Unavailable) \
-    X(ID_NETLOC_BACKUP, Unavailable) \
-    X(ID_NETLOC_INIDIR, Unavailable) \
-    X(ID_NETFONT_DISPTRAN, Unavailable) \
-    X(ID_NETFONT_DISPREPT, Unavailable) \
-    X(ID_NETFONT_PRT, Unavailable) \
+    X(ID_NET_CLIENT, Working) \
+    X(ID_NET_PDF, Working) \
+    X(ID_NETLOC_TRAN, Working) \
+    X(ID_NETLOC_REPT, Working) \
+    X(ID_NETLOC_DB, Working) \
+    X(ID_NETLOC_ALTDB, Working) \
+    X(ID_NETLOC_LIST, Working) \
+    X(ID_NETLOC_RIF, Working) \
+    X(ID_NETLOC_BATCH, Working) \
+    X(ID_NETLOC_BACKUP, Working) \
+    X(ID_NETLOC_INIDIR, Working) \
+    X(ID_NETFONT_DISPTRAN, Working) \
+    X(ID_NETFONT_DISPREPT, Working) \
+    X(ID_NETFONT_PRT, Working) \
     X(ID_WINDOW_CLOSE_ALL, Working) \
     X(ID_WINDOW_CLOSE_REPORTS, Working) \
     X(ID_HELP_FINDER, Working) \
     X(ID_CONTEXT_HELP, Working) \
-    X(ID_HELP_BOOK, Unavailable) \
+    X(ID_HELP_BOOK, Working) \
     X(ID_HELP_GRAPHS, Working) \
     X(ID_HELP_ONLINE, Working) \
     X(ID_HELP_ACROBAT, Working) \

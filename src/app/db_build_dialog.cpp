@@ -234,6 +234,7 @@ bool CDBBuildDialog::addTranscripts() {
     AnalysisContext context = app_.analysisContext();
     db::BuildOptions options = optionsFromFields();
     options.dateOrder = context.check.dateFormat.order;
+    options.encoding = context.encoding;
     std::vector<std::string> files;
     for (const std::filesystem::path& file : picker_->files())
         files.push_back(file.string());

@@ -76,6 +76,9 @@ CMainFrame::~CMainFrame() {
 }
 
 QString CMainFrame::notAvailablePrompt(const QString& prompt) {
+    // A prompt that already says why the command is not available stays as it is.
+    if (prompt.contains(QStringLiteral("(not available")))
+        return prompt;
     return prompt + QStringLiteral(" (not available yet)");
 }
 

@@ -181,6 +181,15 @@ private:
     void setupFolder(const QString& which);
     void setupFont(int which);
     void applyFonts();
+    // Language settings and the network or lab setup (main_frame_netsetup.cpp)
+    void registerNetSetupCommands();
+    void setupLanguage();
+    void netClientOptions();
+    void netPdfPrinter();
+    void netFolder(const char* keyword);
+    void netFont(int which);
+    bool saveProgramDefaults(const std::vector<std::string>& keywords,
+                             const std::vector<std::string>& lines);
     // Tools
     void registerToolCommands();
     void toolsGenerateList(ListKind kind);
@@ -190,6 +199,7 @@ private:
     // Window and Help
     void closeAll(bool reportsOnly);
     void showHelpDocument(const QString& relativePath);
+    void showReferenceBook();
     void showAbout();
     void showPdfViewer();
 

@@ -170,7 +170,8 @@ void CMainFrame::exploreList(bool multiple) {
         for (const QString& path : files) {
             const std::string name = QFileInfo(path).fileName().toStdString();
             std::string text;
-            if (!readTranscriptText(path.toStdString(), text)) {
+            if (!readTranscriptText(path.toStdString(), text,
+                                    app_.settings().language.textEncoding)) {
                 report.sections.push_back({name, {TextLine{"Cannot be read."}}});
                 continue;
             }
@@ -195,7 +196,8 @@ void CMainFrame::exploreFind(bool multiple) {
         int opened = 0;
         for (const QString& path : exploreFiles(QStringLiteral("Explore Multiple Transcripts"))) {
             std::string text;
-            if (!readTranscriptText(path.toStdString(), text))
+            if (!readTranscriptText(path.toStdString(), text,
+                                    app_.settings().language.textEncoding))
                 continue;
             ExploreResult r = exploreText(text, context, *criteria);
             if (r.matches.empty())
@@ -284,7 +286,7 @@ QStringList CMainFrame::forEachExploredFile(
     for (const QString& path : files) {
         const std::string name = QFileInfo(path).fileName().toStdString();
         std::string text;
-        if (!readTranscriptText(path.toStdString(), text)) {
+        if (!readTranscriptText(path.toStdString(), text, app_.settings().language.textEncoding)) {
             outcome << QString::fromStdString(name + " could not be opened");
             continue;
         }

@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "app/anal_set_dialog.h"
+#include "app/font_setting.h"
 #include "app/main_frame.h"
 #include "app/rept_frame.h"
 #include "app/rept_view.h"
@@ -63,6 +64,8 @@ QString matchingStyle(const QFont& font) {
     return best;
 }
 
+} // namespace
+
 QFont toQFont(const FontSetting& setting, const QFont& fallback) {
     QFont font = fallback;
     if (!setting.faceName.empty())
@@ -82,8 +85,6 @@ FontSetting fromQFont(const QFont& font, FontSetting setting) {
     setting.italic = font.italic() ? 1 : 0;
     return setting;
 }
-
-} // namespace
 
 void CMainFrame::setupAnalysisSet() {
     CAnalSetDialog dialog(app_, this);

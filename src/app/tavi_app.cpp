@@ -42,8 +42,9 @@ QString CTAVIApp::folder(const std::string& path) {
 }
 
 LabelSource CTAVIApp::labelSource() const {
-    return
-        [this](std::string_view key) { return settings_.labels.get(LanguageSlot::Primary, key); };
+    return [this](std::string_view key) {
+        return settings_.labels.get(settings_.language.reportSlot(), key);
+    };
 }
 
 AnalysisContext CTAVIApp::analysisContext() {

@@ -41,7 +41,8 @@ void CTAVIDoc::setSuggestedName(const QString& name) {
 }
 
 bool CTAVIDoc::load(const QString& path, QString& error) {
-    const LoadedTranscript loaded = loadTranscript(path.toStdString());
+    const LoadedTranscript loaded =
+        loadTranscript(path.toStdString(), app_.settings().language.textEncoding);
     if (!loaded.ok) {
         error = QStringLiteral("Cannot open ") + path;
         return false;

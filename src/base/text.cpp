@@ -82,7 +82,7 @@ std::string windows1252ToUtf8(std::string_view bytes) {
     return out;
 }
 
-DecodedText decodeText(std::string_view bytes) {
+DecodedText decodeText(std::string_view bytes, TextEncoding encoding) {
     DecodedText result;
     if (bytes.starts_with(kUtf8Bom)) {
         result.hadBom = true;
@@ -96,7 +96,7 @@ DecodedText decodeText(std::string_view bytes) {
         }
         return result;
     }
-    if (isValidUtf8(bytes)) {
+    if (encoding == TextEncoding::Utf8 && isValidUtf8(bytes)) {
         result.utf8.assign(bytes);
     } else {
         result.wasUtf8 = false;

@@ -18,10 +18,15 @@ struct DecodedText {
     bool wasUtf8 = true; // false when the bytes were read as Windows-1252
 };
 
+// How the bytes of a file without a byte order mark are read: as UTF-8 (and,
+// when they are not valid UTF-8, as Windows-1252), or always as Windows-1252.
+enum class TextEncoding { Utf8, Windows1252 };
+
 // Bytes of a text file as UTF-8: a byte order mark is removed; text that is not
 // valid UTF-8 is read as Windows-1252 (after a byte order mark, invalid
-// sequences become U+FFFD instead).
-DecodedText decodeText(std::string_view bytes);
+// sequences become U+FFFD instead). With `Windows1252`, text without a byte
+// order mark is read as Windows-1252 even when it would be valid UTF-8.
+DecodedText decodeText(std::string_view bytes, TextEncoding encoding = TextEncoding::Utf8);
 
 bool isValidUtf8(std::string_view bytes);
 std::string windows1252ToUtf8(std::string_view bytes);

@@ -265,6 +265,7 @@ int add(cli::CommandContext& ctx, const cli::Args& args) {
         check.dateFormat.separator = (*format)[2];
     }
     options.dateOrder = check.dateFormat.order;
+    options.encoding = context.encoding;
     options.deidentify = args.has("--deidentify");
     options.recordAdded = [&ctx](const std::string& line) { ctx.out << line << std::endl; };
     std::vector<std::string> files(args.positional().begin() + 2, args.positional().end());

@@ -180,7 +180,7 @@ int dbSelect(CommandContext& ctx) {
         }
         const TranscriptAnalysis& analysis = *outcome.analysis;
         std::string text;
-        readTranscriptText(file, text);
+        readTranscriptText(file, text, prepared->context.encoding);
         db::PeerTarget target =
             db::peerTarget(std::filesystem::path(file).filename().string(),
                            splitTranscriptLines(text), analysis, prepared->context);

@@ -243,7 +243,7 @@ int run(cli::CommandContext& ctx) {
             f.result.analysis = std::move(*outcome.analysis);
         }
         std::string text;
-        if (!readTranscriptText(path, text)) {
+        if (!readTranscriptText(path, text, prepared->context.encoding)) {
             ctx.err << "tavi explore: cannot read " << path << '\n';
             status = cli::kExitUsage;
             continue;

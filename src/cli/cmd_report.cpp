@@ -165,7 +165,7 @@ int run(cli::CommandContext& ctx) {
     TranLines lines;
     if (definition->needsLines) {
         std::string text;
-        readTranscriptText(file, text);
+        readTranscriptText(file, text, prepared->context.encoding);
         lines = splitTranscriptLines(text);
         request.lines = &lines;
     }

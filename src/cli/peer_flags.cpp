@@ -87,7 +87,7 @@ openComparisonForCommand(CommandContext& ctx, const Args& args, const std::strin
         return std::nullopt;
     }
     std::string text;
-    readTranscriptText(transcriptPath, text);
+    readTranscriptText(transcriptPath, text, context.encoding);
     db::PeerTarget target =
         db::peerTarget(std::filesystem::path(transcriptPath).filename().string(),
                        splitTranscriptLines(text), analysis, context);

@@ -35,7 +35,7 @@ public:
     bool addFile(const std::string& name) {
         std::string path = fullTranscriptPath(name, options_.transcriptFolder);
         std::string base = baseName(path);
-        LoadedTranscript transcript = loadTranscript(path);
+        LoadedTranscript transcript = loadTranscript(path, options_.encoding);
         if (!transcript.ok)
             return tell(format(msg::kNotOpened, path.c_str()));
         const TranLines& lines = transcript.lines;

@@ -11,6 +11,7 @@
 
 #include "base/progress.h"
 #include "base/prompter.h"
+#include "base/text.h"
 #include "database/database_file.h"
 #include "database/sample_info.h"
 #include "transcript/checker.h"
@@ -36,6 +37,8 @@ struct BuildOptions {
     std::string values[kEnforcedFields];
     std::string transcriptFolder; // where names without a folder are found
     DateOrder dateOrder = DateOrder::MonthDayYear;
+    // How transcripts without a byte order mark are read (the language settings).
+    TextEncoding encoding = TextEncoding::Utf8;
     // Store the transcript without the speaker's name, identifier and dates,
     // the age kept as "CA" (see deidentifiedText); the record never holds them.
     bool deidentify = false;

@@ -57,6 +57,7 @@ AnalysisContext analysisContext(const Settings& settings,
     AnalysisContext context;
     context.check = checkOptionsFrom(settings);
     context.measures = measureOptionsFrom(settings);
+    context.encoding = settings.language.textEncoding;
     context.resources = std::move(resources);
     if (context.resources)
         context.resources->attach(context.measures);
@@ -90,7 +91,8 @@ TranscriptAnalysis analyseFile(const std::filesystem::path& path, const Analysis
     TranscriptAnalysis analysis;
     std::error_code ec;
     std::string text;
-    if (std::filesystem::is_directory(path, ec) || !readTranscriptText(path, text)) {
+    if (std::filesystem::is_directory(path, ec) ||
+        !readTranscriptText(path, text, context.encoding)) {
         analysis.load = LoadStatus::CannotOpen;
         return analysis;
     }

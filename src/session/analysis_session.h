@@ -28,6 +28,7 @@ class Prompter;
 struct AnalysisContext {
     CheckOptions check;
     MeasureOptions measures;
+    TextEncoding encoding = TextEncoding::Utf8;        // files without a byte order mark
     std::shared_ptr<const MeasureResources> resources; // what `measures` points into
 
     // A context that shares these resources (word lists, dictionary) but

@@ -221,6 +221,9 @@ std::vector<std::string> languageLines(const LanguageSettings& language) {
         lines.push_back(joined("LANGUAGE", "RLABELS", language.reportLabels));
     if (!language.plusLabels.empty())
         lines.push_back(joined("LANGUAGE", "PLABELS", language.plusLabels));
+    lines.emplace_back(language.textEncoding == TextEncoding::Windows1252
+                           ? "LANGUAGE ENCODING WINDOWS-1252"
+                           : "LANGUAGE ENCODING UTF-8");
     return lines;
 }
 
@@ -239,6 +242,11 @@ void applyLanguageLine(const KeywordLine& line, LanguageSettings& language) {
         language.reportLabels = line.rest;
     } else if (keyIs(key, "PLABELS")) {
         language.plusLabels = line.rest;
+    } else if (keyIs(key, "ENCODING")) {
+        if (keyIs(line.rest, "WINDOWS-1252"))
+            language.textEncoding = TextEncoding::Windows1252;
+        else if (keyIs(line.rest, "UTF-8"))
+            language.textEncoding = TextEncoding::Utf8;
     } else if (std::optional<FlagSubKey> flag = splitFlagSubKey(key)) {
         for (const LanguageFlag& known : kLanguageFlags) {
             if (std::optional<LanguageSlot> slot = slotAfter(flag->name, known.prefix)) {

@@ -144,6 +144,10 @@ void applyUserLine(const std::string& keyword, const KeywordLine& line,
 
 } // namespace
 
+LanguageSlot LanguageSettings::reportSlot() const {
+    return languageSlotFromWord(reportLabels).value_or(LanguageSlot::Primary);
+}
+
 const std::vector<KeywordLine>& Settings::sectionLines(std::string_view keyword) const {
     static const std::vector<KeywordLine> none;
     auto found = userSections.find(toUpperAscii(keyword));

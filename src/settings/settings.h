@@ -16,6 +16,7 @@
 #include "analysis/transcript_cut.h"
 #include "analysis/word_base.h"
 #include "base/prompter.h"
+#include "base/text.h"
 #include "settings/keyword_file.h"
 #include "settings/label_table.h"
 
@@ -55,6 +56,13 @@ struct LanguageSettings {
     char dateSeparator = '-'; // "DATESEP": one of "-", ".", "/"
     std::string reportLabels; // "RLABELS", kept as written
     std::string plusLabels;   // "PLABELS", kept as written
+    // "ENCODING UTF-8" or "ENCODING WINDOWS-1252": how transcripts and lists
+    // without a byte order mark are read.
+    TextEncoding textEncoding = TextEncoding::Utf8;
+
+    // The slot whose labels reports use: "RLABELS" names it (PRIMARY, ALT1,
+    // ALT2 or OTHER); anything else is the primary slot.
+    LanguageSlot reportSlot() const;
 
     bool operator==(const LanguageSettings&) const = default;
 };
@@ -112,6 +120,7 @@ struct Settings {
     SettingsFolders folders;
 
     // Program-level settings (TAVI_SYS.ini).
+    std::string programSettingsFile; // the TAVI_SYS.ini read at start-up, or the first looked for
     bool customizeAllowed = false;   // "CUSTOMIZEPROMPT YES"
     bool dataFolderDeclined = false; // the user said No to creating "My TAVI Data"
 

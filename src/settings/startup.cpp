@@ -118,6 +118,7 @@ LoadedSettings loadSettings(const StartupEnvironment& env, Prompter& prompter) {
         }
     }
     record("program-level settings", sysFile, sysLines ? FileStatus::Read : FileStatus::Missing);
+    settings.programSettingsFile = sysFile;
     if (env.settingsDir)
         settings.folders.setup = userData;
 

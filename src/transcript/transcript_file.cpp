@@ -6,8 +6,8 @@
 
 namespace tavi {
 
-LoadedTranscript decodeTranscript(std::string_view bytes) {
-    DecodedText decoded = decodeText(bytes);
+LoadedTranscript decodeTranscript(std::string_view bytes, TextEncoding encoding) {
+    DecodedText decoded = decodeText(bytes, encoding);
     LoadedTranscript result;
     result.ok = true;
     result.hadBom = decoded.hadBom;
@@ -17,18 +17,19 @@ LoadedTranscript decodeTranscript(std::string_view bytes) {
     return result;
 }
 
-LoadedTranscript loadTranscript(const std::filesystem::path& path) {
+LoadedTranscript loadTranscript(const std::filesystem::path& path, TextEncoding encoding) {
     std::string bytes;
     if (!readFile(path, bytes))
         return {};
-    return decodeTranscript(bytes);
+    return decodeTranscript(bytes, encoding);
 }
 
-bool readTranscriptText(const std::filesystem::path& path, std::string& text) {
+bool readTranscriptText(const std::filesystem::path& path, std::string& text,
+                        TextEncoding encoding) {
     std::string bytes;
     if (!readFile(path, bytes))
         return false;
-    text = decodeText(bytes).utf8;
+    text = decodeText(bytes, encoding).utf8;
     return true;
 }
 

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "base/file_io.h"
+#include "base/text.h"
 #include "transcript/tran_line.h"
 
 namespace tavi {
@@ -21,15 +22,19 @@ struct LoadedTranscript {
 };
 
 // Reads a transcript file: UTF-8 with or without byte order mark; bytes that
-// are not valid UTF-8 are read as Windows-1252.
-LoadedTranscript loadTranscript(const std::filesystem::path& path);
+// are not valid UTF-8 are read as Windows-1252. `encoding` is the language
+// settings' choice for files without a byte order mark.
+LoadedTranscript loadTranscript(const std::filesystem::path& path,
+                                TextEncoding encoding = TextEncoding::Utf8);
 
 // The whole text of a transcript file as UTF-8 (decoded as above), without
 // cutting it into lines; false when the file cannot be read.
-bool readTranscriptText(const std::filesystem::path& path, std::string& text);
+bool readTranscriptText(const std::filesystem::path& path, std::string& text,
+                        TextEncoding encoding = TextEncoding::Utf8);
 
 // The same for bytes already in memory.
-LoadedTranscript decodeTranscript(std::string_view bytes);
+LoadedTranscript decodeTranscript(std::string_view bytes,
+                                  TextEncoding encoding = TextEncoding::Utf8);
 
 // Text cut into lines at LF, CR LF or a lone CR, numbered from 1.
 TranLines splitTranscriptLines(std::string_view text);

@@ -59,10 +59,11 @@ TEST_F(ShellTest, MainMenuHasItsMenusCommandsAndHeadingsInOrder) {
     EXPECT_FALSE(first->isEnabled());
     EXPECT_EQ(analyze->actions()[1]->objectName(), "ID_ANAL_SMR");
 
-    // A command not built yet keeps its place, disabled, and says so.
+    // A command that cannot be built keeps its place, disabled, and says why.
     QAction* corpus = action("ID_FILE_IMPORT_CP");
     EXPECT_FALSE(corpus->isEnabled());
-    EXPECT_EQ(corpus->statusTip(), "Import a C&P corpus file (not available yet)");
+    EXPECT_EQ(corpus->statusTip(), "Import a C&P CORPUS file (not available: no description of "
+                                   "this format exists)");
     EXPECT_EQ(action("ID_ANAL_PERF")->statusTip(), "Performance Report");
     EXPECT_EQ(action("ID_ANAL_CODES")->statusTip(), "Code Summary Report");
 

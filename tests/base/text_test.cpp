@@ -18,6 +18,17 @@ TEST(DecodeText, RecognisesByteOrderMarkAndFallsBackToWindows1252) {
     EXPECT_FALSE(legacy.wasUtf8);
     EXPECT_EQ(legacy.utf8, "caf\xC3\xA9 \xE2\x80\x9Cquoted\xE2\x80\x9D");
 
+    // Read as Windows-1252 by choice: valid UTF-8 without a byte order mark
+    // is taken byte by byte; a byte order mark still means UTF-8.
+    DecodedText chosen = decodeText("caf\xC3\xA9", TextEncoding::Windows1252);
+    EXPECT_FALSE(chosen.wasUtf8);
+    EXPECT_EQ(chosen.utf8, "caf\xC3\x83\xC2\xA9");
+    EXPECT_EQ(decodeText("\xEF\xBB\xBF"
+                         "caf\xC3\xA9",
+                         TextEncoding::Windows1252)
+                  .utf8,
+              "caf\xC3\xA9");
+
     // Only a byte order mark: empty text.
     EXPECT_EQ(decodeText("\xEF\xBB\xBF").utf8, "");
     // Invalid bytes after a byte order mark become U+FFFD, never a crash.

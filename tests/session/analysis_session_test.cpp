@@ -92,6 +92,26 @@ TEST(AnalysisSession, LinesTextAndFileGiveTheSameAnalysis) {
     EXPECT_EQ(fromLines.measures().formatted(MeasureId::NTW), "5");
 }
 
+TEST(AnalysisSession, FilesWithoutByteOrderMarkAreReadInTheChosenEncoding) {
+    const fs::path file =
+        fs::temp_directory_path() / ("tavi_encoding_" + std::to_string(::getpid()) + ".tvi");
+    // "$ Zoë, Examiner" in UTF-8 without a byte order mark: read as UTF-8
+    // under the default choice, byte by byte under Windows-1252.
+    std::ofstream(file, std::ios::binary) << "$ Zo\xC3\xAB, Examiner\nC hi.\n";
+    EXPECT_EQ(loadTranscript(file).lines.at(0).text, "$ Zo\xC3\xAB, Examiner");
+    EXPECT_EQ(loadTranscript(file, TextEncoding::Windows1252).lines.at(0).text,
+              "$ Zo\xC3\x83\xC2\xAB, Examiner");
+    std::string text;
+    ASSERT_TRUE(readTranscriptText(file, text, TextEncoding::Windows1252));
+    EXPECT_EQ(text.substr(0, 8), "$ Zo\xC3\x83\xC2\xAB");
+    fs::remove(file);
+
+    Settings settings;
+    EXPECT_EQ(analysisContext(settings, nullptr).encoding, TextEncoding::Utf8);
+    settings.language.textEncoding = TextEncoding::Windows1252;
+    EXPECT_EQ(analysisContext(settings, nullptr).encoding, TextEncoding::Windows1252);
+}
+
 TEST(AnalysisSession, CheckingAloneMeasuresNothingAndFilesThatCannotBeAnalysedSaySo) {
     const AnalysisContext context = analysisContext(Settings{}, nullptr);
     AnalysisRequest checkOnly;

@@ -115,15 +115,22 @@ TEST(SectionLines, LanguageAndTimingAndFontsRoundTrip) {
     language.monthFirst = false;
     language.dateSeparator = '.';
     language.reportLabels = "ALT1";
+    language.textEncoding = TextEncoding::Windows1252;
     std::vector<std::string> lines = languageLines(language);
+    EXPECT_EQ(lines.back(), "LANGUAGE ENCODING WINDOWS-1252");
+    EXPECT_EQ(language.reportSlot(), LanguageSlot::Alt1);
     EXPECT_EQ(lines.front(), "LANGUAGE UCPRIMARY_YES");
     EXPECT_NE(std::find(lines.begin(), lines.end(), "LANGUAGE RIF2OTHER /data/rif/french.rif"),
               lines.end());
     EXPECT_EQ(readBack(lines, applyLanguageLine), language);
 
     LanguageSettings read =
-        readBack({"LANGUAGE ugcalt2_yes", "LANGUAGE DATESEP x", "LANGUAGE UCNOWHERE_YES"},
+        readBack({"LANGUAGE ugcalt2_yes", "LANGUAGE DATESEP x", "LANGUAGE UCNOWHERE_YES",
+                  "LANGUAGE ENCODING KOI8-R", "LANGUAGE RLABELS KLINGON"},
                  applyLanguageLine);
+    EXPECT_EQ(read.textEncoding, TextEncoding::Utf8); // an unknown encoding keeps the default
+    EXPECT_EQ(read.reportSlot(), LanguageSlot::Primary);
+    read.reportLabels.clear();
     EXPECT_TRUE(read.slots[2].ugc);
     EXPECT_EQ(read.dateSeparator, '-');
     LanguageSettings expected;
