@@ -4,6 +4,7 @@
 #include "base/file_io.h"
 #include "base/prompter.h"
 #include "base/text.h"
+#include "settings/word_list_settings.h"
 
 namespace tavi {
 
@@ -96,10 +97,10 @@ std::string verbFilePath(const Settings& s) {
 
 MeasureResources loadMeasureResources(const Settings& s, Prompter& prompter) {
     MeasureResources r;
-    r.wordListsFound = s.standardWordListFound;
+    r.wordListsFound = wordListsAvailable(s);
     if (r.wordListsFound) {
         std::string text;
-        for (const std::string& line : s.standardWordListLines)
+        for (const std::string& line : wordListLinesInForce(s))
             text += line + "\n";
         r.wordLists = StandardWordLists::parse(text);
     } else {
