@@ -112,7 +112,6 @@ private:
     void insertTemplate(std::string_view key);
     void insertSiCodes();
     void siCodeSettings();
-    int siSpeaker_ = 0; // "SI Code Settings": the speaker Insert SI Codes codes
     // Database
     CTAVIDoc* databaseTarget() const;
     void refreshDatabaseMenu();
@@ -153,6 +152,8 @@ private:
     void setupFolder(const QString& which);
     void setupFont(int which);
     void applyFonts();
+    // Setup > Lists, Timing Lines, Default Databases (main_frame_lists.cpp)
+    void registerListCommands();
     // Tools
     void registerToolCommands();
     void toolsGenerateList(ListKind kind);

@@ -158,6 +158,7 @@ void CMainFrame::registerCommands() {
     on(ID_FONT_DISPTRAN, [this] { setupFont(0); });
     on(ID_FONT_DISPREPT, [this] { setupFont(1); });
     on(ID_FONT_PRT, [this] { setupFont(2); });
+    registerListCommands();
 
     // Tools
     registerToolCommands();
