@@ -71,6 +71,7 @@ MeasureOptions measureOptionsFrom(const Settings& s) {
     o.wordBase = s.wordBase;
     o.cut = s.transcriptCut;
     o.window = s.movingAverageWindow;
+    o.subtractStartTime = s.timingLines.subtract;
     const CodeLists defaults;
     o.codeLists.errors = codeListOf(s, "OMITERR", defaults.errors);
     o.codeLists.fluency = codeListOf(s, "FLUENCY", defaults.fluency);
