@@ -1,6 +1,8 @@
 // Parsing code lists and matching codes against them.
 #include "analysis/code_lists.h"
 
+#include <algorithm>
+
 #include "base/text.h"
 
 namespace tavi {
@@ -22,6 +24,62 @@ std::vector<std::string> parseCodeItems(std::string_view list) {
     }
     flush();
     return items;
+}
+
+namespace {
+
+std::string_view trimDescription(std::string_view text) {
+    auto separator = [](char c) { return isBlank(c) || c == ',' || c == ';'; };
+    while (!text.empty() && separator(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && separator(text.back()))
+        text.remove_suffix(1);
+    return text;
+}
+
+} // namespace
+
+std::vector<DescribedCode> parseDescribedCodes(std::string_view list) {
+    std::vector<DescribedCode> codes;
+    if (list.find('[') == std::string_view::npos) {
+        for (std::string& item : parseCodeItems(list))
+            codes.push_back({std::move(item), {}});
+        return codes;
+    }
+    size_t at = 0;
+    while (at < list.size()) {
+        const size_t open = list.find('[', at);
+        if (open == std::string_view::npos)
+            break;
+        const size_t close = list.find(']', open + 1);
+        if (close == std::string_view::npos)
+            break;
+        const size_t next = std::min(list.find('[', close + 1), list.size());
+        std::string_view code = trim(list.substr(open + 1, close - open - 1));
+        if (!code.empty())
+            codes.push_back({std::string(code), std::string(trimDescription(
+                                                    list.substr(close + 1, next - close - 1)))});
+        at = next;
+    }
+    return codes;
+}
+
+std::string describedCodeListText(const std::vector<DescribedCode>& codes) {
+    std::string text;
+    for (const DescribedCode& c : codes) {
+        if (c.code.empty())
+            continue;
+        if (!text.empty() && text.back() != ']')
+            text += ' ';
+        text += "[" + c.code + "]";
+        // A bracket would start another code: it is written as a parenthesis.
+        std::string description = c.description;
+        std::replace(description.begin(), description.end(), '[', '(');
+        std::replace(description.begin(), description.end(), ']', ')');
+        if (!description.empty())
+            text += " " + description;
+    }
+    return text;
 }
 
 bool isValidCodeList(std::string_view list) {

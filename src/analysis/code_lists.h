@@ -23,6 +23,22 @@ struct CodeLists {
 // blanks around items are dropped, empty items skipped.
 std::vector<std::string> parseCodeItems(std::string_view list);
 
+// A code with the description a code list may give it. In a list, the text
+// after a bracketed code up to the next "[" describes that code:
+// "[EW] error at word level [EO] omitted word" gives EW and EO with their
+// descriptions; "[EW][EO]" and "EW, EO" give the codes alone. Blanks and
+// commas or semicolons around a description are dropped.
+struct DescribedCode {
+    std::string code; // without brackets
+    std::string description;
+
+    bool operator==(const DescribedCode&) const = default;
+};
+std::vector<DescribedCode> parseDescribedCodes(std::string_view list);
+// The list text of described codes: "[EW] error at word level [EO]"; a
+// bracket inside a description is written as a parenthesis.
+std::string describedCodeListText(const std::vector<DescribedCode>& codes);
+
 // A code matches an item when the code's text before any ":" equals the item,
 // without regard to case; an item ending in "*" matches any ending.
 bool codeMatchesItem(std::string_view code, std::string_view item);

@@ -63,6 +63,8 @@ MeasureResult computeMeasures(const SegmentedTranscript& transcript,
     MeasureResult result;
     result.selection =
         selectUtterances(transcript, options.analysisSet, options.cut, yesNoTest(options));
+    if (!options.subtractStartTime && result.selection.elapsedSeconds)
+        *result.selection.elapsedSeconds += result.selection.elapsedStart;
     result.wordListsAvailable = static_cast<bool>(yesNoTest(options));
     result.categoriesAvailable = options.dictionary != nullptr;
 

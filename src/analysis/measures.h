@@ -40,6 +40,9 @@ struct MeasureOptions {
     WordBase wordBase;
     TranscriptCut cut;
     int window = kDefaultWindow; // moving-average window, "MATTRSET WINDOW"
+    // "TIMINGLINES SUBTRACT": elapsed time counts from the timing line in
+    // force at the start; off, it counts from 0:00 (the last time as written).
+    bool subtractStartTime = true;
     CodeLists codeLists;
 
     // Standard word lists and the language set counted (0 primary, 1 first

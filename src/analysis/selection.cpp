@@ -333,8 +333,10 @@ private:
 };
 
 // Elapsed time inside the cut: the last timing line up to the cut's end, less
-// the timing line in force before its first utterance (none: 0).
-std::optional<int> elapsedInCut(const SegmentedTranscript& t, size_t first, size_t end) {
+// the timing line in force before its first utterance (none: 0), which is
+// put in `start`.
+std::optional<int> elapsedInCut(const SegmentedTranscript& t, size_t first, size_t end,
+                                int& start) {
     size_t firstUtt = first;
     while (firstUtt < end && t.entries[firstUtt].kind != EntryKind::Utterance)
         ++firstUtt;
@@ -349,6 +351,7 @@ std::optional<int> elapsedInCut(const SegmentedTranscript& t, size_t first, size
             reference = t.entries[i].seconds;
             break;
         }
+    start = reference;
     size_t last = std::min(end + 1, t.entries.size());
     for (size_t i = last; i-- > firstUtt;)
         if (timingAt(i))
@@ -427,7 +430,7 @@ Selection selectUtterances(const SegmentedTranscript& t, const AnalysisSet& set,
         if (s.analysisSetFlags[e.utterance])
             s.speakers[group].analysisSet.push_back(e.utterance);
     }
-    s.elapsedSeconds = elapsedInCut(t, s.firstEntry, s.endEntry);
+    s.elapsedSeconds = elapsedInCut(t, s.firstEntry, s.endEntry, s.elapsedStart);
     return s;
 }
 

@@ -73,6 +73,9 @@ struct Selection {
     CutOutcome outcome = CutOutcome::Complete;
     // Elapsed time of the cut from its timing lines; empty when it has none.
     std::optional<int> elapsedSeconds;
+    // The time of the timing line in force before the cut's first utterance
+    // (0 when there is none), which elapsedSeconds has subtracted.
+    int elapsedStart = 0;
 };
 
 // Applies the cut and the analysis set. Never shows anything: the caller shows

@@ -142,18 +142,18 @@ enum class CommandStatus { Working, Unavailable };
     X(ID_LOC_RIF, Working) \
     X(ID_LOC_BATCH, Working) \
     X(ID_LOC_BACKUP, Working) \
-    X(ID_LISTS_SWL, Unavailable) \
-    X(ID_LISTS_CODES, Unavailable) \
-    X(ID_LISTS_TEXT, Unavailable) \
-    X(ID_LISTS_SYMBOLS, Unavailable) \
+    X(ID_LISTS_SWL, Working) \
+    X(ID_LISTS_CODES, Working) \
+    X(ID_LISTS_TEXT, Working) \
+    X(ID_LISTS_SYMBOLS, Working) \
     X(ID_EDSET_SI, Working) \
     X(ID_EDSET_RIF_EDIT, Working) \
     X(ID_EDSET_RIF_SETTINGS, Working) \
     X(ID_EDSET_BACKUP, Working) \
-    X(ID_ANSET_TIMING, Unavailable) \
+    X(ID_ANSET_TIMING, Working) \
     X(ID_ANSET_MATTR, Working) \
     X(ID_ANSET_PCSD, Working) \
-    X(ID_ANSET_DEFDB, Unavailable) \
+    X(ID_ANSET_DEFDB, Working) \
     X(ID_SETUP_LANGUAGE, Working) \
     X(ID_FONT_DISPTRAN, Working) \
     X(ID_FONT_DISPREPT, Working) \

@@ -4,31 +4,43 @@
 #include <QDialogButtonBox>
 #include <QListWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "analysis/code_lists.h"
+#include "app/lists_dialogs.h"
 #include "settings/settings.h"
 
 namespace tavi::app {
 namespace {
 
-// Codes offered while no code list was saved: the error, fluency,
-// nonmainstream-form and code-switch codes of the default code lists.
-constexpr const char* kDefaultCodes[] = {"EW",  "EO",  "EU",  "EP", "PWR",
-                                         "WWR", "PRO", "BLK", "NM", "CS"};
-
 QString q(const std::string& s) {
     return QString::fromStdString(s);
 }
 
+// A code as the list shows it: the code, then its description when it has one.
+InsertEntry codeEntry(const DescribedCode& code) {
+    const QString bracketed = q("[" + code.code + "]");
+    return {code.description.empty() ? bracketed
+                                     : bracketed + QStringLiteral("   ") + q(code.description),
+            bracketed};
+}
+
+// The codes of the saved code lists, in list order, each once; while no code
+// list was saved, the error, fluency, nonmainstream-form and code-switch codes.
 std::vector<InsertEntry> codeEntries(const Settings& settings) {
     std::vector<InsertEntry> entries;
     for (const auto& [number, list] : settings.insertCodeLists)
-        for (const std::string& code : parseCodeItems(list))
-            entries.emplace_back(q("[" + code + "]"), q("[" + code + "]"));
+        for (const DescribedCode& code : parseDescribedCodes(list)) {
+            InsertEntry entry = codeEntry(code);
+            const bool seen = std::any_of(entries.begin(), entries.end(), [&](const auto& e) {
+                return e.second == entry.second && e.first == entry.first;
+            });
+            if (!seen)
+                entries.push_back(std::move(entry));
+        }
     if (entries.empty())
-        for (const char* code : kDefaultCodes)
-            entries.emplace_back(QStringLiteral("[%1]").arg(QLatin1String(code)),
-                                 QStringLiteral("[%1]").arg(QLatin1String(code)));
+        for (const DescribedCode& code : defaultInsertCodes())
+            entries.push_back(codeEntry(code));
     return entries;
 }
 

@@ -129,7 +129,6 @@ private:
     void insertTemplate(std::string_view key);
     void insertSiCodes();
     void siCodeSettings();
-    int siSpeaker_ = 0; // "SI Code Settings": the speaker Insert SI Codes codes
     // Root identification and grammatical-category codes (main_frame_rif.cpp)
     void registerRifCommands();
     void identifyRoots();
@@ -190,6 +189,8 @@ private:
     void netFont(int which);
     bool saveProgramDefaults(const std::vector<std::string>& keywords,
                              const std::vector<std::string>& lines);
+    // Setup > Lists, Timing Lines, Default Databases (main_frame_lists.cpp)
+    void registerListCommands();
     // Tools
     void registerToolCommands();
     void toolsGenerateList(ListKind kind);

@@ -13,6 +13,8 @@
 #include "app/tavi_doc.h"
 #include "app/tavi_frame.h"
 #include "app/transcript_peers.h"
+#include "reports/smr_settings.h"
+#include "settings/section_save.h"
 
 namespace tavi::app {
 
@@ -64,6 +66,21 @@ void CMainFrame::analyzeStandardMeasures() {
                                app_.labelSource(), this);
     connect(&dialog, &CSmrVariablesDialog::helpRequested, this, [this, &dialog] {
         openHelpWindow(app_, QStringLiteral("docs/reading-the-smr.md"), &dialog);
+    });
+    connect(&dialog, &CSmrVariablesDialog::saveDefaultRequested, this, [this, &dialog] {
+        Settings& settings = app_.settings();
+        const std::vector<std::string> lines = smrVariablesLines(dialog.variables());
+        if (saveSection({settings.userSettingsFile(),
+                         "SMR",
+                         lines,
+                         kSaveReportSettingsQuestion,
+                         kSettingsSavedIn,
+                         settings.canSaveDefaults(),
+                         {}},
+                        app_.prompter()) == SaveOutcome::Saved) {
+            app_.smrVariables = dialog.variables();
+            settings.replaceSectionLines("SMR", lines);
+        }
     });
     if (dialog.exec() != QDialog::Accepted)
         return;

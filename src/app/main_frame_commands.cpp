@@ -160,6 +160,7 @@ void CMainFrame::registerCommands() {
     on(ID_FONT_DISPREPT, [this] { setupFont(1); });
     on(ID_FONT_PRT, [this] { setupFont(2); });
     registerNetSetupCommands();
+    registerListCommands();
 
     // Tools
     registerToolCommands();

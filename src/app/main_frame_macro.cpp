@@ -14,6 +14,7 @@
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <algorithm>
 
 #include "analysis/si_suggest.h"
 #include "app/main_frame.h"
@@ -21,6 +22,8 @@
 #include "app/tavi_doc.h"
 #include "app/tavi_frame.h"
 #include "app/transcript_peers.h"
+#include "settings/section_lines.h"
+#include "settings/section_save.h"
 #include "transcript/scoring_template.h"
 
 namespace tavi::app {
@@ -130,7 +133,8 @@ void CMainFrame::insertSiCodes() {
     if (!frame)
         return;
     CTAVIDoc& doc = frame->doc();
-    std::optional<TranscriptAnalysis> analysis = checkedAnalysis(doc, siSpeaker_);
+    std::optional<TranscriptAnalysis> analysis =
+        checkedAnalysis(doc, app_.settings().siCodeSpeaker);
     if (!analysis)
         return;
     const AnalysisContext context = app_.analysisContext();
@@ -165,9 +169,19 @@ void CMainFrame::siCodeSettings() {
     const QString chosen = QInputDialog::getItem(
         this, QStringLiteral("SI Code Settings"),
         QStringLiteral("Insert SI Codes codes the analysis-set utterances of:"), speakers,
-        siSpeaker_, false, &ok);
-    if (ok)
-        siSpeaker_ = speakers.indexOf(chosen);
+        app_.settings().siCodeSpeaker, false, &ok);
+    if (!ok)
+        return;
+    Settings& settings = app_.settings();
+    settings.siCodeSpeaker = std::max(0, static_cast<int>(speakers.indexOf(chosen)));
+    saveSection({settings.userSettingsFile(),
+                 "SICODESET",
+                 siCodeSetLines(settings.siCodeSpeaker),
+                 kSaveSettingsQuestion,
+                 kSettingsSavedIn,
+                 settings.canSaveDefaults(),
+                 {}},
+                app_.prompter());
 }
 
 void CMainFrame::registerMacroCommands() {

@@ -49,7 +49,7 @@ SaveOutcome COptionsDialog::saveAsDefault() {
     request.savingAllowed = app_.settings().canSaveDefaults();
     request.validate = [this] { return validateForSave(); };
     request.lines = sectionLines();
-    const SaveOutcome outcome = saveSection(request, app_.prompter());
+    const SaveOutcome outcome = saveSections(request, otherSectionKeywords(), app_.prompter());
     if (outcome == SaveOutcome::Saved)
         apply();
     return outcome;

@@ -37,6 +37,8 @@ protected:
     virtual void resetValues() = 0;
     virtual std::string sectionKeyword() const = 0;
     virtual std::vector<std::string> sectionLines() const = 0;
+    // Further section keywords a dialog saves with its own (their old lines go).
+    virtual std::vector<std::string> otherSectionKeywords() const { return {}; }
     virtual std::string_view saveQuestion() const;
     // The document "&Help" opens, with an anchor: "docs/measures.md#...".
     virtual QString helpDocument() const;

@@ -83,6 +83,10 @@ CSmrVariablesDialog::CSmrVariablesDialog(const SmrVariables& variables, int spea
         setVariables(all);
     });
     connect(reset, &QPushButton::clicked, this, [this] { setVariables(SmrVariables::defaults()); });
+    auto* saveDefault =
+        buttons->addButton(QStringLiteral("Save as &Default"), QDialogButtonBox::ActionRole);
+    saveDefault->setObjectName(QStringLiteral("saveAsDefault"));
+    connect(saveDefault, &QPushButton::clicked, this, &CSmrVariablesDialog::saveDefaultRequested);
     QPushButton* help = buttons->addButton(QDialogButtonBox::Help);
     help->setText(QStringLiteral("&Help"));
     help->setObjectName(QStringLiteral("help"));

@@ -27,6 +27,8 @@ public:
 
 Q_SIGNALS:
     void helpRequested(); // "&Help": the frame opens the report's document
+    // "Save as &Default": the frame saves variables() as the program default.
+    void saveDefaultRequested();
 
 private:
     std::array<QCheckBox*, kSmrLineCount> boxes_{};

@@ -7,6 +7,7 @@
 
 #include "base/file_io.h"
 #include "base/text.h"
+#include "reports/smr_settings.h"
 #include "settings/startup.h"
 
 namespace tavi::app {
@@ -31,6 +32,7 @@ CTAVIApp::CTAVIApp(StartupEnvironment env) {
     LoadedSettings loaded = loadSettings(env, prompter_);
     ok_ = loaded.ok;
     settings_ = std::move(loaded.settings);
+    smrVariables = smrVariablesFromSettings(settings_);
     loadRecentFiles();
 }
 

@@ -47,6 +47,9 @@ public:
     // What an analysis reads under the settings in force; the word lists and
     // dictionary are loaded at the first analysis and kept.
     AnalysisContext analysisContext();
+    // Drops the loaded word lists and dictionary, so the next analysis reads
+    // them again (after the word lists were edited).
+    void reloadMeasureResources() { resources_.reset(); }
     SmrVariables smrVariables = SmrVariables::defaults();
     int reportSpeaker = 0; // 0 the 1st speaker, 1 the 2nd
 

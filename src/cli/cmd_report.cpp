@@ -24,6 +24,7 @@
 #include "reports/report_grid.h"
 #include "reports/report_registry.h"
 #include "reports/rtf_writer.h"
+#include "reports/smr_settings.h"
 #include "reports/text_writer.h"
 #include "reports/transcript_report.h"
 #include "transcript/transcript_file.h"
@@ -152,6 +153,8 @@ int run(cli::CommandContext& ctx) {
     std::optional<cli::CommandAnalysis> prepared = cli::prepareAnalysis(ctx, prompter);
     if (!prepared)
         return cli::kExitUsage;
+    // The report's lines saved as the default in the desktop program.
+    request.choices.smrVariables = smrVariablesFromSettings(prepared->settings);
     const std::filesystem::path file = positional[1];
     AnalysisRequest analysisRequest;
     analysisRequest.speaker = speaker == "2" ? 1 : 0;

@@ -4,6 +4,7 @@
 #include "base/file_io.h"
 #include "base/prompter.h"
 #include "base/text.h"
+#include "settings/word_list_settings.h"
 
 namespace tavi {
 
@@ -70,6 +71,7 @@ MeasureOptions measureOptionsFrom(const Settings& s) {
     o.wordBase = s.wordBase;
     o.cut = s.transcriptCut;
     o.window = s.movingAverageWindow;
+    o.subtractStartTime = s.timingLines.subtract;
     const CodeLists defaults;
     o.codeLists.errors = codeListOf(s, "OMITERR", defaults.errors);
     o.codeLists.fluency = codeListOf(s, "FLUENCY", defaults.fluency);
@@ -96,10 +98,10 @@ std::string verbFilePath(const Settings& s) {
 
 MeasureResources loadMeasureResources(const Settings& s, Prompter& prompter) {
     MeasureResources r;
-    r.wordListsFound = s.standardWordListFound;
+    r.wordListsFound = wordListsAvailable(s);
     if (r.wordListsFound) {
         std::string text;
-        for (const std::string& line : s.standardWordListLines)
+        for (const std::string& line : wordListLinesInForce(s))
             text += line + "\n";
         r.wordLists = StandardWordLists::parse(text);
     } else {

@@ -282,6 +282,50 @@ void applyTimingLineLine(const KeywordLine& line, TimingLineFlags& flags) {
         flags.ignoreEqual = flag->value;
 }
 
+std::vector<std::string> numberedListLines(std::string_view keyword,
+                                           const std::map<int, std::string>& list) {
+    std::vector<std::string> lines{std::string(keyword) + " REMOVEALL"};
+    for (const auto& [number, text] : list) {
+        const std::string_view value = trim(text);
+        if (!value.empty())
+            lines.push_back(joined(keyword, std::to_string(number), value));
+    }
+    return lines;
+}
+
+std::vector<std::string> listLines(std::string_view keyword, const std::vector<std::string>& list) {
+    std::vector<std::string> lines{std::string(keyword) + " REMOVEALL"};
+    for (const std::string& entry : list) {
+        const std::string_view value = trim(entry);
+        if (!value.empty())
+            lines.push_back(std::string(keyword) + " " + std::string(value));
+    }
+    return lines;
+}
+
+std::vector<std::string> siCodeSetLines(int speaker) {
+    return {numberLine("SICODESET", "SPEAKER", speaker == 1 ? 2 : 1)};
+}
+
+void applySiCodeSetLine(const KeywordLine& line, int& speaker) {
+    if (!keyIs(line.subKey, "SPEAKER"))
+        return;
+    std::optional<int> n = parseWholeNumber(line.rest);
+    if (n && (*n == 1 || *n == 2))
+        speaker = *n - 1;
+}
+
+std::vector<std::string> defaultDatabaseLines(const std::string& name, const std::string& path,
+                                              bool pcsdInclude) {
+    std::vector<std::string> lines;
+    if (!name.empty())
+        lines.push_back("DEFDBNAME " + name);
+    if (!path.empty())
+        lines.push_back("DEFDBPATH " + path);
+    lines.push_back(flagLine("PCSD", "INCLUDE", pcsdInclude));
+    return lines;
+}
+
 std::vector<std::string> fontLines(std::string_view keyword, const FontSetting& font) {
     return {numberLine(keyword, "HEIGHT", font.height),
             numberLine(keyword, "WIDTH", font.width),

@@ -5,7 +5,9 @@
 // the same way by the other.
 #pragma once
 
+#include <map>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "analysis/analysis_set.h"
@@ -49,6 +51,25 @@ void applyLanguageLine(const KeywordLine& line, LanguageSettings& language);
 // "TIMINGLINES SUBTRACT_YES" ... for the three flags.
 std::vector<std::string> timingLineLines(const TimingLineFlags& flags);
 void applyTimingLineLine(const KeywordLine& line, TimingLineFlags& flags);
+
+// A numbered list ("CURINSCODELIST", "CURINSTEXT" ...): "<keyword> REMOVEALL",
+// then "<keyword> n text" for every entry with text, in number order; read
+// back with applyNumberedValue.
+std::vector<std::string> numberedListLines(std::string_view keyword,
+                                           const std::map<int, std::string>& list);
+// A plain list ("CURSYMBOLLIST"): "<keyword> REMOVEALL", then one line per
+// non-empty entry; read back with applyListValue.
+std::vector<std::string> listLines(std::string_view keyword, const std::vector<std::string>& list);
+
+// "SICODESET SPEAKER 1" or "SICODESET SPEAKER 2": the speaker Insert SI Codes
+// codes (0 the 1st, 1 the 2nd); another number leaves it unchanged.
+std::vector<std::string> siCodeSetLines(int speaker);
+void applySiCodeSetLine(const KeywordLine& line, int& speaker);
+
+// The default database: "DEFDBNAME name", "DEFDBPATH folder" (each only when
+// not empty) and "PCSD INCLUDE_YES"/"_NO".
+std::vector<std::string> defaultDatabaseLines(const std::string& name, const std::string& path,
+                                              bool pcsdInclude);
 
 // Font lines "<keyword> HEIGHT n" ... "<keyword> FACENAME name".
 std::vector<std::string> fontLines(std::string_view keyword, const FontSetting& font);

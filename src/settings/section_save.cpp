@@ -7,7 +7,8 @@
 
 namespace tavi {
 
-std::vector<std::string> mergedSectionLines(std::string_view presentBytes, std::string_view keyword,
+std::vector<std::string> mergedSectionLines(std::string_view presentBytes,
+                                            const std::vector<std::string>& keywords,
                                             const std::vector<std::string>& newLines) {
     std::vector<std::string> lines = newLines;
     DecodedText present = decodeText(presentBytes);
@@ -15,13 +16,28 @@ std::vector<std::string> mergedSectionLines(std::string_view presentBytes, std::
         line = trimLeft(line);
         if (line.empty())
             continue;
-        if (!keyIs(splitAtFirstBlank(line).first, keyword))
+        const std::string_view head = splitAtFirstBlank(line).first;
+        bool replaced = false;
+        for (const std::string& keyword : keywords)
+            replaced = replaced || keyIs(head, keyword);
+        if (!replaced)
             lines.emplace_back(line);
     }
     return lines;
 }
 
+std::vector<std::string> mergedSectionLines(std::string_view presentBytes, std::string_view keyword,
+                                            const std::vector<std::string>& newLines) {
+    return mergedSectionLines(presentBytes, std::vector<std::string>{std::string(keyword)},
+                              newLines);
+}
+
 SaveOutcome saveSection(const SectionSaveRequest& request, Prompter& prompter) {
+    return saveSections(request, {}, prompter);
+}
+
+SaveOutcome saveSections(const SectionSaveRequest& request,
+                         const std::vector<std::string>& alsoReplaced, Prompter& prompter) {
     if (!request.savingAllowed) {
         prompter.inform("Default settings cannot be saved on this computer.");
         return SaveOutcome::NotAllowed;
@@ -34,7 +50,9 @@ SaveOutcome saveSection(const SectionSaveRequest& request, Prompter& prompter) {
     std::string present;
     if (!readFile(request.file, present))
         present.clear();
-    std::vector<std::string> lines = mergedSectionLines(present, request.keyword, request.lines);
+    std::vector<std::string> keywords = alsoReplaced;
+    keywords.insert(keywords.begin(), request.keyword);
+    std::vector<std::string> lines = mergedSectionLines(present, keywords, request.lines);
     const std::string shown = request.file.string();
     switch (writeKeywordFile(request.file, lines)) {
     case WriteStatus::Ok:

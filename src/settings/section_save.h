@@ -51,10 +51,20 @@ struct SectionSaveRequest {
 // "Problem writing to " + path + " (not saved)".
 SaveOutcome saveSection(const SectionSaveRequest& request, Prompter& prompter);
 
+// The same for a dialog that saves several sections at once: the lines of the
+// request's keyword and of every keyword in `alsoReplaced` are dropped from the
+// present file, and the request's lines (which may begin with any of them)
+// stand first.
+SaveOutcome saveSections(const SectionSaveRequest& request,
+                         const std::vector<std::string>& alsoReplaced, Prompter& prompter);
+
 // The rewritten file's lines: the new section's lines, then every non-empty
 // line of the present file (trimmed on the left) whose keyword is not the
 // section keyword, in its old order.
 std::vector<std::string> mergedSectionLines(std::string_view presentBytes, std::string_view keyword,
+                                            const std::vector<std::string>& newLines);
+std::vector<std::string> mergedSectionLines(std::string_view presentBytes,
+                                            const std::vector<std::string>& keywords,
                                             const std::vector<std::string>& newLines);
 
 } // namespace tavi

@@ -130,6 +130,8 @@ void applyUserLine(const std::string& keyword, const KeywordLine& line,
         applyTranscriptCutLine(line, settings.transcriptCut);
     } else if (keyword == "CURSYMBOLLIST") {
         applyListValue(settings.symbolList, line.value);
+    } else if (keyword == "SICODESET") {
+        applySiCodeSetLine(line, settings.siCodeSpeaker);
     } else if (keyword == "BMORPH") {
         applyListValue(settings.boundMorphemes, line.value);
     } else if (keyword.starts_with("DEF") || keyword == "SDINT") {

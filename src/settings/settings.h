@@ -101,9 +101,10 @@ inline constexpr int kBackupIntervalMin = 50;
 inline constexpr int kBackupIntervalMax = 5000;
 inline constexpr std::string_view kDefaultPdfPrinter = "Microsoft Print to PDF";
 
-// The section keywords of the user-level file, in the loader's fixed order.
+// The section keywords of the user-level file, in the loader's fixed order;
+// "SMR" (the lines of the Standard Measures Report) comes last.
 // clang-format off
-inline constexpr std::array<std::string_view, 74> kUserSectionKeywords = {
+inline constexpr std::array<std::string_view, 75> kUserSectionKeywords = {
     "SPNOSHOW", "UGNOSHOW", "LANGUAGE", "CURULCHARSET", "TIMINGLINES", "PCSD", "MATTRSET",
     "BACKUP", "BACKUPDIR", "TRANDIR", "REPORTDIR", "LISTDIR", "DBASEDIR", "ALTDBASEDIR",
     "HASHFILEDIR", "PDFPRINTERNAME", "DISPTRANFONT", "DISPREPTFONT", "PRTREPTFONT", "PFORMAT",
@@ -113,7 +114,7 @@ inline constexpr std::array<std::string_view, 74> kUserSectionKeywords = {
     "DEFCONTEXT", "DEFSUBGRP", "DEFDBNAME", "DEFDBPATH", "SDINT", "PAIR", "CURSYMBOLLIST",
     "CURINSCODELIST", "CURINSCODELISTTITLE", "CURINSTEXT", "CURINSTITLE", "BATCHDIR", "GCCODE",
     "YOLINS", "YOLDEL", "YOLSAVE", "BATCH", "BMORPH", "EMULTINS", "EMULTDEL", "EMULTSAVE",
-    "EMULTREPT", "EMULT", "EMULTLIST", "GENVOC", "GENBM", "GENCODELIST"};
+    "EMULTREPT", "EMULT", "EMULTLIST", "GENVOC", "GENBM", "GENCODELIST", "SMR"};
 // clang-format on
 
 struct Settings {
@@ -148,6 +149,7 @@ struct Settings {
     std::map<int, std::string> insertTexts;          // "CURINSTEXT", n 0..9
     std::map<int, std::string> insertTitles;         // "CURINSTITLE", n 0..9
     std::vector<std::string> boundMorphemes;         // "BMORPH"
+    int siCodeSpeaker = 0; // "SICODESET SPEAKER n": 0 the 1st speaker (n 1), 1 the 2nd (n 2)
     // "DEFORDER" ... "DEFDBPATH" and "SDINT": one value each, by keyword.
     std::map<std::string, std::string, std::less<>> databaseDefaults;
 

@@ -26,5 +26,23 @@ TEST(CodeLists, ParseMatchAndValidate) {
     EXPECT_FALSE(isValidCodeList("a@b"));
 }
 
+// Insert Code lists may describe their codes; lists saved before that (bare
+// codes, bracketed or comma-separated) read the same as before.
+TEST(CodeLists, DescribedCodesReadOldAndNewForms) {
+    using D = std::vector<DescribedCode>;
+    EXPECT_EQ(parseDescribedCodes("[EW][EO*]"), (D{{"EW", ""}, {"EO*", ""}}));
+    EXPECT_EQ(parseDescribedCodes("EW, EO"), (D{{"EW", ""}, {"EO", ""}}));
+    EXPECT_EQ(parseDescribedCodes(" [EW] error at word level; [ EO ]omitted word,[PRO]"),
+              (D{{"EW", "error at word level"}, {"EO", "omitted word"}, {"PRO", ""}}));
+    EXPECT_EQ(parseDescribedCodes("[EW] unclosed [EO"), (D{{"EW", "unclosed"}}));
+    EXPECT_EQ(parseDescribedCodes(""), D{});
+
+    const D codes{{"EW", "error [word] level"}, {"EO", ""}, {"", "dropped"}, {"PRO", "pronoun"}};
+    const std::string text = describedCodeListText(codes);
+    EXPECT_EQ(text, "[EW] error (word) level [EO][PRO] pronoun");
+    EXPECT_EQ(parseDescribedCodes(text),
+              (D{{"EW", "error (word) level"}, {"EO", ""}, {"PRO", "pronoun"}}));
+}
+
 } // namespace
 } // namespace tavi

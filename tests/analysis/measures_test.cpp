@@ -151,6 +151,18 @@ TEST_F(SampleMeasures, Discourse) {
     EXPECT_EQ(count(Id::TurnByTLWdTot), 3);
 }
 
+// A sample whose first timing line is not 0:00 lasts from that line by
+// default; with the start time not subtracted it lasts from 0:00.
+TEST(ElapsedTime, StartTimeSubtractedUnlessTurnedOff) {
+    TranscriptBuilder b;
+    b.timing(90).c("I saw a dog .").c("it ran .").timing(210);
+    MeasureOptions options;
+    EXPECT_EQ(computeMeasures(b, options).speakers[0][Id::TimeMinSec].asText(), "2:00");
+    options.subtractStartTime = false;
+    EXPECT_EQ(computeMeasures(b, options).speakers[0][Id::TimeMinSec].asText(), "3:30");
+    EXPECT_DOUBLE_EQ(computeMeasures(b, options).speakers[0][Id::WPM].asReal(), 6 / 3.5);
+}
+
 TEST_F(SampleMeasures, TimingPausesAndMazes) {
     EXPECT_DOUBLE_EQ(real(Id::TimeMin), 2.0);
     EXPECT_EQ(child()[Id::TimeMinSec].asText(), "2:00");
