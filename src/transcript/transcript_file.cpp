@@ -25,10 +25,13 @@ LoadedTranscript loadTranscript(const std::filesystem::path& path) {
 }
 
 bool readTranscriptText(const std::filesystem::path& path, std::string& text) {
-    std::string bytes;
-    if (!readFile(path, bytes))
+    if (!readFile(path, text))
         return false;
-    text = decodeText(bytes).utf8;
+    // The usual file, UTF-8 without a byte order mark, is its own text: kept
+    // as read rather than copied (large transcripts would be held twice).
+    if (!text.starts_with(kUtf8Bom) && isValidUtf8(text))
+        return true;
+    text = decodeText(text).utf8;
     return true;
 }
 

@@ -198,11 +198,12 @@ struct Utterance {
     std::int8_t speakerGroup = 0; // 0 and 1: the main speakers; 2: every other speaker
     Terminator terminator = Terminator::Statement;
     Intelligibility intelligibility = Intelligibility::Intelligible;
-    bool hasComment = false;
-    bool hasQuotation = false;
-    bool hasOverlap = false;
-    bool hasTerminator = true; // false when the line has no end-of-utterance punctuation
-    bool nonverbal = false;    // no main-body words but a comment, e.g. "C {nods}."
+    // One bit each: a record is kept for every utterance of a transcript.
+    bool hasComment : 1 = false;
+    bool hasQuotation : 1 = false;
+    bool hasOverlap : 1 = false;
+    bool hasTerminator : 1 = true; // false when the line has no end-of-utterance punctuation
+    bool nonverbal : 1 = false;    // no main-body words but a comment, e.g. "C {nods}."
 
     std::span<const Code> codes() const {
         return extras ? extras->codes() : std::span<const Code>();
@@ -223,5 +224,7 @@ struct Utterance {
         return extras ? extras->parentheticalWords() : std::span<const Word>();
     }
 };
+
+static_assert(sizeof(Utterance) <= 48, "a record is kept for every utterance of a transcript");
 
 } // namespace tavi
