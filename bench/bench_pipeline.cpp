@@ -75,7 +75,13 @@ int main(int argc, char** argv) {
     const double before = peakMegabytes();
 
     double start = cpuSeconds();
-    LoadedTranscript loaded = loadTranscript(file);
+    // The text path reads the file as one text, as analyseFile does; the
+    // line path builds line records as well.
+    LoadedTranscript loaded;
+    if (lines)
+        loaded = loadTranscript(file);
+    else
+        readTranscriptText(file, loaded.text);
     const double load = cpuSeconds() - start;
     CheckOptions checkOptions;
     checkOptions.keepSegmentation = true;

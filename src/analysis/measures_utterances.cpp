@@ -35,8 +35,8 @@ void fillUtteranceKinds(const SpeakerView& v, SpeakerMeasures& m) {
         ++intel[static_cast<size_t>(u.intelligibility)];
         nonverbal += u.nonverbal ? 1 : 0;
         intelWords += f.wordCount;
-        marks += f.unintelligibleMarks;
-        withOmission += f.hasOmission() ? 1 : 0;
+        marks += f.rareFacts(v.c.tables).unintelligibleMarks;
+        withOmission += f.hasOmission(v.c.tables) ? 1 : 0;
         withQuotation += u.hasQuotation ? 1 : 0;
         withComment += u.hasComment ? 1 : 0;
         if (u.extras) {
@@ -84,12 +84,13 @@ void fillCodesAndErrors(const SpeakerView& v, SpeakerMeasures& m) {
     int utErr = 0, utFl = 0, utNm = 0, utCs = 0, utErrOrOmit = 0;
     for (int i : T) {
         const UtteranceFacts& f = v.facts(i);
-        omitWd += f.omittedWords;
-        omitBm += f.omittedMorphemes;
-        omitCl += f.omittedClitics;
+        const RareFacts& rare = f.rareFacts(v.c.tables);
+        omitWd += rare.omittedWords;
+        omitBm += rare.omittedMorphemes;
+        omitCl += rare.omittedClitics;
         words += f.wordCount;
         if (f.codes == 0) {
-            utErrOrOmit += f.hasOmission() ? 1 : 0;
+            utErrOrOmit += f.hasOmission(v.c.tables) ? 1 : 0;
             continue;
         }
         const CodeFacts& c = f.codeFacts(v.c.tables);
@@ -109,7 +110,7 @@ void fillCodesAndErrors(const SpeakerView& v, SpeakerMeasures& m) {
         utFl += c.fluency.total() > 0 ? 1 : 0;
         utNm += c.nonmainstream.total() > 0 ? 1 : 0;
         utCs += c.codeSwitch.total() > 0 ? 1 : 0;
-        utErrOrOmit += c.errors.total() > 0 || f.hasOmission() ? 1 : 0;
+        utErrOrOmit += c.errors.total() > 0 || f.hasOmission(v.c.tables) ? 1 : 0;
     }
     m[Id::UttwWdCode] = Value::count(wdCode);
     m[Id::UttwUtCode] = Value::count(utCode);
@@ -166,7 +167,7 @@ void fillUtteranceLists(const SpeakerView& v, SpeakerMeasures& m) {
         put(2, !r.question && !r.prompt && !r.imitation);           // PSPON
         put(3, r.oneWord);                                          // PONEWD
         put(4, u.intelligibility != Intelligibility::Intelligible); // PUNI
-        put(6, f.hasOmission());                                    // POMIT
+        put(6, f.hasOmission(v.c.tables));                          // POMIT
         put(8, u.hasComment);                                       // PCOMMENT
         put(9, u.hasQuotation);                                     // PDIAL
         if (u.extras) {

@@ -19,14 +19,15 @@
 namespace tavi {
 
 // Response types of one utterance, decided from the utterance just before it.
+// One bit each: a record is kept for every utterance.
 struct ResponseType {
-    bool question = false;         // Q: first utterance after the other main speaker's "?"
-    bool yesNo = false;            // Y: a Q utterance whose first word is a yes/no word
-    bool prompt = false;           // P: first utterance after the other main speaker's "~"
-    bool imitation = false;        // I: exact or reduced imitation of the other's utterance
-    bool exactImitation = false;   // same words as the other's preceding utterance
-    bool reducedImitation = false; // fewer of its words, in the same order
-    bool oneWord = false;          // O: exactly one main-body word
+    bool question : 1 = false;         // Q: first utterance after the other main speaker's "?"
+    bool yesNo : 1 = false;            // Y: a Q utterance whose first word is a yes/no word
+    bool prompt : 1 = false;           // P: first utterance after the other main speaker's "~"
+    bool imitation : 1 = false;        // I: exact or reduced imitation of the other's utterance
+    bool exactImitation : 1 = false;   // same words as the other's preceding utterance
+    bool reducedImitation : 1 = false; // fewer of its words, in the same order
+    bool oneWord : 1 = false;          // O: exactly one main-body word
 
     bool operator==(const ResponseType&) const = default;
 };

@@ -25,12 +25,12 @@ bool passesWordBase(const Utterance& u, int w, const WordBase& base, const CodeM
 }
 
 // Words of parenthetical remarks, counted when the word base takes them.
-void addParentheticalWords(const Utterance& u, UtteranceFacts& f, FactTables& t) {
+void addParentheticalWords(const Utterance& u, RareFacts& r, FactTables& t) {
     for (const Word& w : u.parentheticalWords())
         if (!w.omitted && !w.unintelligible && !w.inMaze) {
             rootKeyInto(w, t.key);
             t.remarkRoots.push_back(t.roots.idOf(t.key));
-            ++f.wordCount;
+            ++r.remarks;
         }
 }
 
@@ -101,10 +101,12 @@ bool isCountedWord(const Utterance& u, int index, const WordBase& base, const Co
 UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeMatchers& m,
                            FactTables& t) {
     UtteranceFacts f;
+    RareFacts rare;
     f.wordsFrom = static_cast<std::uint32_t>(t.words.size());
-    f.remarksFrom = static_cast<std::uint32_t>(t.remarkRoots.size());
+    rare.remarksFrom = static_cast<std::uint32_t>(t.remarkRoots.size());
     CodeFacts codes;
     f.overlap = u.hasOverlap;
+    int counted = 0;
     for (int index = 0; index < static_cast<int>(u.words.size()); ++index) {
         const Word& w = u.words[index];
         f.overlap = f.overlap || w.inOverlap;
@@ -115,36 +117,40 @@ UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeM
         if (w.inMaze)
             continue;
         if (w.omitted) {
-            ++f.omittedWords;
+            ++rare.omittedWords;
             continue;
         }
-        f.omittedMorphemes += static_cast<int>(w.omittedBoundMorphemes().size());
-        f.omittedClitics += static_cast<int>(w.omittedClitics().size());
+        rare.omittedMorphemes += static_cast<int>(w.omittedBoundMorphemes().size());
+        rare.omittedClitics += static_cast<int>(w.omittedClitics().size());
         if (w.unintelligible) {
-            ++f.unintelligibleMarks;
+            ++rare.unintelligibleMarks;
             continue;
         }
         if (!passesWordBase(u, index, base, m.wordBase))
             continue;
-        CountedWord counted;
-        counted.spelling = spellingOf(w, t);
-        const SpellingFacts& known = t.spellingList[counted.spelling];
-        t.words.push_back(counted);
-        ++f.counted;
+        CountedWord word;
+        word.spelling = spellingOf(w, t);
+        const SpellingFacts& known = t.spellingList[word.spelling];
+        t.words.push_back(word);
+        ++counted;
         f.morphemes += known.morphemes;
         f.boundMorphemes += known.boundMorphemes;
         f.clitics += known.clitics;
         if (!u.codes().empty())
             codes.errorWords += wordCarries(u, index, m.errors) ? 1 : 0;
     }
-    f.wordCount = static_cast<int>(f.counted);
     if (!base.excludeParenthetical)
-        addParentheticalWords(u, f, t);
-    f.morphemes += f.wordCount - static_cast<int>(f.counted);
+        addParentheticalWords(u, rare, t);
+    f.wordCount = counted + rare.remarks;
+    f.morphemes += rare.remarks;
     if (!u.codes().empty()) {
         tallyCodes(u, m, codes);
         f.codes = static_cast<std::uint32_t>(t.codeFacts.size());
         t.codeFacts.push_back(codes);
+    }
+    if (rare.any()) {
+        f.rare = static_cast<std::uint32_t>(t.rareFacts.size());
+        t.rareFacts.push_back(rare);
     }
     return f;
 }

@@ -93,6 +93,20 @@ struct CodeFacts {
     int errorWords = 0; // counted words carrying an error code
 };
 
+// The counts of an utterance that most utterances do not have (words of
+// parenthetical remarks, omissions, unintelligible marks), kept apart so that
+// the record kept for every utterance stays small.
+struct RareFacts {
+    std::uint32_t remarksFrom = 0; // FactTables::remarkRoots[remarksFrom, + remarks)
+    int remarks = 0;               // counted parenthetical words
+    int unintelligibleMarks = 0;   // main-body "X", "XX", "XXX"
+    int omittedWords = 0, omittedMorphemes = 0, omittedClitics = 0;
+
+    bool any() const {
+        return remarks + unintelligibleMarks + omittedWords + omittedMorphemes + omittedClitics > 0;
+    }
+};
+
 // The counted words, roots and endings of every utterance, one run each,
 // numbered in the computation's tables.
 struct FactTables {
@@ -107,6 +121,7 @@ struct FactTables {
     std::vector<SpellingFacts> spellingList;
     std::vector<int> spellingEndings;
     std::vector<CodeFacts> codeFacts{CodeFacts{}}; // [0]: an utterance without codes
+    std::vector<RareFacts> rareFacts{RareFacts{}}; // [0]: an utterance with none of them
 
     const SpellingFacts& spelling(const CountedWord& w) const { return spellingList[w.spelling]; }
     std::span<const int> endingsOf(const SpellingFacts& s) const {
@@ -114,29 +129,37 @@ struct FactTables {
     }
 };
 
+// The facts of one utterance: 36 bytes, as one is kept for every utterance.
 struct UtteranceFacts {
-    std::uint32_t wordsFrom = 0;   // counted words: FactTables::words[wordsFrom, + counted)
-    std::uint32_t counted = 0;     // counted main-body words
-    std::uint32_t remarksFrom = 0; // FactTables::remarkRoots[remarksFrom, + wordCount - counted)
-    std::uint32_t codes = 0;       // FactTables::codeFacts[codes]
-    int wordCount = 0;             // counted words and counted parenthetical words
+    std::uint32_t wordsFrom = 0; // counted words: FactTables::words[wordsFrom, + counted)
+    std::uint32_t codes = 0;     // FactTables::codeFacts[codes]
+    std::uint32_t rare = 0;      // FactTables::rareFacts[rare]
+    int wordCount = 0;           // counted words and counted parenthetical words
     int morphemes = 0;
     int mazeWords = 0;
-    int unintelligibleMarks = 0; // main-body "X", "XX", "XXX"
-    int omittedWords = 0, omittedMorphemes = 0, omittedClitics = 0;
     int boundMorphemes = 0, clitics = 0;
     bool overlap = false;
 
-    bool hasOmission() const { return omittedWords + omittedMorphemes + omittedClitics > 0; }
-
+    const RareFacts& rareFacts(const FactTables& t) const { return t.rareFacts[rare]; }
+    bool hasOmission(const FactTables& t) const {
+        const RareFacts& r = rareFacts(t);
+        return r.omittedWords + r.omittedMorphemes + r.omittedClitics > 0;
+    }
+    // Counted main-body words: the counted words less the remark words.
+    size_t counted(const FactTables& t) const {
+        return static_cast<size_t>(wordCount - rareFacts(t).remarks);
+    }
     std::span<const CountedWord> words(const FactTables& t) const {
-        return {t.words.data() + wordsFrom, counted};
+        return {t.words.data() + wordsFrom, counted(t)};
     }
     std::span<const int> remarkRoots(const FactTables& t) const {
-        return {t.remarkRoots.data() + remarksFrom, static_cast<size_t>(wordCount) - counted};
+        const RareFacts& r = rareFacts(t);
+        return {t.remarkRoots.data() + r.remarksFrom, static_cast<size_t>(r.remarks)};
     }
     const CodeFacts& codeFacts(const FactTables& t) const { return t.codeFacts[codes]; }
 };
+
+static_assert(sizeof(UtteranceFacts) <= 36, "a record is kept for every utterance");
 
 // Whether word `index` of `u` is a counted main-body word under the word base.
 bool isCountedWord(const Utterance& u, int index, const WordBase& base, const CodeMatchers& codes);

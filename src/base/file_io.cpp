@@ -20,6 +20,18 @@ bool readFile(const fs::path& path, std::string& bytes) {
     if (!in)
         return false;
     bytes.clear();
+    // One allocation of the file's size when it is known (a growing string
+    // would copy a large transcript several times and hold up to twice it).
+    if (auto size = fs::file_size(path, ec); !ec && size > 0) {
+        bytes.resize(static_cast<size_t>(size));
+        in.read(bytes.data(), static_cast<std::streamsize>(size));
+        bytes.resize(static_cast<size_t>(in.gcount()));
+        if (in.bad())
+            return false;
+        if (!in.eof() && in.peek() == std::ifstream::traits_type::eof())
+            return true;
+        in.clear(in.rdstate() & ~std::ios::failbit);
+    }
     char buffer[1 << 16];
     while (in.read(buffer, sizeof buffer) || in.gcount() > 0)
         bytes.append(buffer, static_cast<size_t>(in.gcount()));

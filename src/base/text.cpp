@@ -2,6 +2,8 @@
 #include "base/text.h"
 
 #include <array>
+#include <cstdint>
+#include <cstring>
 
 namespace tavi {
 
@@ -54,7 +56,17 @@ size_t validSequenceLength(std::string_view s, size_t pos) {
 bool isValidUtf8(std::string_view bytes) {
     size_t pos = 0;
     while (pos < bytes.size()) {
-        // Fast path over ASCII.
+        // Fast path over ASCII, eight bytes at a time: whole files are checked
+        // on every read, and most of their bytes are ASCII.
+        while (pos + 8 <= bytes.size()) {
+            std::uint64_t word;
+            std::memcpy(&word, bytes.data() + pos, 8);
+            if ((word & 0x8080808080808080u) != 0)
+                break;
+            pos += 8;
+        }
+        if (pos == bytes.size())
+            break;
         if (static_cast<unsigned char>(bytes[pos]) < 0x80) {
             ++pos;
             continue;

@@ -48,7 +48,7 @@ std::string utteranceText(const ReportInputs& in, const Utterance& u) {
     for (const Word& w : u.words)
         text += " " + std::string(w.text());
     if (u.hasTerminator)
-        appendUtf8(text, u.terminatorChar);
+        appendUtf8(text, u.terminatorChar());
     return text;
 }
 

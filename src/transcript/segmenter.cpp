@@ -209,8 +209,7 @@ bool LineCutter::findEnd() {
         }
         textAfterEnd_ = true;
     }
-    out_.terminatorChar = buf_[end_];
-    out_.terminator = static_cast<Terminator>(cls::terminatorKind(buf_[end_]));
+    out_.setTerminator(buf_[end_]);
     return true;
 }
 
@@ -780,8 +779,7 @@ void cutPlainLine(std::string_view line, size_t end, std::vector<Word>& words, U
         marks += w.unintelligible ? 1 : 0;
         words.push_back(w);
     }
-    out.terminatorChar = static_cast<unsigned char>(line[end]);
-    out.terminator = static_cast<Terminator>(cls::terminatorKind(out.terminatorChar));
+    out.setTerminator(static_cast<unsigned char>(line[end]));
     if (marks > 0)
         out.intelligibility = marks == static_cast<int>(words.size())
                                   ? Intelligibility::Unintelligible

@@ -26,10 +26,13 @@ LoadedTranscript loadTranscript(const std::filesystem::path& path, TextEncoding 
 
 bool readTranscriptText(const std::filesystem::path& path, std::string& text,
                         TextEncoding encoding) {
-    std::string bytes;
-    if (!readFile(path, bytes))
+    if (!readFile(path, text))
         return false;
-    text = decodeText(bytes, encoding).utf8;
+    // The usual file, UTF-8 without a byte order mark, is its own text: kept
+    // as read rather than copied (large transcripts would be held twice).
+    if (encoding == TextEncoding::Utf8 && !text.starts_with(kUtf8Bom) && isValidUtf8(text))
+        return true;
+    text = decodeText(text, encoding).utf8;
     return true;
 }
 

@@ -6,8 +6,11 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <span>
 #include <string_view>
+
+#include "transcript/char_class.h"
 
 namespace tavi {
 
@@ -191,18 +194,32 @@ static_assert(sizeof(UtteranceExtras) % 8 == 0 && sizeof(Code) % 8 == 0 && sizeo
 struct Utterance {
     std::span<const Word> words; // every word in order: main body and maze words
     const UtteranceExtras* extras = nullptr;
-    int line = 0;           // 1-based transcript line
-    int index = 0;          // 0-based position among all utterances of the transcript
-    char32_t speakerId = 0; // the identifier letter as written
-    char32_t terminatorChar = U'.';
+    int line = 0;                 // 1-based transcript line
+    int index = 0;                // 0-based position among all utterances of the transcript
+    char32_t speakerId = 0;       // the identifier letter as written
     std::int8_t speakerGroup = 0; // 0 and 1: the main speakers; 2: every other speaker
     Terminator terminator = Terminator::Statement;
     Intelligibility intelligibility = Intelligibility::Intelligible;
-    bool hasComment = false;
-    bool hasQuotation = false;
-    bool hasOverlap = false;
-    bool hasTerminator = true; // false when the line has no end-of-utterance punctuation
-    bool nonverbal = false;    // no main-body words but a comment, e.g. "C {nods}."
+    // One bit each: a record is kept for every utterance of a transcript.
+    bool hasComment : 1 = false;
+    bool hasQuotation : 1 = false;
+    bool hasOverlap : 1 = false;
+    bool hasTerminator : 1 = true;       // false when the line has no end-of-utterance punctuation
+    bool nonverbal : 1 = false;          // no main-body words but a comment, e.g. "C {nods}."
+    bool arabicQuestionMark : 1 = false; // the question is ended by U+061F, not "?"
+
+    // Sets the terminator from its character (one that cls::isTerminator takes).
+    void setTerminator(char32_t c) {
+        terminator = static_cast<Terminator>(cls::terminatorKind(c));
+        arabicQuestionMark = c == 0x061F;
+    }
+    // The terminator as written. Derived from its kind rather than kept: every
+    // kind has one character but the question, which has two.
+    char32_t terminatorChar() const {
+        constexpr char32_t kChars[] = {U'.', U'!', U'?', U'~', U'>', U'^'};
+        const auto kind = static_cast<size_t>(terminator);
+        return arabicQuestionMark ? 0x061F : kind < std::size(kChars) ? kChars[kind] : U'.';
+    }
 
     std::span<const Code> codes() const {
         return extras ? extras->codes() : std::span<const Code>();
@@ -223,5 +240,7 @@ struct Utterance {
         return extras ? extras->parentheticalWords() : std::span<const Word>();
     }
 };
+
+static_assert(sizeof(Utterance) <= 40, "a record is kept for every utterance of a transcript");
 
 } // namespace tavi

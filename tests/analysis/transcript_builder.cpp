@@ -102,7 +102,6 @@ TranscriptBuilder& TranscriptBuilder::utt(int group, std::string_view text) {
     std::string last = tokens.empty() ? "." : tokens.back();
     if (!tokens.empty())
         tokens.pop_back();
-    u.terminatorChar = static_cast<char32_t>(last[0]);
     u.terminator = terminatorOf(last[0]);
     int maze = -1;
     bool overlap = false;

@@ -41,6 +41,22 @@ TEST(DecodeText, RecognisesByteOrderMarkAndFallsBackToWindows1252) {
     EXPECT_FALSE(isValidUtf8("\xED\xA0\x80"));
 }
 
+// ASCII is passed over several bytes at a time: a faulty or multi-byte
+// sequence is found wherever it stands, at a word's edge or not.
+TEST(DecodeText, FindsEveryNonAsciiByteInLongAsciiRuns) {
+    for (size_t size : {7u, 8u, 9u, 16u, 23u, 64u}) {
+        for (size_t at = 0; at < size; ++at) {
+            std::string text(size, 'a');
+            text[at] = '\xFF';
+            EXPECT_FALSE(isValidUtf8(text)) << size << " " << at;
+            text.replace(at, 1, "\xC3\xA9");
+            EXPECT_TRUE(isValidUtf8(text)) << size << " " << at;
+            text.pop_back(); // a sequence cut short at the end when it stood last
+            EXPECT_EQ(isValidUtf8(text), at + 1 < size) << size << " " << at;
+        }
+    }
+}
+
 TEST(SplitLines, AcceptsEveryLineEndStyle) {
     auto lines = splitLines("a\r\nb\rc\nd");
     ASSERT_EQ(lines.size(), 4u);

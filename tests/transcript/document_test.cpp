@@ -50,6 +50,28 @@ TEST(TranscriptFile, SaveWritesTheByteOrderMarkAndReadsBack) {
     std::filesystem::remove_all(dir);
 }
 
+// A file read as a text gives what decoding its bytes gives: kept as read
+// when it is UTF-8 without a byte order mark, decoded otherwise.
+TEST(TranscriptFile, ReadTextAgreesWithDecoding) {
+    auto dir = std::filesystem::temp_directory_path() / "tavi_transcript_read_test";
+    std::filesystem::create_directories(dir);
+    const std::string long_(100000, 'a');
+    for (const std::string& bytes :
+         {std::string("$ Child\nC caf\xC3\xA9.\n"), std::string("\xEF\xBB\xBF$ Child\r\nC hi.\n"),
+          std::string("C caf\xE9.\n"), std::string(), "C " + long_ + ".\n",
+          "C " + long_ + "\xE9.\n"}) {
+        auto path = dir / "read.tvi";
+        ASSERT_EQ(writeFileAtomic(path, bytes), WriteStatus::Ok);
+        std::string text = "left over";
+        ASSERT_TRUE(readTranscriptText(path, text));
+        EXPECT_EQ(text, decodeTranscript(bytes).text) << bytes.substr(0, 20);
+    }
+    std::string text;
+    EXPECT_FALSE(readTranscriptText(dir / "missing.tvi", text));
+    EXPECT_FALSE(readTranscriptText(dir, text));
+    std::filesystem::remove_all(dir);
+}
+
 TEST(TranscriptFile, BackupNameAndLinkTexts) {
     EXPECT_EQ(backupPath("/data/story.final.tvi", "/backups"), "/backups/story.$VI");
     EXPECT_EQ(backupPath("Untitled", "/backups/"), "/backups/Untitled.$VI");

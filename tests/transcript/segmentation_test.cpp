@@ -199,7 +199,7 @@ TEST(Segmentation, PlainLinesCutLikeAnyOther) {
             EXPECT_EQ(plain.words[w].unintelligible, general.words[w].unintelligible) << line;
         EXPECT_EQ(plain.intelligibility, general.intelligibility) << line;
         EXPECT_EQ(plain.terminator, general.terminator) << line;
-        EXPECT_EQ(plain.terminatorChar, general.terminatorChar) << line;
+        EXPECT_EQ(plain.terminatorChar(), general.terminatorChar()) << line;
         EXPECT_EQ(plain.speakerId, U'C');
         EXPECT_FALSE(plain.hasComment);
         EXPECT_EQ(plain.extras, nullptr);
@@ -218,7 +218,7 @@ TEST(Segmentation, PlainLinesCutLikeAnyOther) {
         for (size_t w = 0; w < plain.words.size(); ++w)
             ASSERT_EQ(plain.words[w].unintelligible, general.words[w].unintelligible) << line;
         ASSERT_EQ(plain.intelligibility, general.intelligibility) << line;
-        ASSERT_EQ(plain.terminatorChar, general.terminatorChar) << line;
+        ASSERT_EQ(plain.terminatorChar(), general.terminatorChar()) << line;
         ASSERT_EQ(test::listingAfterSpeakers(line + "\n"),
                   test::listingAfterSpeakers("C {c}" + line.substr(1) + "\n"))
             << line;
@@ -239,7 +239,7 @@ TEST(Segmentation, Terminators) {
           Case{"C <go> now^", Terminator::Interrupted, U'^'}}) {
         Cut u = cut(c.line);
         EXPECT_EQ(u.terminator, c.kind) << c.line;
-        EXPECT_EQ(u.terminatorChar, c.ch) << c.line;
+        EXPECT_EQ(u.terminatorChar(), c.ch) << c.line;
         EXPECT_TRUE(u.hasTerminator);
     }
     EXPECT_FALSE(cut("C go").hasTerminator);
