@@ -83,7 +83,9 @@ CDefaultDatabaseDialog::CDefaultDatabaseDialog(CTAVIApp& app, QWidget* parent)
     pathRow->addWidget(browse);
     auto* form = new QFormLayout;
     form->addRow(QStringLiteral("Database &file name:"), name_);
-    form->addRow(QStringLiteral("&Folder:"), pathRow);
+    auto* folderLabel = new QLabel(QStringLiteral("&Folder:"));
+    folderLabel->setBuddy(path_); // a row of two widgets gives the label no field of its own
+    form->addRow(folderLabel, pathRow);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(
         new QLabel(QStringLiteral("The reference database a new database comparison starts with\n"
