@@ -46,6 +46,20 @@ TEST_F(PolishTest, NewWindowsCascadeInsideTheVisibleArea) {
     EXPECT_NE(corners.value(0), corners.value(1));
 }
 
+TEST_F(PolishTest, SaveAndPrintAreOffWhileAHelpWindowIsActive) {
+    frame->newTranscript(QStringLiteral("$ Child, Examiner\nC hi.\n"));
+    frame->updateCommands();
+    for (const char* id : {"ID_FILE_SAVE", "ID_FILE_SAVE_AS", "ID_FILE_PRINT"})
+        EXPECT_TRUE(action(id)->isEnabled()) << id << " with a transcript active";
+    run("ID_HELP_FINDER");
+    QMdiSubWindow* active = frame->mdiArea().activeSubWindow();
+    ASSERT_NE(active, nullptr);
+    EXPECT_EQ(active->objectName(), QStringLiteral("CHelpFrame"));
+    frame->updateCommands();
+    for (const char* id : {"ID_FILE_SAVE", "ID_FILE_SAVE_AS", "ID_FILE_PRINT"})
+        EXPECT_FALSE(action(id)->isEnabled()) << id << " with a help window active";
+}
+
 TEST_F(PolishTest, TheTranscriptFontKeepsAnUprightStyle) {
     app->settings().transcriptFont.faceName = "DejaVu Sans Mono";
     app->settings().transcriptFont.italic = 0;
