@@ -8,17 +8,6 @@ namespace tavi {
 
 namespace {
 
-std::vector<std::string_view> splitAt(std::string_view s, char sep) {
-    std::vector<std::string_view> parts;
-    size_t start = 0;
-    for (size_t i = 0; i <= s.size(); ++i)
-        if (i == s.size() || s[i] == sep) {
-            parts.push_back(s.substr(start, i - start));
-            start = i + 1;
-        }
-    return parts;
-}
-
 std::vector<std::string> items(std::string_view field) {
     std::vector<std::string> out;
     for (std::string_view part : splitAt(field, ',')) {

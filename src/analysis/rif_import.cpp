@@ -13,17 +13,6 @@ namespace {
 constexpr const char* kBadFormat =
     "Incorrect file format: use 'word:defn1,defn2,defnN:replace1,replace2,replaceN'";
 
-std::vector<std::string_view> splitAt(std::string_view s, char sep) {
-    std::vector<std::string_view> parts;
-    size_t start = 0;
-    for (size_t i = 0; i <= s.size(); ++i)
-        if (i == s.size() || s[i] == sep) {
-            parts.push_back(s.substr(start, i - start));
-            start = i + 1;
-        }
-    return parts;
-}
-
 // `text` cut to `max` characters (UTF-16 code units); true when it was longer.
 bool cutTo(std::string& text, size_t max) {
     std::u16string wide = toUtf16(text);

@@ -35,6 +35,10 @@ std::string windows1252ToUtf8(std::string_view bytes);
 // line end does not start another line, so "a\nb\n" is two lines.
 std::vector<std::string_view> splitLines(std::string_view text);
 
+// The pieces of `text` between the separators, empty ones kept: "a,,b" is
+// three pieces and "" is one.
+std::vector<std::string_view> splitAt(std::string_view text, char separator);
+
 // Decodes the code point at `pos` and moves `pos` past it. An invalid sequence
 // yields U+FFFD and moves one byte.
 char32_t nextCodePoint(std::string_view text, size_t& pos);

@@ -68,6 +68,13 @@ TEST(SplitLines, AcceptsEveryLineEndStyle) {
     EXPECT_TRUE(splitLines("").empty());
 }
 
+TEST(SplitAt, KeepsEmptyPiecesAtBothEndsAndBetween) {
+    using V = std::vector<std::string_view>;
+    EXPECT_EQ(splitAt("went:go:", ':'), (V{"went", "go", ""}));
+    EXPECT_EQ(splitAt(",a,,b", ','), (V{"", "a", "", "b"}));
+    EXPECT_EQ(splitAt("", ','), (V{""}));
+}
+
 TEST(Utf16, CountsCodeUnitsAndRoundTrips) {
     std::string text = "a\xC3\xA9\xF0\x9F\x98\x80"; // a, e acute, an emoji (two units)
     EXPECT_EQ(utf16Length(text), 4u);
