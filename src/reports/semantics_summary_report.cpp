@@ -7,6 +7,7 @@
 #include "reports/line_format.h"
 #include "reports/report_registry.h"
 #include "reports/summary_lines.h"
+#include "settings/word_list_settings.h"
 
 namespace tavi {
 
@@ -73,10 +74,19 @@ ReportSection wordListSection(const ReportInputs& in) {
         const Value* value = measures.find(id);
         return formatCount(value ? value->number() : std::nullopt);
     };
+    // The extra lists show the titles the user gave them (primary language set).
+    const WordListSettings userLists = parseWordListSettings(in.settings.swlSettingsLines);
+    auto name = [&](int list) {
+        const WordListRow& row = kWordLists[static_cast<size_t>(list)];
+        return row.name.starts_with("Extra List") ? wordListTitle(userLists, 0, list)
+                                                  : std::string(row.name);
+    };
     ReportTable table;
     table.headings = {"Types", in.labels("RL_TOTAL")};
-    for (const WordListRow& row : kWordLists)
-        table.rows.push_back({std::string(row.name), {count(row.typesId), count(row.totalId)}});
+    for (int list = 0; list < static_cast<int>(kWordLists.size()); ++list) {
+        const WordListRow& row = kWordLists[static_cast<size_t>(list)];
+        table.rows.push_back({name(list), {count(row.typesId), count(row.totalId)}});
+    }
     section.items.emplace_back(std::move(table));
     return section;
 }

@@ -6,6 +6,7 @@
 #include "analysis/word_lists.h"
 #include "base/format.h"
 #include "reports/table_report_support.h"
+#include "settings/word_list_settings.h"
 
 namespace tavi {
 
@@ -13,14 +14,14 @@ namespace {
 
 constexpr int kConjunctions = 2;
 
-} // namespace
-
-std::string wordListRowLabel(int list, bool types) {
-    const std::string name(kStandardWordLists[static_cast<size_t>(list)].label);
+// "Question Words (Types)"; the conjunction list keeps "Conjunctions (Type)".
+std::string wordListRowLabel(const std::string& name, int list, bool types) {
     if (!types)
         return name + " (Total)";
     return name + (list == kConjunctions ? " (Type)" : " (Types)");
 }
+
+} // namespace
 
 Report buildWordListReport(const ReportInputs& in) {
     Report report = tableReportStart(in, in.labels("RL_SWL"));
@@ -37,11 +38,13 @@ Report buildWordListReport(const ReportInputs& in) {
     const SpeakerMeasures& m = in.analysis.measures();
     ReportTable table;
     table.headings = {"Count", in.labels("RL_EXPWORDS")};
+    const WordListSettings userLists = parseWordListSettings(in.settings.swlSettingsLines);
     for (int k = 0; k < kWordListKinds; ++k) {
         const WordCount& count = m.wordLists[static_cast<size_t>(k)];
-        table.rows.push_back(
-            {wordListRowLabel(k, true), {format("%d", count.types), joinCarriers(count.words)}});
-        table.rows.push_back({wordListRowLabel(k, false), {format("%d", count.total), ""}});
+        const std::string name = wordListTitle(userLists, set, k);
+        table.rows.push_back({wordListRowLabel(name, k, true),
+                              {format("%d", count.types), joinCarriers(count.words)}});
+        table.rows.push_back({wordListRowLabel(name, k, false), {format("%d", count.total), ""}});
     }
     section.items.emplace_back(std::move(table));
     report.sections.push_back(std::move(section));

@@ -214,6 +214,15 @@ TEST_F(TableReports, WordListRowsAreTheBatchColumns) {
     EXPECT_EQ(lists.rows[0].label, "Question Words (Types)");
     EXPECT_EQ(cellNumber(lists, "Question Words (Total)"), 2);
     EXPECT_EQ(rowOf(lists, "Question Words (Types)")->cells[1], "what");
+    EXPECT_NE(rowOf(lists, "Extra List 1 (Types)"), nullptr);
+
+    // An extra list the user has named shows its name, here and in the
+    // Semantics Summary.
+    settings_.swlSettingsLines = {"TITLE P_EXTRA1 Feelings"};
+    EXPECT_NE(rowOf(tableOf(build("word-lists")), "Feelings (Types)"), nullptr);
+    const std::string semantics = reportToText(build("semantics-summary"));
+    EXPECT_NE(semantics.find("Feelings"), std::string::npos) << semantics;
+    EXPECT_NE(semantics.find("Extra List 2"), std::string::npos);
 }
 
 TEST_F(TableReports, CategoryTablesEqualTheMeasureRecord) {
