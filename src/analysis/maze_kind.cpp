@@ -3,9 +3,10 @@
 
 #include <algorithm>
 #include <array>
-#include <string>
-#include <vector>
+#include <optional>
+#include <span>
 
+#include "analysis/gc_dictionary.h"
 #include "analysis/word_forms.h"
 
 namespace tavi {
@@ -20,34 +21,65 @@ bool isDefaultFilledPause(std::string_view w) {
 }
 
 MazeKind classifyMaze(const Utterance& u, int maze, const FilledPauseTest& isFilled,
-                      const WordTest& isKnown) {
-    std::vector<std::string> mazeWords, after;
-    std::span<const int> indices = u.mazes()[maze].words;
-    for (int i : indices)
-        if (!u.words[i].omitted && !u.words[i].unintelligible)
-            mazeWords.push_back(surfaceForm(u.words[i]));
-    const int last = indices.empty() ? -1 : indices.back();
-    // The comparisons below read no further than this many words after the maze.
-    const size_t needed = std::max<size_t>(mazeWords.size(), 1);
-    for (size_t i = static_cast<size_t>(last + 1); i < u.words.size() && after.size() < needed; ++i)
-        if (u.words[i].isMainBodyWord())
-            after.push_back(surfaceForm(u.words[i]));
+                      const GcDictionary* dictionary) {
+    const std::span<const int> indices = u.mazes()[maze].words;
+    auto counts = [&](int i) { return !u.words[i].omitted && !u.words[i].unintelligible; };
+    const size_t mazeWords =
+        static_cast<size_t>(std::count_if(indices.begin(), indices.end(), counts));
+    const bool single = mazeWords <= 1;
+    if (mazeWords == 0)
+        return single ? MazeKind::RevisionWord : MazeKind::RevisionPhrase;
 
-    const bool single = mazeWords.size() <= 1;
-    bool allFilled = !mazeWords.empty();
-    for (const std::string& w : mazeWords)
-        allFilled = allFilled && isFilled(w);
+    // Every word a filled pause; the first word's form is kept for the tests below.
+    std::optional<InlineForm> first;
+    bool allFilled = true;
+    for (int i : indices) {
+        if (!counts(i))
+            continue;
+        InlineForm form = InlineForm::surface(u.words[i]);
+        allFilled = isFilled(form.view());
+        if (!first)
+            first.emplace(std::move(form));
+        if (!allFilled)
+            break;
+    }
     if (allFilled)
         return single ? MazeKind::FilledPauseSingle : MazeKind::FilledPauseMulti;
-    const bool partWord =
-        mazeWords.size() == 1 && indices.size() == 1 && u.words[indices[0]].incomplete;
-    if (mazeWords.size() == 1 && !after.empty() && after[0].size() > mazeWords[0].size() &&
-        after[0].compare(0, mazeWords[0].size(), mazeWords[0]) == 0)
-        return MazeKind::RepetitionPartWord;
-    if (!mazeWords.empty() && mazeWords.size() <= after.size() &&
-        std::equal(mazeWords.begin(), mazeWords.end(), after.begin()))
-        return single ? MazeKind::RepetitionWord : MazeKind::RepetitionPhrase;
-    if (partWord || (mazeWords.size() == 1 && isKnown && !isKnown(mazeWords[0])))
+
+    // The main-body words after the maze, read no further than needed.
+    const size_t last = static_cast<size_t>(indices.back());
+    size_t next = last + 1;
+    auto nextAfter = [&]() -> const Word* {
+        for (; next < u.words.size(); ++next)
+            if (u.words[next].isMainBodyWord())
+                return &u.words[next++];
+        return nullptr;
+    };
+    const std::string_view m0 = first->view();
+    const Word* a0 = nextAfter();
+    if (a0 && single) {
+        const InlineForm after = InlineForm::surface(*a0);
+        const std::string_view a = after.view();
+        if (a.size() > m0.size() && a.starts_with(m0))
+            return MazeKind::RepetitionPartWord;
+        if (a == m0)
+            return MazeKind::RepetitionWord;
+    } else if (a0) {
+        bool same = InlineForm::surface(*a0).view() == m0;
+        size_t k = 0; // maze words compared so far, after the first
+        for (int i : indices) {
+            if (!same)
+                break;
+            if (!counts(i) || k++ == 0)
+                continue;
+            const Word* a = nextAfter();
+            same = a && InlineForm::surface(*a).view() == InlineForm::surface(u.words[i]).view();
+        }
+        if (same)
+            return MazeKind::RepetitionPhrase;
+    }
+    const bool partWord = single && indices.size() == 1 && u.words[indices[0]].incomplete;
+    if (partWord || (single && dictionary && !dictionary->lookup(m0).has_value()))
         return MazeKind::RevisionPartWord;
     return single ? MazeKind::RevisionWord : MazeKind::RevisionPhrase;
 }

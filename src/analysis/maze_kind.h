@@ -2,9 +2,9 @@
 // filled pause, repetition or revision, of a part word, a word or a phrase.
 #pragma once
 
-#include <functional>
 #include <string_view>
 
+#include "analysis/word_lists.h"
 #include "transcript/utterance.h"
 
 namespace tavi {
@@ -21,8 +21,9 @@ enum class MazeKind {
 };
 inline constexpr int kMazeKinds = 8;
 
-using FilledPauseTest = std::function<bool(std::string_view)>;
-using WordTest = std::function<bool(std::string_view)>; // empty: every word is a real word
+class GcDictionary;
+
+using FilledPauseTest = WordTest;
 
 // "um", "uh", "er", "erm", "ah", "eh", "hm", "hmm", "mm", "uhm", "em".
 bool isDefaultFilledPause(std::string_view word);
@@ -32,8 +33,9 @@ bool isDefaultFilledPause(std::string_view word);
 // that begins N's first word but is shorter: part-word repetition; M equal to
 // the first words of N: word or phrase repetition; one part word ("ba*") or
 // one word that is not a known word (when a dictionary is at hand): part-word
-// revision; otherwise a word or phrase revision.
+// revision; otherwise a word or phrase revision. Without a dictionary every
+// word is a known word. Uses no heap memory for words of ordinary length.
 MazeKind classifyMaze(const Utterance& u, int maze, const FilledPauseTest& isFilled,
-                      const WordTest& isKnown);
+                      const GcDictionary* dictionary);
 
 } // namespace tavi

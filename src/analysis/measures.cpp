@@ -51,9 +51,7 @@ namespace {
 YesNoTest yesNoTest(const MeasureOptions& o) {
     if (!o.wordLists || o.wordLists->empty(o.wordListSet, kYesNoList))
         return {};
-    const StandardWordLists* lists = o.wordLists;
-    int set = o.wordListSet;
-    return [lists, set](std::string_view w) { return lists->contains(set, kYesNoList, w); };
+    return WordTest(*o.wordLists, o.wordListSet, kYesNoList);
 }
 
 } // namespace

@@ -21,19 +21,9 @@ Id idOf(const char* fmt, int n) {
 
 FilledPauseTest filledPauseTest(const MeasureOptions& o) {
     if (o.wordLists && !o.wordLists->empty(o.wordListSet, kFilledPauseList)) {
-        const StandardWordLists* lists = o.wordLists;
-        int set = o.wordListSet;
-        return
-            [lists, set](std::string_view w) { return lists->contains(set, kFilledPauseList, w); };
+        return WordTest(*o.wordLists, o.wordListSet, kFilledPauseList);
     }
     return isDefaultFilledPause;
-}
-
-WordTest knownWordTest(const MeasureOptions& o) {
-    if (!o.dictionary)
-        return {};
-    const GcDictionary* d = o.dictionary;
-    return [d](std::string_view w) { return d->lookup(w).has_value(); };
 }
 
 } // namespace
@@ -41,7 +31,6 @@ WordTest knownWordTest(const MeasureOptions& o) {
 void fillMazes(const SpeakerView& v, SpeakerMeasures& m) {
     const int total = static_cast<int>(v.total.size());
     const FilledPauseTest isFilled = filledPauseTest(v.c.options);
-    const WordTest isKnown = knownWordTest(v.c.options);
     int mazeWords = 0, mazes = 0, words = 0, withMaze = 0;
     std::array<int, kMazeKinds> kinds{};
     std::array<int, 16> uttsByLen{}, mazeUttsByLen{}, mazesByUttLen{}, mazesByMazeLen{};
@@ -57,7 +46,8 @@ void fillMazes(const SpeakerView& v, SpeakerMeasures& m) {
         mazeUttsByLen[len] += u.mazes().empty() ? 0 : 1;
         mazesByUttLen[len] += static_cast<int>(u.mazes().size());
         for (size_t k = 0; k < u.mazes().size(); ++k) {
-            kinds[static_cast<int>(classifyMaze(u, static_cast<int>(k), isFilled, isKnown))]++;
+            kinds[static_cast<int>(
+                classifyMaze(u, static_cast<int>(k), isFilled, v.c.options.dictionary))]++;
             mazesByMazeLen[std::clamp(static_cast<int>(u.mazes()[k].words.size()), 0, 15)]++;
         }
     }

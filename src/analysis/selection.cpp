@@ -102,7 +102,7 @@ void classifyImitation(const Utterance& u, int mineCount, const Utterance& prev,
 bool firstWordIsYesNo(const Utterance& u, const YesNoTest& yesNo) {
     for (const Word& w : u.words)
         if (w.isMainBodyWord())
-            return yesNo(surfaceForm(w)) || yesNo(rootKey(w));
+            return yesNo(InlineForm::surface(w).view()) || yesNo(InlineForm::root(w).view());
     return false;
 }
 

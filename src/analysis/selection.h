@@ -6,7 +6,6 @@
 
 #include <array>
 #include <cstddef>
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -14,6 +13,7 @@
 
 #include "analysis/analysis_set.h"
 #include "analysis/transcript_cut.h"
+#include "analysis/word_lists.h"
 #include "transcript/segmented_transcript.h"
 
 namespace tavi {
@@ -37,8 +37,8 @@ inline constexpr std::string_view kYesNoListMissing =
     "Yes/no responses not determined - list not available.";
 
 // Tells whether a word (lower case, marks removed) is on the yes/no word list.
-// An empty function means the list is not available: no utterance is type Y.
-using YesNoTest = std::function<bool(std::string_view)>;
+// An empty test means the list is not available: no utterance is type Y.
+using YesNoTest = WordTest;
 
 // One entry per utterance of the transcript, in the same order.
 std::vector<ResponseType> classifyResponses(const SegmentedTranscript& t, const YesNoTest& yesNo);

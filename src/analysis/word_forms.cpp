@@ -59,6 +59,57 @@ void surfaceFormInto(const Word& w, std::string_view rootKey, std::string& s) {
     lowerInPlace(s); // the root part is lower case already
 }
 
+bool InlineForm::add(char c) {
+    if (size_ == buf_.size())
+        return false;
+    buf_[size_++] = c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
+    return true;
+}
+
+bool InlineForm::addLower(std::string_view s) {
+    for (char c : s)
+        if (!add(c))
+            return false;
+    return true;
+}
+
+bool InlineForm::addRoot(const Word& w) {
+    std::string_view r = w.root();
+    if (w.incomplete && !r.empty() && r.back() == '*')
+        r.remove_suffix(1);
+    for (char c : r)
+        if (c != '\\' && !add(c))
+            return false;
+    return true;
+}
+
+InlineForm InlineForm::root(const Word& w) {
+    InlineForm f;
+    if (!f.addRoot(w))
+        f.long_ = rootKey(w);
+    return f;
+}
+
+InlineForm InlineForm::surface(const Word& w) {
+    InlineForm f;
+    bool fits = f.addRoot(w);
+    for (std::string_view m : w.boundMorphemes()) {
+        if (!fits)
+            break;
+        if (equalsIgnoreCase(m, "3s"))
+            fits = f.add('s');
+        else if (equalsIgnoreCase(m, "z"))
+            fits = f.addLower("'s");
+        else
+            fits = f.addLower(m);
+    }
+    for (std::string_view c : w.clitics())
+        fits = fits && f.addLower(c);
+    if (!fits)
+        f.long_ = surfaceForm(w);
+    return f;
+}
+
 int mainBodyWordCount(const Utterance& u) {
     int n = 0;
     for (const Word& w : u.words)

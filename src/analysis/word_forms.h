@@ -3,6 +3,8 @@
 // imitations, yes/no words), and morpheme counts.
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -21,6 +23,27 @@ std::string surfaceForm(const Word& w, std::string_view rootKey);
 // The same two into `out`, whose memory is reused.
 void rootKeyInto(const Word& w, std::string& out);
 void surfaceFormInto(const Word& w, std::string_view rootKey, std::string& out);
+// A word's root key or surface form held in a small buffer of its own, so
+// that comparing words costs no heap memory; only unusually long words are
+// kept in a string.
+class InlineForm {
+public:
+    static InlineForm root(const Word& w);
+    static InlineForm surface(const Word& w);
+    std::string_view view() const {
+        return long_.empty() ? std::string_view(buf_.data(), size_) : std::string_view(long_);
+    }
+
+private:
+    InlineForm() = default;
+    bool add(char c);
+    bool addLower(std::string_view s);
+    bool addRoot(const Word& w);
+
+    std::array<char, 48> buf_;
+    std::size_t size_ = 0;
+    std::string long_;
+};
 // One for the word plus one for each bound morpheme present (endings and
 // bound prefixes); clitics add nothing.
 inline int morphemeCount(const Word& w) {

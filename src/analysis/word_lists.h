@@ -99,4 +99,29 @@ private:
 // Whether `word` matches `pattern` (lower case; a trailing "*" matches any ending).
 bool wordMatchesPattern(std::string_view word, std::string_view pattern);
 
+// A test on one word (lower case, marks removed): either one list of a set of
+// the standard word lists or a plain function. It holds no memory of its own
+// and is called without an indirection through std::function. A default
+// constructed test is empty (false as a bool).
+class WordTest {
+public:
+    using Function = bool (*)(std::string_view);
+
+    WordTest() = default;
+    WordTest(Function f) : function_(f) {} // implicit: a plain function is a test
+    WordTest(const StandardWordLists& lists, int set, int kind)
+        : lists_(&lists), set_(set), kind_(kind) {}
+
+    explicit operator bool() const { return lists_ != nullptr || function_ != nullptr; }
+    bool operator()(std::string_view word) const {
+        return lists_ ? lists_->contains(set_, kind_, word) : function_(word);
+    }
+
+private:
+    const StandardWordLists* lists_ = nullptr;
+    int set_ = 0;
+    int kind_ = 0;
+    Function function_ = nullptr;
+};
+
 } // namespace tavi

@@ -95,7 +95,7 @@ bool hasMazeOfKind(const Utterance& u, const ExploreCriteria& c) {
     if (!c.mazeFilledPauses && !c.mazeRepetitions && !c.mazeRevisions)
         return true;
     for (size_t m = 0; m < mazes.size(); ++m) {
-        MazeKind kind = classifyMaze(u, static_cast<int>(m), isDefaultFilledPause, {});
+        MazeKind kind = classifyMaze(u, static_cast<int>(m), isDefaultFilledPause, nullptr);
         bool filled = kind == MazeKind::FilledPauseSingle || kind == MazeKind::FilledPauseMulti;
         bool repetition = kind == MazeKind::RepetitionPartWord ||
                           kind == MazeKind::RepetitionWord || kind == MazeKind::RepetitionPhrase;

@@ -9,8 +9,12 @@ namespace {
 
 using test::TranscriptBuilder;
 
+bool isYesNoWord(std::string_view w) {
+    return w == "yes" || w == "no" || w == "yeah";
+}
+
 YesNoTest yesNoWords() {
-    return [](std::string_view w) { return w == "yes" || w == "no" || w == "yeah"; };
+    return isYesNoWord;
 }
 
 TEST(ResponseTypes, DecidedFromTheUtteranceJustBefore) {
