@@ -28,12 +28,6 @@ struct ProgramSaveRequest {
     std::vector<std::string> lines;    // the new lines, each beginning with one of them
 };
 
-// The rewritten file's lines: the new lines, then every non-empty line of the
-// present file (trimmed on the left) whose keyword is none of `keywords`.
-std::vector<std::string> mergedProgramLines(std::string_view presentBytes,
-                                            const std::vector<std::string>& keywords,
-                                            const std::vector<std::string>& newLines);
-
 // What is said when the program-level file cannot be written: the refusal,
 // then which file and who can change it.
 std::string programCannotSaveMessage(const std::filesystem::path& file);
