@@ -56,8 +56,8 @@ YesNoTest yesNoTest(const MeasureOptions& o) {
 
 } // namespace
 
-MeasureResult computeMeasures(const SegmentedTranscript& transcript,
-                              const MeasureOptions& options) {
+MeasureResult computeMeasures(const SegmentedTranscript& transcript, const MeasureOptions& options,
+                              MeasuredSpeakers which) {
     MeasureResult result;
     result.selection =
         selectUtterances(transcript, options.analysisSet, options.cut, yesNoTest(options));
@@ -87,6 +87,9 @@ MeasureResult computeMeasures(const SegmentedTranscript& transcript,
     for (int s = 0; s < 2; ++s) {
         SpeakerMeasures& m = result.speakers[s];
         m.speaker = s;
+        if ((which == MeasuredSpeakers::First && s != 0) ||
+            (which == MeasuredSpeakers::Second && s != 1))
+            continue;
         const SpeakerSelection& sel = result.selection.speakers[s];
         SpeakerView v{c, s, sel.total, sel.analysisSet};
         fillUtteranceKinds(v, m);

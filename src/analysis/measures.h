@@ -116,6 +116,11 @@ struct MeasureResult {
     bool categoriesAvailable = false;
 };
 
-MeasureResult computeMeasures(const SegmentedTranscript& transcript, const MeasureOptions& options);
+// The main speakers whose measure records are filled; a speaker left out
+// keeps an empty record (a command that shows one speaker needs no more).
+enum class MeasuredSpeakers { Both, First, Second };
+
+MeasureResult computeMeasures(const SegmentedTranscript& transcript, const MeasureOptions& options,
+                              MeasuredSpeakers which = MeasuredSpeakers::Both);
 
 } // namespace tavi

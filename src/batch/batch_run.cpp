@@ -40,7 +40,11 @@ std::string fileStem(const std::filesystem::path& file) {
 TranscriptOutcome analyse(const std::filesystem::path& path, const BatchRunOptions& options,
                           const std::vector<BatchColumn>& columns, const RunTexts& texts) {
     TranscriptOutcome out;
-    const TranscriptAnalysis analysis = analyseFile(path, options.analysis);
+    // A run for the 1st speaker alone needs no record of the 2nd (the 2nd is
+    // measured as it stands, without the session's fall back to the 1st).
+    AnalysisRequest request;
+    request.bothSpeakers = options.selections.speaker != 0;
+    const TranscriptAnalysis analysis = analyseFile(path, options.analysis, request);
     if (analysis.load != LoadStatus::Ok) {
         out.status = analysis.load == LoadStatus::CannotOpen ? TranscriptOutcome::Status::CannotOpen
                                                              : TranscriptOutcome::Status::Corrupted;

@@ -212,6 +212,7 @@ int run(cli::CommandContext& ctx) {
 
     AnalysisRequest request;
     request.speaker = speakerText == "2" ? 1 : 0;
+    request.bothSpeakers = false;
     cli::CommandOutcome outcome =
         cli::analyseForCommand(ctx, "measures", args.positional().front(), prepared->context,
                                request, args.has(cli::kIncludeErrors), prompter);

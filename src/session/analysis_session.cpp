@@ -19,8 +19,12 @@ void measure(TranscriptAnalysis& analysis, const AnalysisContext& context,
         analysis.speakerReset = true;
         analysis.speaker = 0;
     }
-    if (request.measure)
-        analysis.result = computeMeasures(analysis.check.segmented, context.measures);
+    if (!request.measure)
+        return;
+    const MeasuredSpeakers which = request.bothSpeakers    ? MeasuredSpeakers::Both
+                                   : analysis.speaker == 1 ? MeasuredSpeakers::Second
+                                                           : MeasuredSpeakers::First;
+    analysis.result = computeMeasures(analysis.check.segmented, context.measures, which);
 }
 
 CheckOptions keepingSegmentation(const AnalysisContext& context, const AnalysisRequest& request) {

@@ -46,6 +46,9 @@ AnalysisContext analysisContext(const Settings& settings,
 struct AnalysisRequest {
     int speaker = 0;     // the speaker asked for: 0 the 1st main speaker, 1 the 2nd
     bool measure = true; // false: check only
+    // false: only the speaker analysed is measured, the other's record stays
+    // empty (for a command that shows one speaker).
+    bool bothSpeakers = true;
 };
 
 enum class LoadStatus { Ok, CannotOpen, Corrupted };

@@ -92,6 +92,29 @@ TEST(AnalysisSession, LinesTextAndFileGiveTheSameAnalysis) {
     EXPECT_EQ(fromLines.measures().formatted(MeasureId::NTW), "5");
 }
 
+// Measuring the analysed speaker alone gives that speaker every value that
+// measuring both gives, the 2nd speaker and the fall back to the 1st included.
+TEST(AnalysisSession, MeasuringOneSpeakerGivesThatSpeakersValues) {
+    const AnalysisContext context = analysisContext(Settings{}, nullptr);
+    const std::string talk = "$ Child, Examiner\n- 0:00\nC I go/ed home.\nE where did you go?\n"
+                             "C (um) my house [EW:home].\nE oh.\nC we play/ed.\n- 1:00\n";
+    const std::string alone = "$ Child\nC I go/ed home.\nC the dog/s ran.\n";
+    for (const std::string* text : {&talk, &alone}) {
+        for (int speaker : {0, 1}) {
+            AnalysisRequest both, one;
+            both.speaker = one.speaker = speaker;
+            one.bothSpeakers = false;
+            const TranscriptAnalysis a = analyseText(*text, context, both);
+            const TranscriptAnalysis b = analyseText(*text, context, one);
+            ASSERT_EQ(a.speaker, b.speaker);
+            for (size_t id = 0; id < kMeasureCount; ++id)
+                EXPECT_EQ(a.measures().formatted(static_cast<MeasureId>(id)),
+                          b.measures().formatted(static_cast<MeasureId>(id)))
+                    << measureName(static_cast<MeasureId>(id)) << " speaker " << speaker;
+        }
+    }
+}
+
 TEST(AnalysisSession, FilesWithoutByteOrderMarkAreReadInTheChosenEncoding) {
     const fs::path file =
         fs::temp_directory_path() / ("tavi_encoding_" + std::to_string(::getpid()) + ".tvi");
