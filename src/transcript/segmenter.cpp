@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cstring>
 #include <type_traits>
 
 #include "base/text.h"
@@ -68,11 +69,27 @@ struct UtteranceSegmenter::Scratch {
     std::vector<size_t> positions; // of each word in the line
     std::vector<Code> codes;
     std::vector<std::vector<int>> mazeWords;
+    std::vector<Maze> mazes;
     std::vector<std::string_view> parentheticals;
     std::vector<Pause> pauses;
     std::vector<Word> parentheticalWords;
+    // Where the pieces found lie in the line.
+    std::vector<size_t> codePositions;
+    std::vector<size_t> codeCloses;
+    std::vector<bool> codeAttached;
+    std::vector<Span> mazeSpans;
+    std::vector<Span> overlapSpans;
+    std::vector<size_t> remarkOpens;
+    std::vector<size_t> remarkWordsBefore;
 
     void clear() {
+        codePositions.clear();
+        codeCloses.clear();
+        codeAttached.clear();
+        mazeSpans.clear();
+        overlapSpans.clear();
+        remarkOpens.clear();
+        remarkWordsBefore.clear();
         words.clear();
         positions.clear();
         codes.clear();
@@ -98,8 +115,12 @@ public:
     LineCutter(std::string_view line, Scratch& scratch, Utterance& out, ProblemSink* sink,
                TranscriptStore* store)
         : line_(line.size() == scratch.buffers<C>().buf.size() ? line : std::string_view()),
-          stable_(line), buf_(scratch.buffers<C>().buf), scratch_(scratch.buffers<C>().link),
-          s_(scratch), out_(out), sink_(sink), store_(store) {}
+          stable_(line), buf_(scratch.buffers<C>().buf), b_(buf_.data()),
+          scratch_(scratch.buffers<C>().link), s_(scratch), out_(out), sink_(sink), store_(store),
+          codePositions_(scratch.codePositions), codeCloses_(scratch.codeCloses),
+          codeAttached_(scratch.codeAttached), mazes_(scratch.mazeSpans),
+          overlaps_(scratch.overlapSpans), remarkOpens_(scratch.remarkOpens),
+          remarkWordsBefore_(scratch.remarkWordsBefore) {}
 
     void run();
 
@@ -108,10 +129,10 @@ private:
         if (sink_)
             sink_->report(p, args...);
     }
-    char32_t at(size_t i) const { return codePoint(buf_[i]); }
+    char32_t at(size_t i) const { return codePoint(b_[i]); }
     void blank(size_t first, size_t last) {
         for (size_t i = first; i <= last && i < end_; ++i)
-            buf_[i] = kBlank;
+            b_[i] = kBlank;
     }
     bool findEnd();
     void dropFrom(size_t pos);
@@ -138,6 +159,7 @@ private:
     std::string_view line_;   // the line's bytes when it is all ASCII, else empty
     std::string_view stable_; // the line, alive as long as the store
     std::basic_string<C>& buf_;
+    C* b_; // buf_'s characters (blanked in place; the size never changes)
     std::basic_string<C>& scratch_;
     Scratch& s_;
     Utterance& out_;
@@ -149,17 +171,17 @@ private:
     std::uint64_t present_[2] = {0, 0}; // ASCII characters present before the terminator
     bool nonAscii_ = false;
     bool controls_ = false;
-    std::vector<size_t> codePositions_;
-    std::vector<size_t> codeCloses_;
-    std::vector<bool> codeAttached_; // written right after a word, with no blank between
-    size_t lastCodeEnd_ = 0;         // position of the last code's "]"
-    size_t codeCursor_ = 0;          // the first code not wholly before the word pass
-    std::vector<Span> mazes_;
-    std::vector<Span> overlaps_;
+    std::vector<size_t>& codePositions_;
+    std::vector<size_t>& codeCloses_;
+    std::vector<bool>& codeAttached_; // written right after a word, with no blank between
+    size_t lastCodeEnd_ = 0;          // position of the last code's "]"
+    size_t codeCursor_ = 0;           // the first code not wholly before the word pass
+    std::vector<Span>& mazes_;
+    std::vector<Span>& overlaps_;
     size_t mazeCursor_ = 0; // the first maze not wholly before the words reached
     size_t overlapCursor_ = 0;
-    std::vector<size_t> remarkOpens_;       // position of each remark's "(("
-    std::vector<size_t> remarkWordsBefore_; // remark words kept before each remark
+    std::vector<size_t>& remarkOpens_;       // position of each remark's "(("
+    std::vector<size_t>& remarkWordsBefore_; // remark words kept before each remark
     static constexpr size_t kNowhere = static_cast<size_t>(-1);
     size_t firstComment_ = kNowhere;
     size_t firstQuote_ = kNowhere;
@@ -167,7 +189,6 @@ private:
 };
 
 template <class C> void LineCutter<C>::run() {
-    codePositions_.clear();
     if (buf_.size() < 2 || !(cls::isSpace(at(1)) || cls::isTerminator(at(1)))) {
         report(Problem::NoBlankAfterSpeaker);
         out_.hasTerminator = false;
@@ -316,13 +337,13 @@ template <class C> void LineCutter<C>::parentheticals() {
                 --inner;
             } else {
                 report(Problem::MazeInParenthetical);
-                buf_[i] = kBlank;
+                b_[i] = kBlank;
             }
         } else if (cls::isSeparator(c)) {
             if (cls::isQuotationMark(c))
                 firstQuote_ = std::min(firstQuote_, i);
             if (!isOpen)
-                buf_[i] = kBlank;
+                b_[i] = kBlank;
         }
         ++i;
     }
@@ -331,7 +352,7 @@ template <class C> void LineCutter<C>::parentheticals() {
         blank(open, open + 1);
         for (size_t k = open + 2; k < end_; ++k)
             if (cls::isSeparator(at(k)))
-                buf_[k] = kBlank;
+                b_[k] = kBlank;
     }
 }
 
@@ -356,7 +377,7 @@ template <class C> void LineCutter<C>::closeParenthetical(size_t open, size_t cl
     }
     for (size_t k = open; k <= close; ++k)
         if (at(k) != U'<' && at(k) != U'>')
-            buf_[k] = kBlank;
+            b_[k] = kBlank;
 }
 
 template <class C> void LineCutter<C>::mazesAndOverlaps() {
@@ -367,7 +388,7 @@ template <class C> void LineCutter<C>::mazesAndOverlaps() {
         case U'(':
             if (mazeOpen) {
                 report(Problem::NestedMaze);
-                buf_[i] = kBlank;
+                b_[i] = kBlank;
             } else {
                 mazeOpen = true;
                 maze = i;
@@ -378,15 +399,15 @@ template <class C> void LineCutter<C>::mazesAndOverlaps() {
                 report(Problem::UnmatchedMaze);
             } else {
                 mazes_.push_back({maze, i});
-                buf_[maze] = kBlank;
+                b_[maze] = kBlank;
                 mazeOpen = false;
             }
-            buf_[i] = kBlank;
+            b_[i] = kBlank;
             break;
         case U'<':
             if (overlapOpen) {
                 report(Problem::NestedOverlap);
-                buf_[i] = kBlank;
+                b_[i] = kBlank;
             } else {
                 overlapOpen = true;
                 overlap = i;
@@ -397,10 +418,10 @@ template <class C> void LineCutter<C>::mazesAndOverlaps() {
                 report(Problem::UnmatchedOverlap);
             } else {
                 overlaps_.push_back({overlap, i});
-                buf_[overlap] = kBlank;
+                b_[overlap] = kBlank;
                 overlapOpen = false;
             }
-            buf_[i] = kBlank;
+            b_[i] = kBlank;
             break;
         default:
             break;
@@ -408,11 +429,11 @@ template <class C> void LineCutter<C>::mazesAndOverlaps() {
     }
     if (mazeOpen) {
         report(Problem::UnmatchedMaze);
-        buf_[maze] = kBlank;
+        b_[maze] = kBlank;
     }
     if (overlapOpen) {
         report(Problem::UnmatchedOverlap);
-        buf_[overlap] = kBlank;
+        b_[overlap] = kBlank;
     }
     out_.hasOverlap = !overlaps_.empty();
     s_.mazeWords.resize(mazes_.size());
@@ -454,7 +475,7 @@ template <class C> void LineCutter<C>::pausesAndCharacters() {
             return;
         } else if ((cls::isLineIdentifier(c) && c != U'+') || cls::isControl(c)) {
             report(Problem::InvalidCharacter, shown(c));
-            buf_[i] = kBlank;
+            b_[i] = kBlank;
         }
     }
 }
@@ -730,10 +751,16 @@ void startUtterance(Utterance& out, int lineNumber, int speakerGroup, char32_t s
 }
 
 bool isAscii(std::string_view line) {
-    unsigned char high = 0;
-    for (char c : line)
-        high |= static_cast<unsigned char>(c);
-    return high < 0x80;
+    std::uint64_t high = 0;
+    size_t i = 0;
+    for (; i + 8 <= line.size(); i += 8) {
+        std::uint64_t eight;
+        std::memcpy(&eight, line.data() + i, 8);
+        high |= eight;
+    }
+    for (; i < line.size(); ++i)
+        high |= static_cast<unsigned char>(line[i]);
+    return (high & 0x8080808080808080u) == 0;
 }
 
 // Cuts a line by the general rules: from its bytes when it is all ASCII, else
@@ -850,11 +877,11 @@ void UtteranceSegmenter::segment(std::string_view line, int lineNumber, int spea
     }
     cutLine(line, lineNumber, speakerGroup, s, out, sink, &store);
     out.words = store.keep(s.words);
-    std::vector<Maze> mazes;
-    mazes.reserve(s.mazeWords.size());
+    s.mazes.clear();
     for (const std::vector<int>& words : s.mazeWords)
-        mazes.push_back(Maze{store.keep(words)});
-    out.extras = store.keepExtras(s.codes, mazes, s.parentheticals, s.parentheticalWords, s.pauses);
+        s.mazes.push_back(Maze{store.keep(words)});
+    out.extras =
+        store.keepExtras(s.codes, s.mazes, s.parentheticals, s.parentheticalWords, s.pauses);
 }
 
 void UtteranceSegmenter::check(std::string_view line, int lineNumber, int speakerGroup,

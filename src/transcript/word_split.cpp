@@ -23,8 +23,21 @@ template <class C> bool sameText(std::string_view bytes, std::basic_string_view<
     return true;
 }
 
-// "/" and "+", the marks that begin a word's endings.
-template <class C> constexpr C kEndingMarks[] = {C('/'), C('+'), C()};
+// Searches of a word's few characters: a plain loop beats a library call.
+template <class C> size_t findIn(std::basic_string_view<C> s, C c, size_t from = 0) {
+    for (size_t i = from; i < s.size(); ++i)
+        if (s[i] == c)
+            return i;
+    return std::basic_string_view<C>::npos;
+}
+
+// The first "/" or "+", the marks that begin a word's endings.
+template <class C> size_t findEndingMark(std::basic_string_view<C> s) {
+    for (size_t i = 0; i < s.size(); ++i)
+        if (s[i] == C('/') || s[i] == C('+'))
+            return i;
+    return std::basic_string_view<C>::npos;
+}
 
 // The word is cut from a line of code points (C = char32_t) or, for an all-ASCII
 // line, straight from its bytes (C = char): the same rules either way.
@@ -104,7 +117,7 @@ template <class C> bool WordSplitter<C>::run() {
     word_.text = text_;
     checkRootIdentification();
     checkMarks();
-    size_t mark = w_.find_first_of(kEndingMarks<C>);
+    size_t mark = findEndingMark(w_);
     View stem = w_.substr(0, mark);
     splitStem(stem, mark == View::npos ? 0 : codePoint(w_[mark]));
     if (mark != View::npos)
@@ -131,14 +144,14 @@ template <class C> bool WordSplitter<C>::plainWord() {
 // "written|root": one "|", neither first nor last, the root of word
 // characters. A word ending in "||" is accepted as it stands.
 template <class C> void WordSplitter<C>::checkRootIdentification() {
-    size_t bar = w_.find(C('|'));
+    size_t bar = findIn(w_, C('|'));
     if (bar == View::npos ||
         (w_.size() >= 2 && w_.ends_with(C('|')) && w_[w_.size() - 2] == C('|')))
         return;
-    bool bad = bar == 0 || w_.back() == C('|') || w_.find(C('|'), bar + 1) != View::npos;
+    bool bad = bar == 0 || w_.back() == C('|') || findIn(w_, C('|'), bar + 1) != View::npos;
     if (!bad) {
         View root = w_.substr(bar + 1);
-        root = root.substr(0, root.find_first_of(kEndingMarks<C>));
+        root = root.substr(0, findEndingMark(root));
         bad = root.empty() || !std::all_of(root.begin(), root.end(), [](C c) {
                   return cls::isWordChar(codePoint(c)) || (c == C('%'));
               });
@@ -196,12 +209,12 @@ template <class C> void WordSplitter<C>::splitStem(View stem, char32_t nextMark)
             return;
         }
     }
-    stem = stem.substr(0, stem.find(C('|')));
+    stem = stem.substr(0, findIn(stem, C('|')));
     size_t slash = stem.rfind(C('\\'));
     if (slash != View::npos) {
         View prefixes = stem.substr(0, slash);
         while (true) {
-            size_t cut = prefixes.find(C('\\'));
+            size_t cut = findIn(prefixes, C('\\'));
             View prefix = prefixes.substr(0, cut);
             if (prefix.empty())
                 report(Problem::MissingPrefix);
@@ -228,7 +241,7 @@ template <class C> void WordSplitter<C>::splitEndings(View rest) {
     while (!rest.empty()) {
         char32_t mark = codePoint(rest[0]);
         rest.remove_prefix(1);
-        size_t next = rest.find_first_of(kEndingMarks<C>);
+        size_t next = findEndingMark(rest);
         View ending = rest.substr(0, next);
         rest = next == View::npos ? View() : rest.substr(next);
         bool bound = mark == U'/';
