@@ -25,23 +25,38 @@ using Span = std::pair<size_t, size_t>; // [first, last] positions, both inclusi
 
 constexpr size_t kMaxPauseRun = 20;
 
-// A set of ASCII characters as two 64-bit masks, built at compile time.
-struct CharMask {
-    std::uint64_t low = 0, high = 0;
+// Kinds of characters a line may hold before its terminator, one bit each:
+// a step of the cut that only such characters concern is skipped without them.
+enum Presence : std::uint8_t {
+    kCodeOrComment = 1,
+    kParenOrQuote = 2,
+    kMazeOrOverlap = 4,
+    kPauseOrStray = 8,
+    kLink = 16,
+    kControl = 32, // a control character other than the spacing ones
+    kNonAscii = 64,
 };
 
-constexpr CharMask maskOf(std::u32string_view chars) {
-    CharMask m;
-    for (char32_t c : chars)
-        (c < 64 ? m.low : m.high) |= std::uint64_t{1} << (c & 63);
-    return m;
-}
-
-constexpr CharMask kCodeOrComment = maskOf(U"{}[]");
-constexpr CharMask kParenOrQuote = maskOf(U"(),\"\x1C\x1D");
-constexpr CharMask kMazeOrOverlap = maskOf(U"()<>");
-constexpr CharMask kPauseOrStray = maskOf(U":.!?~^=;-$@");
-constexpr CharMask kLink = maskOf(U"_");
+// The kinds of each ASCII character.
+struct PresenceTable {
+    std::uint8_t kinds[128] = {};
+    constexpr PresenceTable() {
+        mark("{}[]", kCodeOrComment);
+        mark("(),\"\x1C\x1D", kParenOrQuote);
+        mark("()<>", kMazeOrOverlap);
+        mark(":.!?~^=;-$@", kPauseOrStray);
+        mark("_", kLink);
+        for (int c = 0; c < 32; ++c)
+            if (!(c >= 9 && c <= 13) && c != 0x1C && c != 0x1D)
+                kinds[c] |= kControl;
+        kinds[0x7F] |= kControl;
+    }
+    constexpr void mark(const char* chars, Presence kind) {
+        for (; *chars; ++chars)
+            kinds[static_cast<unsigned char>(*chars)] |= kind;
+    }
+};
+constexpr PresenceTable kPresence;
 
 } // namespace
 
@@ -137,9 +152,7 @@ private:
     bool findEnd();
     void dropFrom(size_t pos);
     void notePresentCharacters();
-    bool anyPresent(const CharMask& mask) const {
-        return ((present_[0] & mask.low) | (present_[1] & mask.high)) != 0;
-    }
+    bool anyPresent(std::uint8_t kinds) const { return (present_ & kinds) != 0; }
     // A piece of the line as UTF-8: a view of the line when it is all ASCII,
     // else a copy in the store (nothing when only checking).
     std::string_view textOf(size_t from, size_t size);
@@ -168,9 +181,7 @@ private:
     size_t end_ = 0;         // position of the terminator (or of the end of the text)
     bool missingTerminator_ = false;
     bool textAfterEnd_ = false;
-    std::uint64_t present_[2] = {0, 0}; // ASCII characters present before the terminator
-    bool nonAscii_ = false;
-    bool controls_ = false;
+    std::uint8_t present_ = 0; // the Presence kinds of the characters before the terminator
     std::vector<size_t>& codePositions_;
     std::vector<size_t>& codeCloses_;
     std::vector<bool>& codeAttached_; // written right after a word, with no blank between
@@ -202,11 +213,11 @@ template <class C> void LineCutter<C>::run() {
         report(Problem::MissingTerminator);
     else if (textAfterEnd_)
         report(Problem::TextAfterTerminator);
-    if (nonAscii_ || anyPresent(kParenOrQuote))
+    if (anyPresent(kNonAscii | kParenOrQuote))
         parentheticals();
     if (anyPresent(kMazeOrOverlap))
         mazesAndOverlaps();
-    if (nonAscii_ || controls_ || anyPresent(kPauseOrStray))
+    if (anyPresent(kNonAscii | kControl | kPauseOrStray))
         pausesAndCharacters();
     words();
     attachCodes();
@@ -253,22 +264,17 @@ template <class C> bool LineCutter<C>::findEnd() {
 }
 
 template <class C> void LineCutter<C>::notePresentCharacters() {
-    std::uint64_t low = 0, high = 0;
-    for (size_t i = 1; i < end_; ++i) {
-        char32_t c = at(i);
-        std::uint64_t bit = std::uint64_t{1} << (c & 63);
-        if (c < 64)
-            low |= bit;
-        else if (c < 128)
-            high |= bit;
+    const C* b = b_;
+    const size_t end = end_;
+    std::uint8_t present = 0;
+    for (size_t i = 1; i < end; ++i) {
+        char32_t c = codePoint(b[i]);
+        if constexpr (std::is_same_v<C, char>)
+            present |= kPresence.kinds[c];
         else
-            nonAscii_ = true;
+            present |= c < 128 ? kPresence.kinds[c] : std::uint8_t{kNonAscii};
     }
-    present_[0] = low;
-    present_[1] = high;
-    constexpr std::uint64_t kSpacing =
-        (1u << 9) | (1u << 10) | (1u << 11) | (1u << 12) | (1u << 13) | (1u << 0x1C) | (1u << 0x1D);
-    controls_ = (low & (0xFFFFFFFFu & ~kSpacing)) != 0 || (high >> 63) != 0;
+    present_ = present;
 }
 
 template <class C> void LineCutter<C>::commentsAndCodes() {
