@@ -2,17 +2,34 @@
 // segmentation and the analysis all ask these functions, by code point.
 #pragma once
 
+#include <cstdint>
+
 namespace tavi::cls {
+
+namespace detail {
+// A set of characters below 128 as two 64-bit masks.
+struct AsciiSet {
+    std::uint64_t low = 0, high = 0;
+    constexpr AsciiSet(const char* chars) {
+        for (; *chars; ++chars)
+            (*chars < 64 ? low : high) |= std::uint64_t{1} << (*chars & 63);
+    }
+    constexpr bool has(char32_t c) const {
+        return c < 64 ? ((low >> c) & 1) != 0 : c < 128 && ((high >> (c & 63)) & 1) != 0;
+    }
+};
+inline constexpr AsciiSet kSpaces(" \t\n\r\v\f");
+inline constexpr AsciiSet kTerminators(".!?~>^");
+} // namespace detail
 
 // White space (blank, tab and the other ASCII spacing characters).
 constexpr bool isSpace(char32_t c) {
-    return c == U' ' || c == U'\t' || c == U'\n' || c == U'\r' || c == U'\v' || c == U'\f';
+    return c <= U' ' && detail::kSpaces.has(c);
 }
 
 // "." "!" "?" "~" ">" "^" and the Arabic question mark U+061F.
 constexpr bool isTerminator(char32_t c) {
-    return c == U'.' || c == U'!' || c == U'?' || c == U'~' || c == U'>' || c == U'^' ||
-           c == 0x061F;
+    return detail::kTerminators.has(c) || c == 0x061F;
 }
 
 // Terminator kind as numbered by the notation: 0 "." 1 "!" 2 "?" 3 "~" 4 ">" 5 "^";

@@ -1,5 +1,6 @@
-// Utterance segmentation. The line is decoded once into code points and then
-// worked on in place, in the notation's order: comments and codes, terminator,
+// Utterance segmentation. The line is copied once, as its bytes when it is all
+// ASCII (positions are then byte offsets) and else decoded into code points,
+// and then worked on in place, in the notation's order: comments and codes, terminator,
 // parenthetical remarks and separators, mazes and overlaps, pauses and stray
 // characters, word links, words. Every faulty part is blanked after it is
 // reported, so later steps never report it again.
@@ -7,6 +8,8 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cstring>
+#include <type_traits>
 
 #include "base/text.h"
 #include "transcript/char_class.h"
@@ -20,45 +23,88 @@ namespace {
 
 using Span = std::pair<size_t, size_t>; // [first, last] positions, both inclusive
 
-constexpr char32_t kBlank = U' ';
 constexpr size_t kMaxPauseRun = 20;
 
-// A set of ASCII characters as two 64-bit masks, built at compile time.
-struct CharMask {
-    std::uint64_t low = 0, high = 0;
+// Kinds of characters a line may hold before its terminator, one bit each:
+// a step of the cut that only such characters concern is skipped without them.
+enum Presence : std::uint8_t {
+    kCodeOrComment = 1,
+    kParenOrQuote = 2,
+    kMazeOrOverlap = 4,
+    kPauseOrStray = 8,
+    kLink = 16,
+    kControl = 32, // a control character other than the spacing ones
+    kNonAscii = 64,
 };
 
-constexpr CharMask maskOf(std::u32string_view chars) {
-    CharMask m;
-    for (char32_t c : chars)
-        (c < 64 ? m.low : m.high) |= std::uint64_t{1} << (c & 63);
-    return m;
-}
-
-constexpr CharMask kCodeOrComment = maskOf(U"{}[]");
-constexpr CharMask kParenOrQuote = maskOf(U"(),\"\x1C\x1D");
-constexpr CharMask kMazeOrOverlap = maskOf(U"()<>");
-constexpr CharMask kPauseOrStray = maskOf(U":.!?~^=;-$@");
-constexpr CharMask kLink = maskOf(U"_");
+// The kinds of each ASCII character.
+struct PresenceTable {
+    std::uint8_t kinds[128] = {};
+    constexpr PresenceTable() {
+        mark("{}[]", kCodeOrComment);
+        mark("(),\"\x1C\x1D", kParenOrQuote);
+        mark("()<>", kMazeOrOverlap);
+        mark(":.!?~^=;-$@", kPauseOrStray);
+        mark("_", kLink);
+        for (int c = 0; c < 32; ++c)
+            if (!(c >= 9 && c <= 13) && c != 0x1C && c != 0x1D)
+                kinds[c] |= kControl;
+        kinds[0x7F] |= kControl;
+    }
+    constexpr void mark(const char* chars, Presence kind) {
+        for (; *chars; ++chars)
+            kinds[static_cast<unsigned char>(*chars)] |= kind;
+    }
+};
+constexpr PresenceTable kPresence;
 
 } // namespace
 
+// The copies of a line being cut, as bytes (C = char) or code points.
+template <class C> struct LineBuffers {
+    std::basic_string<C> buf;
+    std::basic_string<C> link;
+    std::basic_string<C> joined; // a word with the codes written inside it taken out
+};
+
 // The lists of the utterance being cut, reused from line to line.
 struct UtteranceSegmenter::Scratch {
-    std::u32string buf;
-    std::u32string link;
-    std::u32string joined; // a word with the codes written inside it taken out
+    LineBuffers<char> bytes;
+    LineBuffers<char32_t> codePoints;
+    bool codePointsOnly = false;
+    template <class C> LineBuffers<C>& buffers() {
+        if constexpr (std::is_same_v<C, char>)
+            return bytes;
+        else
+            return codePoints;
+    }
     std::string spare;
     WordDraft word;
     std::vector<Word> words;
     std::vector<size_t> positions; // of each word in the line
     std::vector<Code> codes;
     std::vector<std::vector<int>> mazeWords;
+    std::vector<Maze> mazes;
     std::vector<std::string_view> parentheticals;
     std::vector<Pause> pauses;
     std::vector<Word> parentheticalWords;
+    // Where the pieces found lie in the line.
+    std::vector<size_t> codePositions;
+    std::vector<size_t> codeCloses;
+    std::vector<bool> codeAttached;
+    std::vector<Span> mazeSpans;
+    std::vector<Span> overlapSpans;
+    std::vector<size_t> remarkOpens;
+    std::vector<size_t> remarkWordsBefore;
 
     void clear() {
+        codePositions.clear();
+        codeCloses.clear();
+        codeAttached.clear();
+        mazeSpans.clear();
+        overlapSpans.clear();
+        remarkOpens.clear();
+        remarkWordsBefore.clear();
         words.clear();
         positions.clear();
         codes.clear();
@@ -74,14 +120,22 @@ namespace {
 using Scratch = UtteranceSegmenter::Scratch;
 
 // One line being cut; lives for one call of UtteranceSegmenter::segment.
-// With a store the pieces are kept; without, the line is only checked.
-class LineCutter {
+// With a store the pieces are kept; without, the line is only checked. The
+// line is worked on as bytes (C = char, an all-ASCII line) or code points.
+template <class C> class LineCutter {
 public:
+    using View = std::basic_string_view<C>;
+    static constexpr C kBlank = C(' ');
+
     LineCutter(std::string_view line, Scratch& scratch, Utterance& out, ProblemSink* sink,
                TranscriptStore* store)
-        : line_(line.size() == scratch.buf.size() ? line : std::string_view()), stable_(line),
-          buf_(scratch.buf), scratch_(scratch.link), s_(scratch), out_(out), sink_(sink),
-          store_(store) {}
+        : line_(line.size() == scratch.buffers<C>().buf.size() ? line : std::string_view()),
+          stable_(line), buf_(scratch.buffers<C>().buf), b_(buf_.data()),
+          scratch_(scratch.buffers<C>().link), s_(scratch), out_(out), sink_(sink), store_(store),
+          codePositions_(scratch.codePositions), codeCloses_(scratch.codeCloses),
+          codeAttached_(scratch.codeAttached), mazes_(scratch.mazeSpans),
+          overlaps_(scratch.overlapSpans), remarkOpens_(scratch.remarkOpens),
+          remarkWordsBefore_(scratch.remarkWordsBefore) {}
 
     void run();
 
@@ -90,16 +144,15 @@ private:
         if (sink_)
             sink_->report(p, args...);
     }
+    char32_t at(size_t i) const { return codePoint(b_[i]); }
     void blank(size_t first, size_t last) {
         for (size_t i = first; i <= last && i < end_; ++i)
-            buf_[i] = kBlank;
+            b_[i] = kBlank;
     }
     bool findEnd();
     void dropFrom(size_t pos);
     void notePresentCharacters();
-    bool anyPresent(const CharMask& mask) const {
-        return ((present_[0] & mask.low) | (present_[1] & mask.high)) != 0;
-    }
+    bool anyPresent(std::uint8_t kinds) const { return (present_ & kinds) != 0; }
     // A piece of the line as UTF-8: a view of the line when it is all ASCII,
     // else a copy in the store (nothing when only checking).
     std::string_view textOf(size_t from, size_t size);
@@ -110,8 +163,7 @@ private:
     void pausesAndCharacters();
     size_t readPause(size_t colon);
     void words();
-    void addWord(std::u32string_view text, size_t position, bool linked, bool malformed,
-                 bool contiguous = true);
+    void addWord(View text, size_t position, bool linked, bool malformed, bool contiguous = true);
     bool inCode(size_t pos);
     bool isAttachedCode(size_t open) const;
     void attachCodes();
@@ -119,8 +171,9 @@ private:
 
     std::string_view line_;   // the line's bytes when it is all ASCII, else empty
     std::string_view stable_; // the line, alive as long as the store
-    std::u32string& buf_;
-    std::u32string& scratch_;
+    std::basic_string<C>& buf_;
+    C* b_; // buf_'s characters (blanked in place; the size never changes)
+    std::basic_string<C>& scratch_;
     Scratch& s_;
     Utterance& out_;
     ProblemSink* sink_;
@@ -128,29 +181,26 @@ private:
     size_t end_ = 0;         // position of the terminator (or of the end of the text)
     bool missingTerminator_ = false;
     bool textAfterEnd_ = false;
-    std::uint64_t present_[2] = {0, 0}; // ASCII characters present before the terminator
-    bool nonAscii_ = false;
-    bool controls_ = false;
-    std::vector<size_t> codePositions_;
-    std::vector<size_t> codeCloses_;
-    std::vector<bool> codeAttached_; // written right after a word, with no blank between
-    size_t lastCodeEnd_ = 0;         // position of the last code's "]"
-    size_t codeCursor_ = 0;          // the first code not wholly before the word pass
-    std::vector<Span> mazes_;
-    std::vector<Span> overlaps_;
+    std::uint8_t present_ = 0; // the Presence kinds of the characters before the terminator
+    std::vector<size_t>& codePositions_;
+    std::vector<size_t>& codeCloses_;
+    std::vector<bool>& codeAttached_; // written right after a word, with no blank between
+    size_t lastCodeEnd_ = 0;          // position of the last code's "]"
+    size_t codeCursor_ = 0;           // the first code not wholly before the word pass
+    std::vector<Span>& mazes_;
+    std::vector<Span>& overlaps_;
     size_t mazeCursor_ = 0; // the first maze not wholly before the words reached
     size_t overlapCursor_ = 0;
-    std::vector<size_t> remarkOpens_;       // position of each remark's "(("
-    std::vector<size_t> remarkWordsBefore_; // remark words kept before each remark
+    std::vector<size_t>& remarkOpens_;       // position of each remark's "(("
+    std::vector<size_t>& remarkWordsBefore_; // remark words kept before each remark
     static constexpr size_t kNowhere = static_cast<size_t>(-1);
     size_t firstComment_ = kNowhere;
     size_t firstQuote_ = kNowhere;
     size_t cut_ = kNowhere; // an earlier terminator: the text from it on is dropped
 };
 
-void LineCutter::run() {
-    codePositions_.clear();
-    if (buf_.size() < 2 || !(cls::isSpace(buf_[1]) || cls::isTerminator(buf_[1]))) {
+template <class C> void LineCutter<C>::run() {
+    if (buf_.size() < 2 || !(cls::isSpace(at(1)) || cls::isTerminator(at(1)))) {
         report(Problem::NoBlankAfterSpeaker);
         out_.hasTerminator = false;
         return;
@@ -163,11 +213,11 @@ void LineCutter::run() {
         report(Problem::MissingTerminator);
     else if (textAfterEnd_)
         report(Problem::TextAfterTerminator);
-    if (nonAscii_ || anyPresent(kParenOrQuote))
+    if (anyPresent(kNonAscii | kParenOrQuote))
         parentheticals();
     if (anyPresent(kMazeOrOverlap))
         mazesAndOverlaps();
-    if (nonAscii_ || controls_ || anyPresent(kPauseOrStray))
+    if (anyPresent(kNonAscii | kControl | kPauseOrStray))
         pausesAndCharacters();
     words();
     attachCodes();
@@ -178,17 +228,17 @@ void LineCutter::run() {
 
 // The terminator is the last non-blank character; otherwise the first
 // terminator outside a code or comment ends the utterance.
-bool LineCutter::findEnd() {
+template <class C> bool LineCutter<C>::findEnd() {
     size_t n = buf_.size();
-    while (n > 1 && cls::isSpace(buf_[n - 1]))
+    while (n > 1 && cls::isSpace(at(n - 1)))
         --n;
-    if (n > 1 && cls::isTerminator(buf_[n - 1])) {
+    if (n > 1 && cls::isTerminator(at(n - 1))) {
         end_ = n - 1;
     } else {
         bool inCode = false, inComment = false;
         end_ = n;
         for (size_t i = 1; i < n; ++i) {
-            char32_t c = buf_[i];
+            char32_t c = at(i);
             if (inComment) {
                 inComment = c != U'}';
             } else if (inCode) {
@@ -209,30 +259,25 @@ bool LineCutter::findEnd() {
         }
         textAfterEnd_ = true;
     }
-    out_.setTerminator(buf_[end_]);
+    out_.setTerminator(at(end_));
     return true;
 }
 
-void LineCutter::notePresentCharacters() {
-    std::uint64_t low = 0, high = 0;
-    for (size_t i = 1; i < end_; ++i) {
-        char32_t c = buf_[i];
-        std::uint64_t bit = std::uint64_t{1} << (c & 63);
-        if (c < 64)
-            low |= bit;
-        else if (c < 128)
-            high |= bit;
+template <class C> void LineCutter<C>::notePresentCharacters() {
+    const C* b = b_;
+    const size_t end = end_;
+    std::uint8_t present = 0;
+    for (size_t i = 1; i < end; ++i) {
+        char32_t c = codePoint(b[i]);
+        if constexpr (std::is_same_v<C, char>)
+            present |= kPresence.kinds[c];
         else
-            nonAscii_ = true;
+            present |= c < 128 ? kPresence.kinds[c] : std::uint8_t{kNonAscii};
     }
-    present_[0] = low;
-    present_[1] = high;
-    constexpr std::uint64_t kSpacing =
-        (1u << 9) | (1u << 10) | (1u << 11) | (1u << 12) | (1u << 13) | (1u << 0x1C) | (1u << 0x1D);
-    controls_ = (low & (0xFFFFFFFFu & ~kSpacing)) != 0 || (high >> 63) != 0;
+    present_ = present;
 }
 
-void LineCutter::commentsAndCodes() {
+template <class C> void LineCutter<C>::commentsAndCodes() {
     struct Visitor {
         LineCutter& cut;
         void problem(Problem id, std::string message) {
@@ -254,15 +299,15 @@ void LineCutter::commentsAndCodes() {
 
 // "((" ... "))": the inner text is kept as a parenthetical remark and blanked
 // (angle brackets excepted). Separators are blanked in the same scan.
-void LineCutter::parentheticals() {
+template <class C> void LineCutter<C>::parentheticals() {
     size_t open = 0;
     bool isOpen = false;
     int inner = 0;     // single-bracket balance inside the open remark
     int mazeDepth = 0; // single-bracket depth outside remarks
     size_t i = 1;
     while (i < end_) {
-        char32_t c = buf_[i];
-        bool pairNext = i + 1 < end_ && buf_[i + 1] == c;
+        char32_t c = at(i);
+        bool pairNext = i + 1 < end_ && at(i + 1) == c;
         if (c == U'(' && pairNext) {
             if (isOpen) {
                 report(Problem::NestedParenthetical);
@@ -298,13 +343,13 @@ void LineCutter::parentheticals() {
                 --inner;
             } else {
                 report(Problem::MazeInParenthetical);
-                buf_[i] = kBlank;
+                b_[i] = kBlank;
             }
         } else if (cls::isSeparator(c)) {
             if (cls::isQuotationMark(c))
                 firstQuote_ = std::min(firstQuote_, i);
             if (!isOpen)
-                buf_[i] = kBlank;
+                b_[i] = kBlank;
         }
         ++i;
     }
@@ -312,24 +357,24 @@ void LineCutter::parentheticals() {
         report(Problem::UnmatchedParenthetical);
         blank(open, open + 1);
         for (size_t k = open + 2; k < end_; ++k)
-            if (cls::isSeparator(buf_[k]))
-                buf_[k] = kBlank;
+            if (cls::isSeparator(at(k)))
+                b_[k] = kBlank;
     }
 }
 
-std::string_view LineCutter::textOf(size_t from, size_t size) {
+template <class C> std::string_view LineCutter<C>::textOf(size_t from, size_t size) {
     if (!line_.empty())
         return line_.substr(from, size);
     if (!store_)
         return {};
-    return store_->keepText(utf8(std::u32string_view(buf_).substr(from, size)));
+    return store_->keepText(utf8(View(buf_).substr(from, size)));
 }
 
-void LineCutter::closeParenthetical(size_t open, size_t close) {
+template <class C> void LineCutter<C>::closeParenthetical(size_t open, size_t close) {
     remarkOpens_.push_back(open);
     remarkWordsBefore_.push_back(s_.parentheticalWords.size());
     if (store_) {
-        std::u32string_view inner = std::u32string_view(buf_).substr(open + 2, close - open - 3);
+        View inner = View(buf_).substr(open + 2, close - open - 3);
         std::string_view text = trim(textOf(open + 2, close - open - 3));
         s_.parentheticals.push_back(text);
         splitRemarkWords(inner, *store_, s_.parentheticalWords);
@@ -337,19 +382,19 @@ void LineCutter::closeParenthetical(size_t open, size_t close) {
         s_.parentheticals.emplace_back();
     }
     for (size_t k = open; k <= close; ++k)
-        if (buf_[k] != U'<' && buf_[k] != U'>')
-            buf_[k] = kBlank;
+        if (at(k) != U'<' && at(k) != U'>')
+            b_[k] = kBlank;
 }
 
-void LineCutter::mazesAndOverlaps() {
+template <class C> void LineCutter<C>::mazesAndOverlaps() {
     size_t maze = 0, overlap = 0;
     bool mazeOpen = false, overlapOpen = false;
     for (size_t i = 1; i < end_; ++i) {
-        switch (buf_[i]) {
+        switch (at(i)) {
         case U'(':
             if (mazeOpen) {
                 report(Problem::NestedMaze);
-                buf_[i] = kBlank;
+                b_[i] = kBlank;
             } else {
                 mazeOpen = true;
                 maze = i;
@@ -360,15 +405,15 @@ void LineCutter::mazesAndOverlaps() {
                 report(Problem::UnmatchedMaze);
             } else {
                 mazes_.push_back({maze, i});
-                buf_[maze] = kBlank;
+                b_[maze] = kBlank;
                 mazeOpen = false;
             }
-            buf_[i] = kBlank;
+            b_[i] = kBlank;
             break;
         case U'<':
             if (overlapOpen) {
                 report(Problem::NestedOverlap);
-                buf_[i] = kBlank;
+                b_[i] = kBlank;
             } else {
                 overlapOpen = true;
                 overlap = i;
@@ -379,10 +424,10 @@ void LineCutter::mazesAndOverlaps() {
                 report(Problem::UnmatchedOverlap);
             } else {
                 overlaps_.push_back({overlap, i});
-                buf_[overlap] = kBlank;
+                b_[overlap] = kBlank;
                 overlapOpen = false;
             }
-            buf_[i] = kBlank;
+            b_[i] = kBlank;
             break;
         default:
             break;
@@ -390,11 +435,11 @@ void LineCutter::mazesAndOverlaps() {
     }
     if (mazeOpen) {
         report(Problem::UnmatchedMaze);
-        buf_[maze] = kBlank;
+        b_[maze] = kBlank;
     }
     if (overlapOpen) {
         report(Problem::UnmatchedOverlap);
-        buf_[overlap] = kBlank;
+        b_[overlap] = kBlank;
     }
     out_.hasOverlap = !overlaps_.empty();
     s_.mazeWords.resize(mazes_.size());
@@ -404,11 +449,12 @@ void LineCutter::mazesAndOverlaps() {
 
 // A piece of a linked word has "_" only at its ends, and only its last piece
 // carries bound morphemes or clitics.
-bool wellFormedLinkPiece(std::u32string_view piece, bool first, bool last) {
+template <class C>
+bool wellFormedLinkPiece(std::basic_string_view<C> piece, bool first, bool last) {
     size_t from = first ? 0 : 1;
     size_t to = last ? piece.size() : piece.size() - 1;
     for (size_t k = from; k < to; ++k) {
-        char32_t c = piece[k];
+        char32_t c = codePoint(piece[k]);
         if (c == U'_' || (!last && (c == U'/' || c == U'+')))
             return false;
     }
@@ -424,9 +470,9 @@ std::string shown(char32_t c) {
     return toUtf8(c);
 }
 
-void LineCutter::pausesAndCharacters() {
+template <class C> void LineCutter<C>::pausesAndCharacters() {
     for (size_t i = 1; i < end_; ++i) {
-        char32_t c = buf_[i];
+        char32_t c = at(i);
         if (c == U':') {
             i = readPause(i);
         } else if (cls::isTerminator(c)) {
@@ -435,7 +481,7 @@ void LineCutter::pausesAndCharacters() {
             return;
         } else if ((cls::isLineIdentifier(c) && c != U'+') || cls::isControl(c)) {
             report(Problem::InvalidCharacter, shown(c));
-            buf_[i] = kBlank;
+            b_[i] = kBlank;
         }
     }
 }
@@ -444,7 +490,7 @@ void LineCutter::pausesAndCharacters() {
 // to the final terminator is dropped, with the codes, remarks, mazes and
 // overlaps that begin there. (Brackets were matched before, so a maze or
 // remark the early terminator stands in keeps what came before it.)
-void LineCutter::dropFrom(size_t pos) {
+template <class C> void LineCutter<C>::dropFrom(size_t pos) {
     blank(pos, end_ - 1);
     cut_ = pos;
     while (!codePositions_.empty() && codePositions_.back() > pos) {
@@ -469,12 +515,12 @@ void LineCutter::dropFrom(size_t pos) {
 
 // Reads the pause around the ":" at `colon`, blanks it and returns the
 // position of its last character.
-size_t LineCutter::readPause(size_t colon) {
+template <class C> size_t LineCutter<C>::readPause(size_t colon) {
     size_t first = colon;
-    while (first > 1 && cls::isDigit(buf_[first - 1]))
+    while (first > 1 && cls::isDigit(at(first - 1)))
         --first;
     size_t last = colon + 1;
-    while (last < end_ && (cls::isDigit(buf_[last]) || buf_[last] == U':'))
+    while (last < end_ && (cls::isDigit(at(last)) || at(last) == U':'))
         ++last;
     Pause pause;
     bool legal = true;
@@ -484,11 +530,11 @@ size_t LineCutter::readPause(size_t colon) {
         for (size_t k = first; k < last; ++k) {
             if (k == colon) {
                 afterColon = true;
-            } else if (buf_[k] == U':') {
+            } else if (at(k) == U':') {
                 legal = false;
             } else {
                 long long& field = afterColon ? seconds : minutes;
-                field = std::min<long long>(field * 10 + (buf_[k] - U'0'), 1000000000);
+                field = std::min<long long>(field * 10 + (at(k) - U'0'), 1000000000);
             }
         }
         long long total = minutes * 60 + seconds;
@@ -508,8 +554,8 @@ size_t LineCutter::readPause(size_t colon) {
 }
 
 // Word links, then each word.
-void LineCutter::words() {
-    std::u32string_view text(buf_);
+template <class C> void LineCutter<C>::words() {
+    View text(buf_);
     scratch_.clear();
     size_t linkPosition = 0;
     bool linkOpen = false;
@@ -520,7 +566,7 @@ void LineCutter::words() {
             report(Problem::UnmatchedWordLink, linkShown);
         if (!complete && !scratch_.empty() && scratch_.back() == U'_')
             scratch_.pop_back();
-        addWord(scratch_, linkPosition, complete, linkMalformed);
+        addWord(View(scratch_), linkPosition, complete, linkMalformed);
         scratch_.clear();
         linkShown.clear();
         linkOpen = false;
@@ -530,36 +576,36 @@ void LineCutter::words() {
     const bool codes = !codeCloses_.empty();
     size_t i = 1;
     while (i < end_) {
-        if (text[i] <= U' ' && cls::isSpace(text[i]) && !(codes && inCode(i))) {
+        if (at(i) <= U' ' && cls::isSpace(at(i)) && !(codes && inCode(i))) {
             ++i;
             continue;
         }
         size_t start = i;
         bool hasCode = false;
         while (i < end_) {
-            if (text[i] <= U' ' && cls::isSpace(text[i])) {
+            if (at(i) <= U' ' && cls::isSpace(at(i))) {
                 if (!codes || !inCode(i))
                     break;
                 hasCode = true;
             }
             ++i;
         }
-        std::u32string_view piece = text.substr(start, i - start);
+        View piece = text.substr(start, i - start);
         if (hasCode) {
-            std::u32string& joined = s_.joined;
+            std::basic_string<C>& joined = s_.buffers<C>().joined;
             joined.clear();
-            for (char32_t c : piece)
-                if (!cls::isSpace(c))
+            for (C c : piece)
+                if (!cls::isSpace(codePoint(c)))
                     joined.push_back(c);
             if (joined.empty())
                 continue; // codes only
-            if (cls::isSpace(piece.front()))
+            if (cls::isSpace(codePoint(piece.front())))
                 report(Problem::MissingRoot); // the word begins with "["
             piece = joined;
         }
         bool opens = piece.size() > 1 && piece.back() == U'_';
         bool continues = piece.size() > 1 && piece.front() == U'_';
-        if (piece == U"_") {
+        if (piece.size() == 1 && piece[0] == C('_')) {
             report(Problem::LoneWordLink);
             continue;
         }
@@ -595,14 +641,15 @@ void LineCutter::words() {
 }
 
 // True when `pos` lies inside a code; asked with positions that never decrease.
-bool LineCutter::inCode(size_t pos) {
+template <class C> bool LineCutter<C>::inCode(size_t pos) {
     while (codeCursor_ < codeCloses_.size() && codeCloses_[codeCursor_] < pos)
         ++codeCursor_;
     return codeCursor_ < codeCloses_.size() && codePositions_[codeCursor_] <= pos;
 }
 
-void LineCutter::addWord(std::u32string_view text, size_t position, bool linked, bool malformed,
-                         bool contiguous) {
+template <class C>
+void LineCutter<C>::addWord(View text, size_t position, bool linked, bool malformed,
+                            bool contiguous) {
     if (malformed && sink_)
         report(Problem::MalformedLinkedWord, utf8(text));
     linked = linked || malformed;
@@ -649,16 +696,16 @@ void LineCutter::addWord(std::u32string_view text, size_t position, bool linked,
 
 // A code touches the text before it when no blank stands between them; a code
 // written right after another attached code ("went[EW:x][EO:y]") is attached too.
-bool LineCutter::isAttachedCode(size_t open) const {
+template <class C> bool LineCutter<C>::isAttachedCode(size_t open) const {
     if (!codePositions_.empty() && lastCodeEnd_ + 1 == open)
         return codeAttached_.back();
-    return open > 1 && !cls::isSpace(buf_[open - 1]);
+    return open > 1 && !cls::isSpace(at(open - 1));
 }
 
 // A code followed by more words belongs to the word before it. After the last
 // word, a code written right after that word ("falled[EO:fell].") is still the
 // word's; one set apart by a blank ("... today [EU].") belongs to the utterance.
-void LineCutter::attachCodes() {
+template <class C> void LineCutter<C>::attachCodes() {
     const std::vector<size_t>& positions = s_.positions;
     size_t w = 0;
     for (size_t c = 0; c < s_.codes.size(); ++c) {
@@ -676,7 +723,7 @@ void LineCutter::attachCodes() {
 // Unintelligible when every main-body word is an unintelligible mark, partly
 // when some are; nonverbal when no word is spoken outside mazes but a comment
 // is there.
-void LineCutter::classify() {
+template <class C> void LineCutter<C>::classify() {
     int spoken = 0, marks = 0;
     for (const Word& w : s_.words) {
         if (w.inMaze || w.omitted)
@@ -696,13 +743,46 @@ UtteranceSegmenter::UtteranceSegmenter() : scratch_(std::make_unique<Scratch>())
 
 UtteranceSegmenter::~UtteranceSegmenter() = default;
 
+void UtteranceSegmenter::setCodePointsOnly(bool on) {
+    scratch_->codePointsOnly = on;
+}
+
 namespace {
 
-void startUtterance(Utterance& out, int lineNumber, int speakerGroup, const std::u32string& buf) {
+void startUtterance(Utterance& out, int lineNumber, int speakerGroup, char32_t speakerId) {
     out = Utterance();
     out.speakerGroup = static_cast<std::int8_t>(speakerGroup);
     out.line = lineNumber;
-    out.speakerId = buf.empty() ? 0 : buf[0];
+    out.speakerId = speakerId;
+}
+
+bool isAscii(std::string_view line) {
+    std::uint64_t high = 0;
+    size_t i = 0;
+    for (; i + 8 <= line.size(); i += 8) {
+        std::uint64_t eight;
+        std::memcpy(&eight, line.data() + i, 8);
+        high |= eight;
+    }
+    for (; i < line.size(); ++i)
+        high |= static_cast<unsigned char>(line[i]);
+    return (high & 0x8080808080808080u) == 0;
+}
+
+// Cuts a line by the general rules: from its bytes when it is all ASCII, else
+// from its code points.
+void cutLine(std::string_view line, int lineNumber, int speakerGroup, Scratch& s, Utterance& out,
+             ProblemSink* sink, TranscriptStore* store) {
+    if (!s.codePointsOnly && isAscii(line)) {
+        s.bytes.buf.assign(line);
+        startUtterance(out, lineNumber, speakerGroup, line.empty() ? 0 : codePoint(line[0]));
+        LineCutter<char>(line, s, out, sink, store).run();
+    } else {
+        decodeCodePoints(line, s.codePoints.buf);
+        const std::u32string& buf = s.codePoints.buf;
+        startUtterance(out, lineNumber, speakerGroup, buf.empty() ? 0 : buf[0]);
+        LineCutter<char32_t>(line, s, out, sink, store).run();
+    }
 }
 
 // A line of plain words only: an ASCII identifier, a blank, words of ASCII
@@ -792,7 +872,7 @@ void UtteranceSegmenter::segment(std::string_view line, int lineNumber, int spea
                                  TranscriptStore& store, Utterance& out, ProblemSink* sink) {
     Scratch& s = *scratch_;
     s.clear();
-    if (size_t end = plainLineEnd(line)) {
+    if (size_t end = s.codePointsOnly ? 0 : plainLineEnd(line)) {
         out = Utterance();
         out.speakerGroup = static_cast<std::int8_t>(speakerGroup);
         out.line = lineNumber;
@@ -801,27 +881,23 @@ void UtteranceSegmenter::segment(std::string_view line, int lineNumber, int spea
         out.words = store.keep(s.words);
         return;
     }
-    decodeCodePoints(line, s.buf);
-    startUtterance(out, lineNumber, speakerGroup, s.buf);
-    LineCutter(line, s, out, sink, &store).run();
+    cutLine(line, lineNumber, speakerGroup, s, out, sink, &store);
     out.words = store.keep(s.words);
-    std::vector<Maze> mazes;
-    mazes.reserve(s.mazeWords.size());
+    s.mazes.clear();
     for (const std::vector<int>& words : s.mazeWords)
-        mazes.push_back(Maze{store.keep(words)});
-    out.extras = store.keepExtras(s.codes, mazes, s.parentheticals, s.parentheticalWords, s.pauses);
+        s.mazes.push_back(Maze{store.keep(words)});
+    out.extras =
+        store.keepExtras(s.codes, s.mazes, s.parentheticals, s.parentheticalWords, s.pauses);
 }
 
 void UtteranceSegmenter::check(std::string_view line, int lineNumber, int speakerGroup,
                                ProblemSink& sink) {
-    if (plainLineEnd(line) != 0)
-        return; // nothing in it can be faulty
     Scratch& s = *scratch_;
+    if (!s.codePointsOnly && plainLineEnd(line) != 0)
+        return; // nothing in it can be faulty
     s.clear();
-    decodeCodePoints(line, s.buf);
     Utterance out;
-    startUtterance(out, lineNumber, speakerGroup, s.buf);
-    LineCutter(line, s, out, &sink, nullptr).run();
+    cutLine(line, lineNumber, speakerGroup, s, out, &sink, nullptr);
 }
 
 Utterance segmentUtterance(std::string_view line, int lineNumber, int speakerGroup,

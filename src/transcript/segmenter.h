@@ -62,6 +62,11 @@ public:
     // makes checking a large transcript much faster.
     void check(std::string_view line, int lineNumber, int speakerGroup, ProblemSink& sink);
 
+    // Cuts every line from its decoded code points, also the all-ASCII lines
+    // that are otherwise cut straight from their bytes: for tests that compare
+    // the two ways of cutting.
+    void setCodePointsOnly(bool on);
+
     struct Scratch;
 
 private:

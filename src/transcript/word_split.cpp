@@ -14,19 +14,38 @@ namespace {
 
 // True when `bytes` is `text` written in ASCII: only then do the word's views
 // point into the bytes (a joined linked word is not a piece of its line).
-bool sameText(std::string_view bytes, std::u32string_view text) {
+template <class C> bool sameText(std::string_view bytes, std::basic_string_view<C> text) {
     if (bytes.size() != text.size())
         return false;
     for (size_t i = 0; i < text.size(); ++i)
-        if (static_cast<unsigned char>(bytes[i]) != text[i])
+        if (codePoint(bytes[i]) != codePoint(text[i]))
             return false;
     return true;
 }
 
-class WordSplitter {
+// Searches of a word's few characters: a plain loop beats a library call.
+template <class C> size_t findIn(std::basic_string_view<C> s, C c, size_t from = 0) {
+    for (size_t i = from; i < s.size(); ++i)
+        if (s[i] == c)
+            return i;
+    return std::basic_string_view<C>::npos;
+}
+
+// The first "/" or "+", the marks that begin a word's endings.
+template <class C> size_t findEndingMark(std::basic_string_view<C> s) {
+    for (size_t i = 0; i < s.size(); ++i)
+        if (s[i] == C('/') || s[i] == C('+'))
+            return i;
+    return std::basic_string_view<C>::npos;
+}
+
+// The word is cut from a line of code points (C = char32_t) or, for an all-ASCII
+// line, straight from its bytes (C = char): the same rules either way.
+template <class C> class WordSplitter {
 public:
-    WordSplitter(std::u32string_view text, bool linked, WordDraft& word, ProblemSink* sink,
-                 std::string_view bytes, std::string& spare)
+    using View = std::basic_string_view<C>;
+    WordSplitter(View text, bool linked, WordDraft& word, ProblemSink* sink, std::string_view bytes,
+                 std::string& spare)
         : w_(text), bytes_(sameText(bytes, text) ? bytes : std::string_view()), linked_(linked),
           word_(word), flags_(word.flags), sink_(sink), spare_(spare) {}
     bool run();
@@ -39,19 +58,19 @@ private:
     bool plainWord();
     void checkRootIdentification();
     void checkMarks();
-    void splitStem(std::u32string_view stem, char32_t nextMark);
-    void splitEndings(std::u32string_view rest);
-    bool legalEnding(std::u32string_view ending) const;
-    bool legalRoot(std::u32string_view root) const;
+    void splitStem(View stem, char32_t nextMark);
+    void splitEndings(View rest);
+    bool legalEnding(View ending) const;
+    bool legalRoot(View root) const;
 
     // The UTF-8 view of w_[from, to).
     std::string_view view(size_t from, size_t to) const;
-    std::string_view view(std::u32string_view part) const {
+    std::string_view view(View part) const {
         size_t from = static_cast<size_t>(part.data() - w_.data());
         return view(from, from + part.size());
     }
 
-    std::u32string_view w_;
+    View w_;
     std::string_view bytes_; // w_ as UTF-8 (all ASCII), or empty
     std::string_view text_;  // w_ as UTF-8, the word's text
     bool linked_;
@@ -62,24 +81,26 @@ private:
 };
 
 // Offset in UTF-8 bytes of w_[k].
-size_t utf8Offset(std::u32string_view w, size_t k) {
+template <class C> size_t utf8Offset(std::basic_string_view<C> w, size_t k) {
     size_t n = 0;
-    for (size_t i = 0; i < k; ++i)
-        n += w[i] < 0x80 ? 1 : w[i] < 0x800 ? 2 : w[i] < 0x10000 ? 3 : 4;
+    for (size_t i = 0; i < k; ++i) {
+        char32_t c = codePoint(w[i]);
+        n += c < 0x80 ? 1 : c < 0x800 ? 2 : c < 0x10000 ? 3 : 4;
+    }
     return n;
 }
 
-std::string_view WordSplitter::view(size_t from, size_t to) const {
+template <class C> std::string_view WordSplitter<C>::view(size_t from, size_t to) const {
     if (text_.size() == w_.size())
         return text_.substr(from, to - from);
     size_t a = utf8Offset(w_, from);
     return text_.substr(a, utf8Offset(w_, to) - a);
 }
 
-bool WordSplitter::run() {
+template <class C> bool WordSplitter<C>::run() {
     if (plainWord())
         return true;
-    if (w_.starts_with(U'+')) {
+    if (w_.starts_with(C('+'))) {
         report(Problem::UnboundCliticMark);
         w_.remove_prefix(1);
         if (!bytes_.empty())
@@ -96,17 +117,17 @@ bool WordSplitter::run() {
     word_.text = text_;
     checkRootIdentification();
     checkMarks();
-    size_t mark = w_.find_first_of(U"/+");
-    std::u32string_view stem = w_.substr(0, mark);
-    splitStem(stem, mark == std::u32string_view::npos ? 0 : w_[mark]);
-    if (mark != std::u32string_view::npos)
+    size_t mark = findEndingMark(w_);
+    View stem = w_.substr(0, mark);
+    splitStem(stem, mark == View::npos ? 0 : codePoint(w_[mark]));
+    if (mark != View::npos)
         splitEndings(w_.substr(mark));
     return true;
 }
 
 // The common case: only word characters, at least one letter or digit. Root
 // and text are the word itself; no rule can apply.
-bool WordSplitter::plainWord() {
+template <class C> bool WordSplitter<C>::plainWord() {
     if (!isPlainWord(w_))
         return false;
     if (!bytes_.empty()) {
@@ -122,18 +143,19 @@ bool WordSplitter::plainWord() {
 
 // "written|root": one "|", neither first nor last, the root of word
 // characters. A word ending in "||" is accepted as it stands.
-void WordSplitter::checkRootIdentification() {
-    size_t bar = w_.find(U'|');
-    if (bar == std::u32string_view::npos || w_.ends_with(U"||"))
+template <class C> void WordSplitter<C>::checkRootIdentification() {
+    size_t bar = findIn(w_, C('|'));
+    if (bar == View::npos ||
+        (w_.size() >= 2 && w_.ends_with(C('|')) && w_[w_.size() - 2] == C('|')))
         return;
-    bool bad = bar == 0 || w_.back() == U'|' || w_.find(U'|', bar + 1) != std::u32string_view::npos;
+    bool bad = bar == 0 || w_.back() == C('|') || findIn(w_, C('|'), bar + 1) != View::npos;
     if (!bad) {
-        std::u32string_view root = w_.substr(bar + 1);
-        root = root.substr(0, root.find_first_of(U"/+"));
-        bad = root.empty() || !std::all_of(root.begin(), root.end(), [](char32_t c) {
-                  return cls::isWordChar(c) || (c == U'%');
+        View root = w_.substr(bar + 1);
+        root = root.substr(0, findEndingMark(root));
+        bad = root.empty() || !std::all_of(root.begin(), root.end(), [](C c) {
+                  return cls::isWordChar(codePoint(c)) || (c == C('%'));
               });
-        if (!bad && root.starts_with(U'%'))
+        if (!bad && root.starts_with(C('%')))
             root.remove_prefix(1);
         word_.rootIdentification = view(root);
     }
@@ -142,17 +164,17 @@ void WordSplitter::checkRootIdentification() {
 }
 
 // "*" and "%" after the first character.
-void WordSplitter::checkMarks() {
+template <class C> void WordSplitter<C>::checkMarks() {
     for (size_t i = 1; i < w_.size(); ++i) {
-        char32_t c = w_[i];
-        char32_t before = w_[i - 1];
+        char32_t c = codePoint(w_[i]);
+        char32_t before = codePoint(w_[i - 1]);
         if (c == U'*' && before != U'/' && before != U'+') {
-            char32_t after = i + 1 < w_.size() ? w_[i + 1] : 0;
+            char32_t after = i + 1 < w_.size() ? codePoint(w_[i + 1]) : 0;
             if (after == U'/')
                 report(Problem::OmittedBoundMorphemeForm);
             else if (after == U'+')
                 report(Problem::OmittedBoundCliticForm);
-            else if (w_[0] == U'*')
+            else if (w_[0] == C('*'))
                 report(Problem::IncompleteWordStar);
             else if (after == 0)
                 flags_.incomplete = true;
@@ -162,12 +184,12 @@ void WordSplitter::checkMarks() {
     }
 }
 
-void WordSplitter::splitStem(std::u32string_view stem, char32_t nextMark) {
+template <class C> void WordSplitter<C>::splitStem(View stem, char32_t nextMark) {
     if (stem.empty()) {
         report(Problem::MissingRoot);
         return;
     }
-    if (stem.starts_with(U'*')) {
+    if (stem.starts_with(C('*'))) {
         flags_.omitted = true;
         stem.remove_prefix(1);
         if (stem.empty()) {
@@ -179,7 +201,7 @@ void WordSplitter::splitStem(std::u32string_view stem, char32_t nextMark) {
             return;
         }
     }
-    if (stem.starts_with(U'%')) {
+    if (stem.starts_with(C('%'))) {
         flags_.idiosyncratic = true;
         stem.remove_prefix(1);
         if (stem.empty()) {
@@ -187,20 +209,20 @@ void WordSplitter::splitStem(std::u32string_view stem, char32_t nextMark) {
             return;
         }
     }
-    stem = stem.substr(0, stem.find(U'|'));
-    size_t slash = stem.rfind(U'\\');
-    if (slash != std::u32string_view::npos) {
-        std::u32string_view prefixes = stem.substr(0, slash);
+    stem = stem.substr(0, findIn(stem, C('|')));
+    size_t slash = stem.rfind(C('\\'));
+    if (slash != View::npos) {
+        View prefixes = stem.substr(0, slash);
         while (true) {
-            size_t cut = prefixes.find(U'\\');
-            std::u32string_view prefix = prefixes.substr(0, cut);
+            size_t cut = findIn(prefixes, C('\\'));
+            View prefix = prefixes.substr(0, cut);
             if (prefix.empty())
                 report(Problem::MissingPrefix);
             else if (!legalEnding(prefix))
                 report(Problem::IllegalPrefix);
             else
                 word_.pieces[0].push_back(view(prefix));
-            if (cut == std::u32string_view::npos)
+            if (cut == View::npos)
                 break;
             prefixes.remove_prefix(cut + 1);
         }
@@ -208,22 +230,22 @@ void WordSplitter::splitStem(std::u32string_view stem, char32_t nextMark) {
             report(Problem::MissingRoot);
     }
     word_.root = view(stem);
-    std::u32string_view root = slash == std::u32string_view::npos ? stem : stem.substr(slash + 1);
+    View root = slash == View::npos ? stem : stem.substr(slash + 1);
     if (!root.empty() && !legalRoot(root))
         report(Problem::IllegalWord);
     flags_.unintelligible = !flags_.omitted && isUnintelligibleMark(root);
 }
 
 // Each "/" ending and "+" clitic; "/*" and "+*" mark omitted ones.
-void WordSplitter::splitEndings(std::u32string_view rest) {
+template <class C> void WordSplitter<C>::splitEndings(View rest) {
     while (!rest.empty()) {
-        char32_t mark = rest[0];
+        char32_t mark = codePoint(rest[0]);
         rest.remove_prefix(1);
-        size_t next = rest.find_first_of(U"/+");
-        std::u32string_view ending = rest.substr(0, next);
-        rest = next == std::u32string_view::npos ? std::u32string_view() : rest.substr(next);
+        size_t next = findEndingMark(rest);
+        View ending = rest.substr(0, next);
+        rest = next == View::npos ? View() : rest.substr(next);
         bool bound = mark == U'/';
-        bool omitted = ending.starts_with(U'*');
+        bool omitted = ending.starts_with(C('*'));
         if (omitted)
             ending.remove_prefix(1);
         if (ending.empty()) {
@@ -249,9 +271,10 @@ void WordSplitter::splitEndings(std::u32string_view rest) {
 }
 
 // Endings and prefixes: word characters with at least one letter or digit.
-bool WordSplitter::legalEnding(std::u32string_view ending) const {
+template <class C> bool WordSplitter<C>::legalEnding(View ending) const {
     bool alnum = false;
-    for (char32_t c : ending) {
+    for (C ch : ending) {
+        char32_t c = codePoint(ch);
         if (!cls::isWordChar(c) && !cls::isAmpersandOrHash(c))
             return false;
         alnum = alnum || cls::isAlnum(c);
@@ -261,10 +284,10 @@ bool WordSplitter::legalEnding(std::u32string_view ending) const {
 
 // A root: at least one letter or digit; word characters, "&" and "#", "_" in a
 // linked word, "%" (reported on its own) and a final "*" (a part word).
-bool WordSplitter::legalRoot(std::u32string_view root) const {
+template <class C> bool WordSplitter<C>::legalRoot(View root) const {
     bool alnum = false;
     for (size_t i = 0; i < root.size(); ++i) {
-        char32_t c = root[i];
+        char32_t c = codePoint(root[i]);
         alnum = alnum || cls::isAlnum(c);
         if (cls::isWordChar(c) || cls::isAmpersandOrHash(c) || c == U'%' ||
             (c == U'_' && linked_) || (c == U'*' && i + 1 == root.size()))
@@ -278,9 +301,10 @@ bool WordSplitter::legalRoot(std::u32string_view root) const {
 
 } // namespace
 
-bool isPlainWord(std::u32string_view text) {
+template <class C> bool isPlainWord(std::basic_string_view<C> text) {
     bool alnum = false;
-    for (char32_t c : text) {
+    for (C ch : text) {
+        char32_t c = codePoint(ch);
         if (!cls::isWordChar(c))
             return false;
         alnum = alnum || cls::isAlnum(c);
@@ -288,23 +312,27 @@ bool isPlainWord(std::u32string_view text) {
     return alnum;
 }
 
-bool isUnintelligibleMark(std::u32string_view root) {
+template <class C> bool isUnintelligibleMark(std::basic_string_view<C> root) {
     if (root.empty() || root.size() > 3)
         return false;
-    return std::all_of(root.begin(), root.end(), [](char32_t c) { return c == U'x' || c == U'X'; });
+    return std::all_of(root.begin(), root.end(), [](C c) { return c == C('x') || c == C('X'); });
 }
 
-bool splitWord(std::u32string_view text, bool linked, WordDraft& word, ProblemSink* sink,
+template <class C>
+bool splitWord(std::basic_string_view<C> text, bool linked, WordDraft& word, ProblemSink* sink,
                std::string_view bytes, std::string& spare) {
-    return WordSplitter(text, linked, word, sink, bytes, spare).run();
+    return WordSplitter<C>(text, linked, word, sink, bytes, spare).run();
 }
 
-void splitRemarkWords(std::u32string_view inner, TranscriptStore& store, std::vector<Word>& out) {
+template <class C>
+void splitRemarkWords(std::basic_string_view<C> inner, TranscriptStore& store,
+                      std::vector<Word>& out) {
     WordDraft draft;
     std::string spare;
     size_t i = 0;
     while (i < inner.size()) {
-        auto isBreak = [](char32_t c) {
+        auto isBreak = [](C ch) {
+            char32_t c = codePoint(ch);
             return cls::isSeparator(c) || cls::isBracket(c) || cls::isTerminator(c);
         };
         while (i < inner.size() && isBreak(inner[i]))
@@ -321,5 +349,17 @@ void splitRemarkWords(std::u32string_view inner, TranscriptStore& store, std::ve
         }
     }
 }
+
+template bool isPlainWord(std::basic_string_view<char>);
+template bool isUnintelligibleMark(std::basic_string_view<char>);
+template bool splitWord(std::basic_string_view<char>, bool, WordDraft&, ProblemSink*,
+                        std::string_view, std::string&);
+template void splitRemarkWords(std::basic_string_view<char>, TranscriptStore&, std::vector<Word>&);
+template bool isPlainWord(std::basic_string_view<char32_t>);
+template bool isUnintelligibleMark(std::basic_string_view<char32_t>);
+template bool splitWord(std::basic_string_view<char32_t>, bool, WordDraft&, ProblemSink*,
+                        std::string_view, std::string&);
+template void splitRemarkWords(std::basic_string_view<char32_t>, TranscriptStore&,
+                               std::vector<Word>&);
 
 } // namespace tavi

@@ -13,22 +13,28 @@
 
 namespace tavi {
 
+// Each function takes its text as code points (C = char32_t) or, when the line
+// is all ASCII, as its bytes (C = char).
+
 // Splits `text` (a word or joined linked word, without blanks) into `word`,
 // whose views point into `bytes` when it holds the same word as UTF-8, else
 // into `spare` (overwritten). False when nothing of it is a word (a lone "+").
-bool splitWord(std::u32string_view text, bool linked, WordDraft& word, ProblemSink* sink,
+template <class C>
+bool splitWord(std::basic_string_view<C> text, bool linked, WordDraft& word, ProblemSink* sink,
                std::string_view bytes, std::string& spare);
 
 // Only the checks of splitWord, for a plain word without filling the record.
 // True when the word is plain (only word characters, a letter or digit):
 // such a word has no problem, and the full split can be skipped.
-bool isPlainWord(std::u32string_view text);
+template <class C> bool isPlainWord(std::basic_string_view<C> text);
 
 // The words of a parenthetical remark's inner text, flagged inParenthetical,
 // kept in `store` and appended to `out`.
-void splitRemarkWords(std::u32string_view inner, TranscriptStore& store, std::vector<Word>& out);
+template <class C>
+void splitRemarkWords(std::basic_string_view<C> inner, TranscriptStore& store,
+                      std::vector<Word>& out);
 
 // True for "X", "XX" and "XXX" in any case: an unintelligible mark.
-bool isUnintelligibleMark(std::u32string_view root);
+template <class C> bool isUnintelligibleMark(std::basic_string_view<C> root);
 
 } // namespace tavi

@@ -1,0 +1,172 @@
+// An all-ASCII line is cut straight from its bytes, every other line from its
+// decoded code points. Lines made up and mutated from the notation's
+// characters must give the same problems and the same record either way.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "transcript/segmenter.h"
+
+namespace tavi {
+namespace {
+
+struct Collected : ProblemSink {
+    std::string text;
+    void problem(Problem id, std::string message) override {
+        text += "problem " + std::to_string(static_cast<int>(id)) + " " + message + "\n";
+    }
+    void pause(const Pause& p) override {
+        text += "pause " + std::to_string(p.timed) + " " + std::to_string(p.seconds) + "\n";
+    }
+};
+
+void describeWord(std::string& out, const Word& w) {
+    out += "word [" + std::string(w.text()) + "] root [" + std::string(w.root()) + "]";
+    for (auto kind : {w.prefixes(), w.boundMorphemes(), w.omittedBoundMorphemes(), w.clitics(),
+                      w.omittedClitics()}) {
+        out += " |";
+        for (std::string_view piece : kind)
+            out += " " + std::string(piece);
+    }
+    out += " id [" + std::string(w.rootIdentification()) + "] flags ";
+    for (bool flag :
+         {bool(w.omitted), bool(w.omittedBoundMorpheme), bool(w.omittedClitic),
+          bool(w.idiosyncratic), bool(w.inMaze), bool(w.inParenthetical), bool(w.inOverlap),
+          bool(w.linked), bool(w.unintelligible), bool(w.incomplete)})
+        out += flag ? '1' : '0';
+    out += w.parts() ? " parted\n" : " plain\n";
+}
+
+// Everything the record holds, written out.
+std::string describe(const Utterance& u) {
+    std::string out = "speaker " + std::to_string(u.speakerId) + " group " +
+                      std::to_string(u.speakerGroup) + " line " + std::to_string(u.line) +
+                      " terminator " + std::to_string(static_cast<int>(u.terminator)) + " " +
+                      std::to_string(u.terminatorChar()) + " intelligibility " +
+                      std::to_string(static_cast<int>(u.intelligibility)) + " flags " +
+                      std::to_string(u.hasComment) + std::to_string(u.hasQuotation) +
+                      std::to_string(u.hasOverlap) + std::to_string(u.hasTerminator) +
+                      std::to_string(u.nonverbal) + std::to_string(u.arabicQuestionMark) + "\n";
+    for (const Word& w : u.words)
+        describeWord(out, w);
+    for (const Code& c : u.codes())
+        out += "code [" + std::string(c.text) + "] " + std::to_string(c.word) + " " +
+               std::to_string(c.precedingWord) + "\n";
+    for (const Maze& m : u.mazes()) {
+        out += "maze";
+        for (int w : m.words)
+            out += " " + std::to_string(w);
+        out += "\n";
+    }
+    for (std::string_view remark : u.parentheticals())
+        out += "remark [" + std::string(remark) + "]\n";
+    for (const Word& w : u.parentheticalWords())
+        describeWord(out, w);
+    for (const Pause& p : u.pauses())
+        out += "pause " + std::to_string(p.timed) + " " + std::to_string(p.seconds) + "\n";
+    return out;
+}
+
+// Cuts `line` with the problems reported, and checks it, the way given.
+std::string cutBy(UtteranceSegmenter& segmenter, const std::string& line) {
+    TranscriptStore store;
+    std::string_view kept = store.keepText(line);
+    Collected cut, checked;
+    Utterance u;
+    segmenter.segment(kept, 3, 1, store, u, &cut);
+    segmenter.check(kept, 3, 1, checked);
+    EXPECT_EQ(cut.text, checked.text) << line;
+    return cut.text + describe(u);
+}
+
+// Pieces of the notation, right and wrong, to build lines from.
+const std::vector<std::string> kPieces = {"go",          "dog/s",
+                                          "ran/*ed",     "he+'s",
+                                          "she+*s",      "*the",
+                                          "%goed",       "un\\tie",
+                                          "x",           "XX",
+                                          "xxxx",        "went|go",
+                                          "a|b|c",       "ice_",
+                                          "_cream",      "_",
+                                          "a_b",         "[EW:x]",
+                                          "[EU]",        "[E W]",
+                                          "[@]",         "{laughs}",
+                                          "((hmm, ok))", "((a (b) c))",
+                                          "(um)",        "(",
+                                          ")",           "((",
+                                          "))",          "<",
+                                          ">",           "<the>",
+                                          ":05",         ":",
+                                          "1:30",        "2::3",
+                                          ":0",          "\"hi\"",
+                                          ",",           ".",
+                                          "?",           "!",
+                                          "~",           "^",
+                                          "=",           "@",
+                                          "$",           ";",
+                                          "-",           "&",
+                                          "#",           "\\",
+                                          "/",           "+",
+                                          "*",           "%",
+                                          "|",           "ba*",
+                                          "'s",          "go[EW:x]ing",
+                                          "+s",          "dog/",
+                                          "*/s",         "%",
+                                          "\t",          "  ",
+                                          "\x01",        "\x1C",
+                                          "\x7F",        "\xC3\xA9t\xC3\xA9",
+                                          "\xC2\xBF",    "\xE2\x80\x9Cyes\xE2\x80\x9D",
+                                          "\xD8\x9F",    "\xC2\x85"};
+
+// Single characters to mutate lines with.
+const std::string kCharacters = "aZ9'x_/+*%|\\[]{}()<>:.!?~^=;-$@&#,\" \t\x01\x7F";
+
+std::string makeLine(std::mt19937& rng) {
+    std::string line(1, "CEcx+ ;("[rng() % 8]);
+    if (rng() % 10 != 0)
+        line += ' ';
+    for (int k = 0, n = static_cast<int>(rng() % 10); k < n; ++k) {
+        line += kPieces[rng() % kPieces.size()];
+        if (rng() % 4 != 0)
+            line += ' ';
+    }
+    if (rng() % 8 != 0)
+        line += ".!?~^>"[rng() % 6];
+    if (rng() % 8 == 0)
+        line += " go.";
+    for (int k = 0, n = static_cast<int>(rng() % 4); k < n && !line.empty(); ++k) {
+        size_t at = rng() % line.size();
+        switch (rng() % 3) {
+        case 0:
+            line.insert(at, 1, kCharacters[rng() % kCharacters.size()]);
+            break;
+        case 1:
+            line.erase(at, 1);
+            break;
+        default:
+            line[at] = kCharacters[rng() % kCharacters.size()];
+            break;
+        }
+    }
+    return line;
+}
+
+TEST(CuttingPaths, BytesAndCodePointsAgree) {
+    UtteranceSegmenter bytes, codePoints;
+    codePoints.setCodePointsOnly(true);
+    std::mt19937 rng(11);
+    int ascii = 0;
+    for (int n = 0; n < 20000; ++n) {
+        std::string line = makeLine(rng);
+        ascii += std::all_of(line.begin(), line.end(),
+                             [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+        ASSERT_EQ(cutBy(bytes, line), cutBy(codePoints, line)) << line;
+    }
+    EXPECT_GT(ascii, 5000); // most lines do take the byte path
+}
+
+} // namespace
+} // namespace tavi
