@@ -119,19 +119,19 @@ double medianOfCounts(const std::vector<int>& counts) {
     return n % 2 ? nth(n / 2) : (nth(n / 2 - 1) + nth(n / 2)) / 2.0;
 }
 
+// A turn: the speaker's utterances with no other utterance of the cut
+// between them. The utterances of the cut are numbered without a gap (they
+// are numbered in the order of the transcript's entries), so the speaker's
+// utterance `i` goes on a turn when the speaker's one before it is `i - 1`.
 void fillTurns(const SpeakerView& v, SpeakerMeasures& m) {
     std::vector<int> utts, words;
-    bool inTurn = false;
-    for (int i : v.c.selection.utterances) {
-        if (v.utt(i).speakerGroup != v.speaker) {
-            inTurn = false;
-            continue;
-        }
-        if (!inTurn) {
+    int previous = -2;
+    for (int i : v.total) {
+        if (i != previous + 1) {
             utts.push_back(0);
             words.push_back(0);
-            inTurn = true;
         }
+        previous = i;
         utts.back() += 1;
         words.back() += v.facts(i).wordCount;
     }

@@ -34,16 +34,17 @@ std::vector<int> rootIdsOf(const SpeakerView& v, const std::vector<int>& utts) {
 }
 
 void fillMlu(const SpeakerView& v, SpeakerMeasures& m) {
-    auto sums = [&](const std::vector<int>& utts) {
-        std::pair<int, int> s{0, 0};
-        for (int i : utts) {
-            s.first += v.facts(i).wordCount;
-            s.second += v.facts(i).morphemes;
-        }
-        return s;
-    };
-    auto [aWords, aMorphs] = sums(v.analysisSet);
-    auto [tWords, tMorphs] = sums(v.total);
+    int aWords = 0, aMorphs = 0, tWords = 0, tMorphs = 0, all = 0;
+    for (int i : v.analysisSet) {
+        aWords += v.facts(i).wordCount;
+        aMorphs += v.facts(i).morphemes;
+    }
+    for (int i : v.total) {
+        const UtteranceFacts& f = v.facts(i);
+        tWords += f.wordCount;
+        tMorphs += f.morphemes;
+        all += f.wordCount + f.mazeWords;
+    }
     const double aset = static_cast<double>(v.analysisSet.size());
     m[Id::MLUw] = Value::ratio(aWords, aset);
     m[Id::MLUm] = Value::ratio(aMorphs, aset);
@@ -53,9 +54,6 @@ void fillMlu(const SpeakerView& v, SpeakerMeasures& m) {
         m[Id::BrownStg] = brownStage(m[Id::MLUm].asReal());
         m[Id::ExpAgeRange] = expectedAgeRange(m[Id::MLUm].asReal());
     }
-    int all = 0;
-    for (int i : v.total)
-        all += v.facts(i).wordCount + v.facts(i).mazeWords;
     m[Id::AllWords] = Value::count(all);
 }
 

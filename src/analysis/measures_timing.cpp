@@ -44,8 +44,12 @@ PauseSums betweenPauses(const SpeakerView& v) {
 void fillTimingAndPauses(const SpeakerView& v, SpeakerMeasures& m) {
     const std::optional<int> elapsed = v.c.selection.elapsedSeconds;
     int words = 0;
-    for (int i : v.total)
+    PauseSums within;
+    for (int i : v.total) {
         words += v.facts(i).wordCount;
+        for (const Pause& p : v.utt(i).pauses())
+            within.add(p.timed, p.seconds);
+    }
     if (elapsed) {
         const double minutes = *elapsed / 60.0;
         m[Id::TimeSec] = Value::count(*elapsed);
@@ -56,10 +60,6 @@ void fillTimingAndPauses(const SpeakerView& v, SpeakerMeasures& m) {
     }
     m.timingMissing = !elapsed;
 
-    PauseSums within;
-    for (int i : v.total)
-        for (const Pause& p : v.utt(i).pauses())
-            within.add(p.timed, p.seconds);
     PauseSums between = betweenPauses(v);
     m[Id::NumPauseWiUt] = Value::count(within.count);
     m[Id::NumPauseBtUt] = Value::count(between.count);
