@@ -269,8 +269,14 @@ void fillCategoriesAndVerbs(const SpeakerView& v, SpeakerMeasures& m) {
     std::vector<std::uint32_t> counted(roots, 0);
     std::vector<std::optional<std::vector<int>>> entries(roots);
     // Per spelling: its categories (the root's entry, else the guess from the
-    // root and the spelling's endings), worked out once.
-    std::vector<std::optional<std::vector<int>>> bySpelling(v.c.tables.spellingList.size());
+    // root and the spelling's endings), worked out once and kept in one run.
+    struct SpellingCategories {
+        std::uint32_t from = 0, count = 0; // in `runs`
+        bool looked = false;
+        bool verb = false; // the first category is a verb's
+    };
+    std::vector<SpellingCategories> bySpelling(v.c.tables.spellingList.size());
+    std::vector<int> runs;
     for (int i : v.analysisSet) {
         int here = 0;
         for (const CountedWord& w : v.words(i)) {
@@ -279,8 +285,8 @@ void fillCategoriesAndVerbs(const SpeakerView& v, SpeakerMeasures& m) {
             if (t.skipped)
                 continue;
             const int id = spelling.root;
-            std::optional<std::vector<int>>& known = bySpelling[w.spelling];
-            if (!known) {
+            SpellingCategories& known = bySpelling[w.spelling];
+            if (!known.looked) {
                 if (!entries[id]) {
                     entries[id] = dictionaryCategories(spelling.word->root(), *dictionary);
                     // A verb of the verb file that the dictionary lacks.
@@ -288,12 +294,17 @@ void fillCategoriesAndVerbs(const SpeakerView& v, SpeakerMeasures& m) {
                         verbFile->contains(v.c.tables.roots.name(id)))
                         entries[id] = std::vector<int>{GcVerb};
                 }
-                known = entries[id]->empty()
-                            ? guessCategories(v.c.tables.roots.name(id), t.endingGroups)
-                            : *entries[id];
+                const std::vector<int> cats =
+                    entries[id]->empty()
+                        ? guessCategories(v.c.tables.roots.name(id), t.endingGroups)
+                        : *entries[id];
+                known = {static_cast<std::uint32_t>(runs.size()),
+                         static_cast<std::uint32_t>(cats.size()), true,
+                         !cats.empty() && isVerbCategory(cats.front())};
+                runs.insert(runs.end(), cats.begin(), cats.end());
             }
-            const std::vector<int>& cats = *known;
-            for (int c : cats) {
+            for (std::uint32_t k = known.from; k < known.from + known.count; ++k) {
+                const int c = runs[k];
                 WordCount& count = m.categories[c];
                 ++count.total;
                 if (!(counted[id] & (1u << c))) {
@@ -302,7 +313,7 @@ void fillCategoriesAndVerbs(const SpeakerView& v, SpeakerMeasures& m) {
                     count.words.push_back(v.c.tables.roots.name(id));
                 }
             }
-            here += (!cats.empty() && isVerbCategory(cats.front()) ? 1 : 0) + t.contractedVerbs;
+            here += (known.verb ? 1 : 0) + t.contractedVerbs;
         }
         verbs += here;
         uttsWithVerb += here > 0 ? 1 : 0;
