@@ -58,14 +58,6 @@ struct SpeakerView {
     const SpellingFacts& spelling(const CountedWord& w) const { return c.tables.spelling(w); }
     // The counted main-body words of utterance `i`.
     std::span<const CountedWord> words(int i) const { return c.facts[i].words(c.tables); }
-    // The root numbers of utterance `i`: its counted words', then its counted
-    // parenthetical words'.
-    template <class F> void forEachRoot(int i, F&& f) const {
-        for (const CountedWord& w : words(i))
-            f(c.tables.spelling(w).root);
-        for (int id : c.facts[i].remarkRoots(c.tables))
-            f(id);
-    }
     const ResponseType& response(int i) const { return c.selection.responses[i]; }
     template <class Pred> int countIf(const std::vector<int>& utts, Pred&& pred) const {
         int n = 0;
