@@ -70,6 +70,8 @@ void fillMacroAnalysis(const SpeakerView& v, SpeakerMeasures& m) {
     }
     SiSummary& si = m.si;
     for (int i : v.analysisSet) {
+        if (v.utt(i).codes().empty())
+            continue; // no clause count, none awaiting review
         std::optional<int> n = siClauseCount(v.utt(i), o.siCodePrefix);
         if (!n) {
             for (const Code& c : v.utt(i).codes())

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <vector>
 
 #include "analysis/measures.h"
@@ -18,6 +19,20 @@ struct MentionedFirst {
     int different = 0;
 };
 
+// Pauses of one main speaker. Times are summed in 64 bits: a single pause
+// may be written as 10^9 seconds.
+struct PauseSums {
+    int count = 0, timed = 0;
+    std::int64_t seconds = 0;
+    void add(bool isTimed, int secs) {
+        ++count;
+        if (isTimed) {
+            ++timed;
+            seconds += secs;
+        }
+    }
+};
+
 struct MeasureContext {
     const SegmentedTranscript& t;
     const MeasureOptions& options;
@@ -26,6 +41,7 @@ struct MeasureContext {
     CodeMatchers codes;
     FactTables tables;                              // the facts' words, roots, forms and endings
     std::array<MentionedFirst, 2> mentionedFirst{}; // by main speaker
+    std::array<PauseSums, 2> pausesBetween{}; // pause lines before each main speaker's utterances
     const RootIds& rootIds() const { return tables.roots; }
 };
 
@@ -42,14 +58,6 @@ struct SpeakerView {
     const SpellingFacts& spelling(const CountedWord& w) const { return c.tables.spelling(w); }
     // The counted main-body words of utterance `i`.
     std::span<const CountedWord> words(int i) const { return c.facts[i].words(c.tables); }
-    // The root numbers of utterance `i`: its counted words', then its counted
-    // parenthetical words'.
-    template <class F> void forEachRoot(int i, F&& f) const {
-        for (const CountedWord& w : words(i))
-            f(c.tables.spelling(w).root);
-        for (int id : c.facts[i].remarkRoots(c.tables))
-            f(id);
-    }
     const ResponseType& response(int i) const { return c.selection.responses[i]; }
     template <class Pred> int countIf(const std::vector<int>& utts, Pred&& pred) const {
         int n = 0;
@@ -61,6 +69,8 @@ struct SpeakerView {
 
 // Fills MeasureContext::mentionedFirst, once for both speakers.
 void countMentionedFirst(MeasureContext& c);
+// Fills MeasureContext::pausesBetween, once for both speakers.
+void countPausesBetween(MeasureContext& c);
 
 void fillUtteranceKinds(const SpeakerView& v, SpeakerMeasures& m);
 void fillLengthAndVocabulary(const SpeakerView& v, SpeakerMeasures& m);

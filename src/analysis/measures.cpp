@@ -83,6 +83,7 @@ MeasureResult computeMeasures(const SegmentedTranscript& transcript, const Measu
     for (int i : result.selection.utterances)
         c.facts[i] = gatherFacts(transcript.utterances[i], options.wordBase, c.codes, c.tables);
     countMentionedFirst(c);
+    countPausesBetween(c);
 
     for (int s = 0; s < 2; ++s) {
         SpeakerMeasures& m = result.speakers[s];

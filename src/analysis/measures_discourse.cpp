@@ -12,98 +12,126 @@ namespace {
 
 using Id = MeasureId;
 
-void fillResponses(const SpeakerView& v, SpeakerMeasures& m) {
-    const auto& T = v.total;
-    auto count = [&](auto pred) {
-        return v.countIf(T, [&](int i) { return pred(v.response(i), v.utt(i)); });
-    };
-    using R = const ResponseType&;
-    using U = const Utterance&;
-    const int q = count([](R r, U) { return r.question; });
-    const int yn = count([](R r, U) { return r.yesNo; });
-    const int clar =
-        count([](R r, U u) { return r.question && u.terminator == Terminator::Question; });
-    const int other = count(
-        [](R r, U u) { return r.question && !r.yesNo && u.terminator != Terminator::Question; });
-    const int p = count([](R r, U) { return r.prompt; });
-    m[Id::RespToQues] = Value::count(q);
-    m[Id::YNRespToQues] = Value::count(yn);
-    m[Id::ReqClarRespToQues] = Value::count(clar);
-    m[Id::OthRespToQues] = Value::count(other);
-    m[Id::RespToIntPrmpt] = Value::count(p);
-    m[Id::Imitations] = Value::count(count([](R r, U) { return r.imitation; }));
-    m[Id::ExactImit] = Value::count(count([](R r, U) { return r.exactImitation; }));
-    m[Id::ReducedImit] = Value::count(count([](R r, U) { return r.reducedImitation; }));
-    m[Id::OneWdUt] = Value::count(count([](R r, U) { return r.oneWord; }));
+// What the response, spontaneity and overlap measures count over one
+// speaker's utterances, gathered in one walk.
+struct DiscourseCounts {
+    int question = 0, yesNo = 0, clarification = 0, otherAnswer = 0, prompt = 0;
+    int imitation = 0, exact = 0, reduced = 0, oneWord = 0;
+    int spontaneous = 0;
+    std::array<int, 6> spontaneousBy{}; // spontaneous utterances by terminator
+    int overlap = 0, interrupts = 0;
 
-    const auto& others = v.c.selection.speakers[1 - v.speaker].total;
-    auto otherEnding = [&](Terminator t) {
-        return v.countIf(others, [&](int i) { return v.utt(i).terminator == t; });
-    };
-    const int otherQ = otherEnding(Terminator::Question), otherP = otherEnding(Terminator::Prompt);
+    void add(const SpeakerView& v, int i) {
+        const ResponseType& r = v.response(i);
+        const Terminator term = v.utt(i).terminator;
+        question += r.question ? 1 : 0;
+        yesNo += r.yesNo ? 1 : 0;
+        clarification += r.question && term == Terminator::Question ? 1 : 0;
+        otherAnswer += r.question && !r.yesNo && term != Terminator::Question ? 1 : 0;
+        prompt += r.prompt ? 1 : 0;
+        imitation += r.imitation ? 1 : 0;
+        exact += r.exactImitation ? 1 : 0;
+        reduced += r.reducedImitation ? 1 : 0;
+        oneWord += r.oneWord ? 1 : 0;
+        if (!r.question && !r.prompt && !r.imitation) {
+            ++spontaneous;
+            if (static_cast<size_t>(term) < spontaneousBy.size())
+                ++spontaneousBy[static_cast<size_t>(term)];
+        }
+        overlap += v.facts(i).overlap ? 1 : 0;
+        if (i > 0) {
+            const Utterance& prev = v.utt(i - 1);
+            interrupts +=
+                prev.speakerGroup == 1 - v.speaker && prev.terminator == Terminator::Interrupted
+                    ? 1
+                    : 0;
+        }
+    }
+};
+
+void fillResponses(const SpeakerView& v, const DiscourseCounts& d, SpeakerMeasures& m) {
+    m[Id::RespToQues] = Value::count(d.question);
+    m[Id::YNRespToQues] = Value::count(d.yesNo);
+    m[Id::ReqClarRespToQues] = Value::count(d.clarification);
+    m[Id::OthRespToQues] = Value::count(d.otherAnswer);
+    m[Id::RespToIntPrmpt] = Value::count(d.prompt);
+    m[Id::Imitations] = Value::count(d.imitation);
+    m[Id::ExactImit] = Value::count(d.exact);
+    m[Id::ReducedImit] = Value::count(d.reduced);
+    m[Id::OneWdUt] = Value::count(d.oneWord);
+
+    int otherQ = 0, otherP = 0;
+    for (int i : v.c.selection.speakers[1 - v.speaker].total) {
+        const Terminator t = v.utt(i).terminator;
+        otherQ += t == Terminator::Question ? 1 : 0;
+        otherP += t == Terminator::Prompt ? 1 : 0;
+    }
     m[Id::OtherSpkQues] = Value::count(otherQ);
     m[Id::OtherSpkIntPrmpt] = Value::count(otherP);
-    m[Id::PctRespQues] = m[Id::PctRespToQues] = Value::ratio(q, otherQ, 100);
-    m[Id::PctRespPrmpt] = m[Id::PctRespToIntPrmpt] = Value::ratio(p, otherP, 100);
+    m[Id::PctRespQues] = m[Id::PctRespToQues] = Value::ratio(d.question, otherQ, 100);
+    m[Id::PctRespPrmpt] = m[Id::PctRespToIntPrmpt] = Value::ratio(d.prompt, otherP, 100);
 }
 
-void fillSpontaneous(const SpeakerView& v, SpeakerMeasures& m) {
-    auto spon = [&](int i) {
-        const ResponseType& r = v.response(i);
-        return !r.question && !r.prompt && !r.imitation;
-    };
-    std::array<int, 6> byTerminator{}; // spontaneous utterances by terminator
-    int spontaneous = 0;
-    for (int i : v.total)
-        if (spon(i)) {
-            ++spontaneous;
-            const auto term = static_cast<size_t>(v.utt(i).terminator);
-            if (term < byTerminator.size())
-                ++byTerminator[term];
-        }
-    m[Id::SponUt] = Value::count(spontaneous);
+void fillSpontaneous(const DiscourseCounts& d, SpeakerMeasures& m) {
+    m[Id::SponUt] = Value::count(d.spontaneous);
     const std::pair<Id, Terminator> rows[] = {
         {Id::SponStmt, Terminator::Statement}, {Id::SponExcl, Terminator::Exclamation},
         {Id::SponQues, Terminator::Question},  {Id::SponIntPrmpt, Terminator::Prompt},
         {Id::SponAban, Terminator::Abandoned}, {Id::SponInter, Terminator::Interrupted}};
     for (const auto& [id, terminator] : rows)
-        m[id] = Value::count(byTerminator[static_cast<size_t>(terminator)]);
+        m[id] = Value::count(d.spontaneousBy[static_cast<size_t>(terminator)]);
 }
 
-void fillOverlapsAndInterruptions(const SpeakerView& v, SpeakerMeasures& m) {
+void fillOverlapsAndInterruptions(const SpeakerView& v, const DiscourseCounts& d,
+                                  SpeakerMeasures& m) {
     const int total = static_cast<int>(v.total.size());
-    const int overlap = v.countIf(v.total, [&](int i) { return v.facts(i).overlap; });
-    const int interrupts = v.countIf(v.total, [&](int i) {
-        if (i == 0)
-            return false;
-        const Utterance& prev = v.utt(i - 1);
-        return prev.speakerGroup == 1 - v.speaker && prev.terminator == Terminator::Interrupted;
-    });
-    m[Id::UtWOverlap] = Value::count(overlap);
-    m[Id::PctUtWOverlap] = Value::ratio(overlap, total, 100);
-    m[Id::IntrOthSpk] = Value::count(interrupts);
-    m[Id::PctIntrOthSpk] = Value::ratio(interrupts, total, 100);
+    m[Id::UtWOverlap] = Value::count(d.overlap);
+    m[Id::PctUtWOverlap] = Value::ratio(d.overlap, total, 100);
+    m[Id::IntrOthSpk] = Value::count(d.interrupts);
+    m[Id::PctIntrOthSpk] = Value::ratio(d.interrupts, total, 100);
 }
 
-double median(std::vector<int> values) {
-    std::sort(values.begin(), values.end());
-    size_t n = values.size();
-    return n % 2 ? values[n / 2] : (values[n / 2 - 1] + values[n / 2]) / 2.0;
+// The median of non-negative counts, the value a sort would give: found by
+// counting them when they are small, else by partial ordering.
+double medianOfCounts(const std::vector<int>& counts) {
+    const size_t n = counts.size();
+    const int top = *std::max_element(counts.begin(), counts.end());
+    if (top > 65536 || *std::min_element(counts.begin(), counts.end()) < 0) {
+        std::vector<int> values = counts;
+        std::nth_element(values.begin(), values.begin() + n / 2, values.end());
+        const int upper = values[n / 2];
+        if (n % 2)
+            return upper;
+        const int lower = *std::max_element(values.begin(), values.begin() + n / 2);
+        return (lower + upper) / 2.0;
+    }
+    std::vector<int> tally(static_cast<size_t>(top) + 1, 0);
+    for (int x : counts)
+        ++tally[static_cast<size_t>(x)];
+    // The k-th smallest value, from 0.
+    auto nth = [&](size_t k) {
+        size_t seen = 0;
+        int x = 0;
+        for (; seen + static_cast<size_t>(tally[x]) <= k; ++x)
+            seen += static_cast<size_t>(tally[x]);
+        return x;
+    };
+    return n % 2 ? nth(n / 2) : (nth(n / 2 - 1) + nth(n / 2)) / 2.0;
 }
 
+// A turn: the speaker's utterances with no other utterance of the cut
+// between them. The utterances of the cut are numbered without a gap (they
+// are numbered in the order of the transcript's entries), so the speaker's
+// utterance `i` goes on a turn when the speaker's one before it is `i - 1`.
 void fillTurns(const SpeakerView& v, SpeakerMeasures& m) {
     std::vector<int> utts, words;
-    bool inTurn = false;
-    for (int i : v.c.selection.utterances) {
-        if (v.utt(i).speakerGroup != v.speaker) {
-            inTurn = false;
-            continue;
-        }
-        if (!inTurn) {
+    int previous = -2;
+    for (int i : v.total) {
+        if (i != previous + 1) {
             utts.push_back(0);
             words.push_back(0);
-            inTurn = true;
         }
+        previous = i;
         utts.back() += 1;
         words.back() += v.facts(i).wordCount;
     }
@@ -120,8 +148,8 @@ void fillTurns(const SpeakerView& v, SpeakerMeasures& m) {
     m[Id::MeanTurnUt] = Value::ratio(static_cast<double>(uttSum), turns);
     m[Id::MeanTurnWd] = Value::ratio(static_cast<double>(wordSum), turns);
     if (!utts.empty()) {
-        m[Id::MedTurnUt] = Value::real(median(utts));
-        m[Id::MedTurnWd] = Value::real(median(words));
+        m[Id::MedTurnUt] = Value::real(medianOfCounts(utts));
+        m[Id::MedTurnWd] = Value::real(medianOfCounts(words));
     }
     for (int k = 1; k <= 6; ++k)
         m[*measureIdByName(format("TurnByTLUt%d", k))] = Value::count(byUtts[k]);
@@ -134,9 +162,12 @@ void fillTurns(const SpeakerView& v, SpeakerMeasures& m) {
 } // namespace
 
 void fillDiscourse(const SpeakerView& v, SpeakerMeasures& m) {
-    fillResponses(v, m);
-    fillSpontaneous(v, m);
-    fillOverlapsAndInterruptions(v, m);
+    DiscourseCounts d;
+    for (int i : v.total)
+        d.add(v, i);
+    fillResponses(v, d, m);
+    fillSpontaneous(d, m);
+    fillOverlapsAndInterruptions(v, d, m);
     fillTurns(v, m);
 }
 

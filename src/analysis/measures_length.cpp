@@ -21,29 +21,18 @@ namespace {
 
 using Id = MeasureId;
 
-// Root numbers of the counted words of some utterances, in order.
-std::vector<int> rootIdsOf(const SpeakerView& v, const std::vector<int>& utts) {
-    std::vector<int> ids;
-    size_t count = 0; // room for exactly these: a run that doubles as it grows needs thrice
-    for (int i : utts)
-        count += static_cast<size_t>(v.facts(i).wordCount);
-    ids.reserve(count);
-    for (int i : utts)
-        v.forEachRoot(i, [&](int id) { ids.push_back(id); });
-    return ids;
-}
-
 void fillMlu(const SpeakerView& v, SpeakerMeasures& m) {
-    auto sums = [&](const std::vector<int>& utts) {
-        std::pair<int, int> s{0, 0};
-        for (int i : utts) {
-            s.first += v.facts(i).wordCount;
-            s.second += v.facts(i).morphemes;
-        }
-        return s;
-    };
-    auto [aWords, aMorphs] = sums(v.analysisSet);
-    auto [tWords, tMorphs] = sums(v.total);
+    int aWords = 0, aMorphs = 0, tWords = 0, tMorphs = 0, all = 0;
+    for (int i : v.analysisSet) {
+        aWords += v.facts(i).wordCount;
+        aMorphs += v.facts(i).morphemes;
+    }
+    for (int i : v.total) {
+        const UtteranceFacts& f = v.facts(i);
+        tWords += f.wordCount;
+        tMorphs += f.morphemes;
+        all += f.wordCount + f.mazeWords;
+    }
     const double aset = static_cast<double>(v.analysisSet.size());
     m[Id::MLUw] = Value::ratio(aWords, aset);
     m[Id::MLUm] = Value::ratio(aMorphs, aset);
@@ -53,50 +42,58 @@ void fillMlu(const SpeakerView& v, SpeakerMeasures& m) {
         m[Id::BrownStg] = brownStage(m[Id::MLUm].asReal());
         m[Id::ExpAgeRange] = expectedAgeRange(m[Id::MLUm].asReal());
     }
-    int all = 0;
-    for (int i : v.total)
-        all += v.facts(i).wordCount + v.facts(i).mazeWords;
     m[Id::AllWords] = Value::count(all);
 }
 
+// NTW, NDW, TTR, the moving averages and the bound morphemes, in one walk
+// over the analysis set's words.
 void fillVocabulary(const SpeakerView& v, SpeakerMeasures& m) {
-    const std::vector<int> ids = rootIdsOf(v, v.analysisSet);
-    const int different = v.c.rootIds().size();
-    std::vector<char> seen(static_cast<size_t>(different), 0);
-    int ndw = 0;
-    for (int id : ids)
-        if (!seen[id]) {
-            seen[id] = 1; // a flag, not a count: a count of chars would wrap after 255 uses
+    const FactTables& t = v.c.tables;
+    std::vector<int> ids; // root numbers of the counted words, in order
+    size_t count = 0;     // room for exactly these: a run that doubles as it grows needs thrice
+    for (int i : v.analysisSet)
+        count += static_cast<size_t>(v.facts(i).wordCount);
+    ids.reserve(count);
+    // Flags, not counts: a count of chars would wrap after 255 uses.
+    std::vector<char> seenRoot(static_cast<size_t>(t.roots.size()), 0);
+    std::vector<char> seenEnding(static_cast<size_t>(t.endings.size()), 0);
+    int ndw = 0, bound = 0, clitics = 0, differentEndings = 0;
+    auto addRoot = [&](int id) {
+        ids.push_back(id);
+        if (!seenRoot[static_cast<size_t>(id)]) {
+            seenRoot[static_cast<size_t>(id)] = 1;
             ++ndw;
         }
+    };
+    for (int i : v.analysisSet) {
+        const UtteranceFacts& f = v.facts(i);
+        bound += f.boundMorphemes;
+        clitics += f.clitics;
+        for (const CountedWord& w : f.words(t)) {
+            const SpellingFacts& spelling = t.spelling(w);
+            addRoot(spelling.root);
+            for (int id : t.endingsOf(spelling))
+                if (!seenEnding[static_cast<size_t>(id)]) {
+                    seenEnding[static_cast<size_t>(id)] = 1;
+                    ++differentEndings;
+                }
+        }
+        for (int id : f.remarkRoots(t))
+            addRoot(id);
+    }
     const int ntw = static_cast<int>(ids.size());
     m[Id::NTW] = Value::count(ntw);
     m[Id::NDW] = Value::count(ndw);
     m[Id::TTR] = Value::ratio(ndw, ntw);
-    MovingAverage ma = movingAverage(ids, different, v.c.options.window);
+    MovingAverage ma = movingAverage(ids, t.roots.size(), v.c.options.window);
     if (ma.windows > 0) {
         m[Id::MA_NTW] = Value::count(static_cast<int>(std::lround(ma.ntw))); // the window size
         m[Id::MA_NDW] = Value::real(ma.ndw);
         m[Id::MA_TTR] = Value::real(ma.ttr);
     }
-}
-
-void fillBoundMorphemes(const SpeakerView& v, SpeakerMeasures& m) {
-    int bound = 0, clitics = 0, different = 0;
-    std::vector<char> seen(static_cast<size_t>(v.c.tables.endings.size()), 0);
-    for (int i : v.analysisSet) {
-        bound += v.facts(i).boundMorphemes;
-        clitics += v.facts(i).clitics;
-        for (const CountedWord& w : v.words(i))
-            for (int id : v.c.tables.endingsOf(v.spelling(w)))
-                if (!seen[static_cast<size_t>(id)]) {
-                    seen[static_cast<size_t>(id)] = 1;
-                    ++different;
-                }
-    }
     m[Id::BoundMorphs] = Value::count(bound);
     m[Id::BoundClitics] = Value::count(clitics);
-    m[Id::DiffBM] = Value::count(different);
+    m[Id::DiffBM] = Value::count(differentEndings);
 }
 
 // Different roots that this speaker said before the other main speaker did.
@@ -141,7 +138,6 @@ void countMentionedFirst(MeasureContext& c) {
 void fillLengthAndVocabulary(const SpeakerView& v, SpeakerMeasures& m) {
     fillMlu(v, m);
     fillVocabulary(v, m);
-    fillBoundMorphemes(v, m);
     fillMentionedFirst(v, m);
 }
 

@@ -1,6 +1,7 @@
 // Standard word lists and grammatical categories (types and totals), and the
 // verb measures that read the categories.
 #include <algorithm>
+#include <bit>
 #include <cstdint>
 #include <deque>
 #include <functional>
@@ -58,23 +59,12 @@ template <size_t N> struct Tally {
     }
 };
 
-// The words of an utterance in the word-list area, as surface forms and
-// roots: the main body's are the counted words' numbered forms and roots;
-// others are built in `built`.
+// The words of an utterance in a word-list area other than the main body
+// (whose words are numbered), as surface forms and roots built in `built`.
 void areaWords(const SpeakerView& v, int i, WordArea area, std::vector<std::string_view>& forms,
                std::vector<std::string_view>& roots, std::deque<std::string>& built) {
     forms.clear();
     roots.clear();
-    const FactTables& t = v.c.tables;
-    const std::span<const CountedWord> counted = v.words(i);
-    if (area == WordArea::MainBody) {
-        for (const CountedWord& w : counted) {
-            const SpellingFacts& spelling = t.spelling(w);
-            forms.push_back(t.forms.view(spelling.form));
-            roots.push_back(t.roots.view(spelling.root));
-        }
-        return;
-    }
     built.clear();
     const std::span<const Word> words = v.utt(i).words;
     for (size_t k = 0; k < words.size(); ++k) {
@@ -129,30 +119,29 @@ struct FormLookups {
         : kinds(forms, 0), kindsKnown(forms, false), phraseStarts(forms, kNotLooked) {}
 };
 
+// The phrase entries (64 or fewer) whose first word numbered form `form`
+// matches, as bits; looked up once per form.
+std::uint64_t phraseStartsOf(const StandardWordLists& lists, int set, int form, const FactTables& t,
+                             FormLookups& look) {
+    std::uint64_t& starts = look.phraseStarts[static_cast<size_t>(form)];
+    if (starts == FormLookups::kNotLooked) {
+        const auto& phrases = lists.phrases(set);
+        starts = 0;
+        for (size_t p = 0; p < phrases.size(); ++p)
+            if (wordMatchesPattern(t.forms.view(form), phrases[p].second.words.front()))
+                starts |= std::uint64_t{1} << p;
+    }
+    return starts;
+}
+
 // countPhrases for numbered forms: only the phrases whose first word matches
-// are tried at each place.
-void countPhrasesNumbered(const StandardWordLists& lists, int set,
+// somewhere (`any`, phraseStartsOf of the words) are tried, and only where
+// it matches; in the order countPhrases finds them: phrase by phrase.
+void countPhrasesNumbered(const StandardWordLists& lists, int set, std::uint64_t any,
                           const std::vector<std::string_view>& forms,
                           std::span<const CountedWord> counted, const FactTables& t,
                           FormLookups& look, Tally<kWordListKinds>& tally) {
     const auto& phrases = lists.phrases(set);
-    if (phrases.size() > 64 || phrases.empty()) {
-        countPhrases(lists, set, forms, tally);
-        return;
-    }
-    // Matches in the order countPhrases finds them: phrase by phrase.
-    std::uint64_t any = 0;
-    for (size_t at = 0; at < forms.size(); ++at) {
-        std::uint64_t& starts =
-            look.phraseStarts[static_cast<size_t>(t.spelling(counted[at]).form)];
-        if (starts == FormLookups::kNotLooked) {
-            starts = 0;
-            for (size_t p = 0; p < phrases.size(); ++p)
-                if (wordMatchesPattern(forms[at], phrases[p].second.words.front()))
-                    starts |= std::uint64_t{1} << p;
-        }
-        any |= starts;
-    }
     for (size_t p = 0; any != 0; ++p, any >>= 1) {
         if (!(any & 1u))
             continue;
@@ -164,13 +153,90 @@ void countPhrasesNumbered(const StandardWordLists& lists, int set,
     }
 }
 
-// Room for a number per spelling when the word lists read numbered forms.
-size_t numberedSpellings(const SpeakerView& v, const MeasureOptions& o) {
-    return o.wordListArea == WordArea::MainBody ? v.c.tables.spellingList.size() : 0;
-}
-
 bool isVerbCategory(int c) {
     return c == GcVerb || c == GcCop || c == GcAxMod || c == GcAxOp;
+}
+
+} // namespace
+
+namespace {
+
+// The lists of the main body's words: each spelling's lists (its root's and
+// its surface form's) and each form's phrase starts are looked up once; the
+// forms of an utterance are listed only when a phrase may start in it.
+void countMainBodyLists(const SpeakerView& v, const std::vector<int>& utts,
+                        Tally<kWordListKinds>& tally) {
+    const StandardWordLists& lists = *v.c.options.wordLists;
+    const int set = v.c.options.wordListSet;
+    const FactTables& t = v.c.tables;
+    const auto& phrases = lists.phrases(set);
+    const bool fewPhrases = phrases.size() <= 64;
+    constexpr std::uint32_t kNotLooked = ~0u;
+    std::vector<std::uint32_t> rootKinds(static_cast<size_t>(t.roots.size()), kNotLooked);
+    std::vector<std::uint32_t> spellingKinds(t.spellingList.size(), kNotLooked);
+    FormLookups look(static_cast<size_t>(t.forms.size()));
+    auto kindsOf = [&](const CountedWord& w) {
+        std::uint32_t& bySpelling = spellingKinds[w.spelling];
+        if (bySpelling != kNotLooked)
+            return bySpelling;
+        const SpellingFacts& s = t.spelling(w);
+        const std::string_view root = t.roots.view(s.root), form = t.forms.view(s.form);
+        std::uint32_t& known = rootKinds[static_cast<size_t>(s.root)];
+        if (known == kNotLooked)
+            known = lists.kindMask(set, root);
+        bySpelling = known;
+        if (root != form) {
+            const size_t f = static_cast<size_t>(s.form);
+            if (!look.kindsKnown[f]) {
+                look.kinds[f] = lists.kindMask(set, form);
+                look.kindsKnown[f] = true;
+            }
+            bySpelling |= look.kinds[f];
+        }
+        return bySpelling;
+    };
+    std::vector<std::string_view> forms;
+    for (int i : utts) {
+        const std::span<const CountedWord> counted = v.words(i);
+        std::uint64_t starts = 0;
+        for (const CountedWord& w : counted) {
+            const int form = t.spelling(w).form;
+            for (std::uint32_t kinds = kindsOf(w); kinds != 0; kinds &= kinds - 1)
+                tally.addForm(std::countr_zero(kinds), form, t.forms.view(form));
+            if (fewPhrases && !phrases.empty())
+                starts |= phraseStartsOf(lists, set, form, t, look);
+        }
+        if (phrases.empty() || (fewPhrases && starts == 0))
+            continue;
+        forms.clear();
+        for (const CountedWord& w : counted)
+            forms.push_back(t.forms.view(t.spelling(w).form));
+        if (fewPhrases)
+            countPhrasesNumbered(lists, set, starts, forms, counted, t, look, tally);
+        else
+            countPhrases(lists, set, forms, tally);
+    }
+}
+
+// The lists of the words of another area, whose words are built.
+void countAreaLists(const SpeakerView& v, const std::vector<int>& utts,
+                    Tally<kWordListKinds>& tally) {
+    const MeasureOptions& o = v.c.options;
+    const int set = o.wordListSet;
+    std::vector<std::string_view> form, roots;
+    std::deque<std::string> built;
+    for (int i : utts) {
+        areaWords(v, i, o.wordListArea, form, roots, built);
+        for (size_t k = 0; k < form.size(); ++k) {
+            std::uint32_t kinds = o.wordLists->kindMask(set, roots[k]);
+            if (roots[k] != form[k])
+                kinds |= o.wordLists->kindMask(set, form[k]);
+            for (int kind = 0; kinds != 0; ++kind, kinds >>= 1)
+                if (kinds & 1u)
+                    tally.add(kind, form[k]);
+        }
+        countPhrases(*o.wordLists, set, form, tally);
+    }
 }
 
 } // namespace
@@ -179,58 +245,12 @@ void fillWordLists(const SpeakerView& v, SpeakerMeasures& m) {
     const MeasureOptions& o = v.c.options;
     if (!o.wordLists)
         return;
-    const int set = o.wordListSet;
-    std::vector<std::string_view> form, roots;
-    std::deque<std::string> built;
     Tally<kWordListKinds> tally{m.wordLists};
-    // The lists of each root number, and of each spelling (its root's and its
-    // surface form's), looked up once; kNotLooked until then.
-    constexpr std::uint32_t kNotLooked = ~0u;
-    std::vector<std::uint32_t> rootKinds(static_cast<size_t>(v.c.rootIds().size()), kNotLooked);
-    std::vector<std::uint32_t> spellingKinds(numberedSpellings(v, o), kNotLooked);
-    const bool numbered = o.wordListArea == WordArea::MainBody;
-    FormLookups look(numbered ? static_cast<size_t>(v.c.tables.forms.size()) : 0);
-    for (int i : o.wordListsOnAnalysisSet ? v.analysisSet : v.total) {
-        areaWords(v, i, o.wordListArea, form, roots, built);
-        const std::span<const CountedWord> counted = v.words(i);
-        for (size_t k = 0; k < form.size(); ++k) {
-            const std::string_view root = roots[k];
-            std::uint32_t kinds = 0;
-            if (numbered) {
-                const SpellingFacts& w = v.spelling(counted[k]);
-                std::uint32_t& bySpelling = spellingKinds[counted[k].spelling];
-                if (bySpelling == kNotLooked) {
-                    std::uint32_t& known = rootKinds[static_cast<size_t>(w.root)];
-                    if (known == kNotLooked)
-                        known = o.wordLists->kindMask(set, root);
-                    bySpelling = known;
-                    if (root != form[k]) {
-                        const size_t f = static_cast<size_t>(w.form);
-                        if (!look.kindsKnown[f]) {
-                            look.kinds[f] = o.wordLists->kindMask(set, form[k]);
-                            look.kindsKnown[f] = true;
-                        }
-                        bySpelling |= look.kinds[f];
-                    }
-                }
-                kinds = bySpelling;
-                for (int kind = 0; kinds != 0; ++kind, kinds >>= 1)
-                    if (kinds & 1u)
-                        tally.addForm(kind, w.form, form[k]);
-                continue;
-            }
-            kinds = o.wordLists->kindMask(set, root);
-            if (root != form[k])
-                kinds |= o.wordLists->kindMask(set, form[k]);
-            for (int kind = 0; kinds != 0; ++kind, kinds >>= 1)
-                if (kinds & 1u)
-                    tally.add(kind, form[k]);
-        }
-        if (numbered)
-            countPhrasesNumbered(*o.wordLists, set, form, counted, v.c.tables, look, tally);
-        else
-            countPhrases(*o.wordLists, set, form, tally);
-    }
+    const std::vector<int>& utts = o.wordListsOnAnalysisSet ? v.analysisSet : v.total;
+    if (o.wordListArea == WordArea::MainBody)
+        countMainBodyLists(v, utts, tally);
+    else
+        countAreaLists(v, utts, tally);
     for (int k = 0; k < kWordListKinds; ++k) {
         m[*measureIdByName(kStandardWordLists[k].totalColumn)] = Value::count(m.wordLists[k].total);
         m[*measureIdByName(kStandardWordLists[k].typesColumn)] = Value::count(m.wordLists[k].types);
@@ -249,8 +269,14 @@ void fillCategoriesAndVerbs(const SpeakerView& v, SpeakerMeasures& m) {
     std::vector<std::uint32_t> counted(roots, 0);
     std::vector<std::optional<std::vector<int>>> entries(roots);
     // Per spelling: its categories (the root's entry, else the guess from the
-    // root and the spelling's endings), worked out once.
-    std::vector<std::optional<std::vector<int>>> bySpelling(v.c.tables.spellingList.size());
+    // root and the spelling's endings), worked out once and kept in one run.
+    struct SpellingCategories {
+        std::uint32_t from = 0, count = 0; // in `runs`
+        bool looked = false;
+        bool verb = false; // the first category is a verb's
+    };
+    std::vector<SpellingCategories> bySpelling(v.c.tables.spellingList.size());
+    std::vector<int> runs;
     for (int i : v.analysisSet) {
         int here = 0;
         for (const CountedWord& w : v.words(i)) {
@@ -259,8 +285,8 @@ void fillCategoriesAndVerbs(const SpeakerView& v, SpeakerMeasures& m) {
             if (t.skipped)
                 continue;
             const int id = spelling.root;
-            std::optional<std::vector<int>>& known = bySpelling[w.spelling];
-            if (!known) {
+            SpellingCategories& known = bySpelling[w.spelling];
+            if (!known.looked) {
                 if (!entries[id]) {
                     entries[id] = dictionaryCategories(spelling.word->root(), *dictionary);
                     // A verb of the verb file that the dictionary lacks.
@@ -268,12 +294,17 @@ void fillCategoriesAndVerbs(const SpeakerView& v, SpeakerMeasures& m) {
                         verbFile->contains(v.c.tables.roots.name(id)))
                         entries[id] = std::vector<int>{GcVerb};
                 }
-                known = entries[id]->empty()
-                            ? guessCategories(v.c.tables.roots.name(id), t.endingGroups)
-                            : *entries[id];
+                const std::vector<int> cats =
+                    entries[id]->empty()
+                        ? guessCategories(v.c.tables.roots.name(id), t.endingGroups)
+                        : *entries[id];
+                known = {static_cast<std::uint32_t>(runs.size()),
+                         static_cast<std::uint32_t>(cats.size()), true,
+                         !cats.empty() && isVerbCategory(cats.front())};
+                runs.insert(runs.end(), cats.begin(), cats.end());
             }
-            const std::vector<int>& cats = *known;
-            for (int c : cats) {
+            for (std::uint32_t k = known.from; k < known.from + known.count; ++k) {
+                const int c = runs[k];
                 WordCount& count = m.categories[c];
                 ++count.total;
                 if (!(counted[id] & (1u << c))) {
@@ -282,7 +313,7 @@ void fillCategoriesAndVerbs(const SpeakerView& v, SpeakerMeasures& m) {
                     count.words.push_back(v.c.tables.roots.name(id));
                 }
             }
-            here += (!cats.empty() && isVerbCategory(cats.front()) ? 1 : 0) + t.contractedVerbs;
+            here += (known.verb ? 1 : 0) + t.contractedVerbs;
         }
         verbs += here;
         uttsWithVerb += here > 0 ? 1 : 0;

@@ -9,43 +9,37 @@ namespace {
 
 using Id = MeasureId;
 
-// Times are summed in 64 bits: a single pause may be written as 10^9 seconds.
-struct PauseSums {
-    int count = 0, timed = 0;
-    std::int64_t seconds = 0;
-    void add(bool isTimed, int secs) {
-        ++count;
-        if (isTimed) {
-            ++timed;
-            seconds += secs;
-        }
-    }
-};
+} // namespace
 
-// Pause lines inside the cut that stand right before an utterance of this speaker.
-PauseSums betweenPauses(const SpeakerView& v) {
-    PauseSums sums;
-    const auto& entries = v.c.t.entries;
-    const Selection& s = v.c.selection;
+// Pause lines inside the cut that stand right before an utterance of a main
+// speaker, for both speakers in one walk over the entries.
+void countPausesBetween(MeasureContext& c) {
+    const auto& entries = c.t.entries;
+    const Selection& s = c.selection;
     for (size_t i = s.firstEntry; i < s.endEntry; ++i) {
         if (entries[i].kind != EntryKind::Pause)
             continue;
         size_t next = i + 1;
         while (next < s.endEntry && entries[next].kind != EntryKind::Utterance)
             ++next;
-        if (next < s.endEntry && v.utt(entries[next].utterance).speakerGroup == v.speaker)
-            sums.add(entries[i].seconds > 0, entries[i].seconds);
+        if (next >= s.endEntry)
+            continue;
+        const int group = c.t.utterances[static_cast<size_t>(entries[next].utterance)].speakerGroup;
+        if (group == 0 || group == 1)
+            c.pausesBetween[static_cast<size_t>(group)].add(entries[i].seconds > 0,
+                                                            entries[i].seconds);
     }
-    return sums;
 }
-
-} // namespace
 
 void fillTimingAndPauses(const SpeakerView& v, SpeakerMeasures& m) {
     const std::optional<int> elapsed = v.c.selection.elapsedSeconds;
     int words = 0;
-    for (int i : v.total)
+    PauseSums within;
+    for (int i : v.total) {
         words += v.facts(i).wordCount;
+        for (const Pause& p : v.utt(i).pauses())
+            within.add(p.timed, p.seconds);
+    }
     if (elapsed) {
         const double minutes = *elapsed / 60.0;
         m[Id::TimeSec] = Value::count(*elapsed);
@@ -56,11 +50,7 @@ void fillTimingAndPauses(const SpeakerView& v, SpeakerMeasures& m) {
     }
     m.timingMissing = !elapsed;
 
-    PauseSums within;
-    for (int i : v.total)
-        for (const Pause& p : v.utt(i).pauses())
-            within.add(p.timed, p.seconds);
-    PauseSums between = betweenPauses(v);
+    const PauseSums& between = v.c.pausesBetween[static_cast<size_t>(v.speaker)];
     m[Id::NumPauseWiUt] = Value::count(within.count);
     m[Id::NumPauseBtUt] = Value::count(between.count);
     m[Id::UntimedPauseWiUt] = Value::count(within.count - within.timed);

@@ -152,43 +152,59 @@ void fillCodesAndErrors(const SpeakerView& v, SpeakerMeasures& m) {
     m[Id::PCUttWithNMForms] = m[Id::PctUtWNMForms];
 }
 
-void fillUtteranceLists(const SpeakerView& v, SpeakerMeasures& m) {
-    // Bit k: the utterance goes in list k (the lists' order, PRIP to PINTR).
+namespace {
+
+// Bit k: utterance `i` goes in utterance list k (the lists' order, PRIP to PINTR).
+std::uint32_t utteranceListBits(const SpeakerView& v, int i) {
     static_assert(kUtteranceLists <= 32);
     constexpr int kFirstTerminatorList = 15; // PSTMT, then one list per terminator kind
-    for (int i : v.total) {
-        const Utterance& u = v.utt(i);
-        const ResponseType& r = v.response(i);
-        const UtteranceFacts& f = v.facts(i);
-        std::uint32_t in = 0;
-        auto put = [&](int k, bool yes) { in |= static_cast<std::uint32_t>(yes) << k; };
-        put(0, r.question || r.prompt);                             // PRIP
-        put(1, r.imitation);                                        // PIMIT
-        put(2, !r.question && !r.prompt && !r.imitation);           // PSPON
-        put(3, r.oneWord);                                          // PONEWD
-        put(4, u.intelligibility != Intelligibility::Intelligible); // PUNI
-        put(6, f.hasOmission(v.c.tables));                          // POMIT
-        put(8, u.hasComment);                                       // PCOMMENT
-        put(9, u.hasQuotation);                                     // PDIAL
-        if (u.extras) {
-            put(5, !u.pauses().empty());         // PPAUS
-            put(7, !u.parentheticals().empty()); // PPAREN
-            put(10, !u.codes().empty());         // PCODE
-        }
-        if (f.codes != 0) {
-            const CodeFacts& c = f.codeFacts(v.c.tables);
-            put(11, c.errors.total() > 0);        // PECODE
-            put(12, c.fluency.total() > 0);       // PFLCODE
-            put(13, c.nonmainstream.total() > 0); // PNMCODE
-            put(14, c.codeSwitch.total() > 0);    // PCSCODE
-        }
-        const auto term =
-            static_cast<int>(u.terminator); // PSTMT, PEXMK, PQUES, PPRMT, PABAN, PINTR
-        if (term >= 0 && term < kUtteranceLists - kFirstTerminatorList)
-            put(kFirstTerminatorList + term, true);
-        for (; in != 0; in &= in - 1)
-            m.utteranceLists[static_cast<size_t>(std::countr_zero(in))].push_back(i);
+    const Utterance& u = v.utt(i);
+    const ResponseType& r = v.response(i);
+    const UtteranceFacts& f = v.facts(i);
+    std::uint32_t in = 0;
+    auto put = [&](int k, bool yes) { in |= static_cast<std::uint32_t>(yes) << k; };
+    put(0, r.question || r.prompt);                             // PRIP
+    put(1, r.imitation);                                        // PIMIT
+    put(2, !r.question && !r.prompt && !r.imitation);           // PSPON
+    put(3, r.oneWord);                                          // PONEWD
+    put(4, u.intelligibility != Intelligibility::Intelligible); // PUNI
+    put(6, f.hasOmission(v.c.tables));                          // POMIT
+    put(8, u.hasComment);                                       // PCOMMENT
+    put(9, u.hasQuotation);                                     // PDIAL
+    if (u.extras) {
+        put(5, !u.pauses().empty());         // PPAUS
+        put(7, !u.parentheticals().empty()); // PPAREN
+        put(10, !u.codes().empty());         // PCODE
     }
+    if (f.codes != 0) {
+        const CodeFacts& c = f.codeFacts(v.c.tables);
+        put(11, c.errors.total() > 0);        // PECODE
+        put(12, c.fluency.total() > 0);       // PFLCODE
+        put(13, c.nonmainstream.total() > 0); // PNMCODE
+        put(14, c.codeSwitch.total() > 0);    // PCSCODE
+    }
+    const auto term = static_cast<int>(u.terminator); // PSTMT, PEXMK, PQUES, PPRMT, PABAN, PINTR
+    if (term >= 0 && term < kUtteranceLists - kFirstTerminatorList)
+        put(kFirstTerminatorList + term, true);
+    return in;
+}
+
+} // namespace
+
+// The lists are sized first, so that each is filled without growing.
+void fillUtteranceLists(const SpeakerView& v, SpeakerMeasures& m) {
+    std::vector<std::uint32_t> bits(v.total.size());
+    std::array<size_t, kUtteranceLists> sizes{};
+    for (size_t k = 0; k < v.total.size(); ++k) {
+        bits[k] = utteranceListBits(v, v.total[k]);
+        for (std::uint32_t in = bits[k]; in != 0; in &= in - 1)
+            ++sizes[static_cast<size_t>(std::countr_zero(in))];
+    }
+    for (size_t list = 0; list < sizes.size(); ++list)
+        m.utteranceLists[list].reserve(sizes[list]);
+    for (size_t k = 0; k < v.total.size(); ++k)
+        for (std::uint32_t in = bits[k]; in != 0; in &= in - 1)
+            m.utteranceLists[static_cast<size_t>(std::countr_zero(in))].push_back(v.total[k]);
 }
 
 } // namespace tavi

@@ -17,7 +17,6 @@ namespace {
 // Reused room for comparing the words of two utterances.
 struct ImitationScratch {
     std::vector<const Word*> mine, theirs;
-    std::string key, form, other;
 };
 
 void mainBodyWords(const Utterance& u, std::vector<const Word*>& out) {
@@ -30,7 +29,12 @@ void mainBodyWords(const Utterance& u, std::vector<const Word*>& out) {
 // A word whose surface form is its text in lower case: no parts, not a
 // part word, no bound prefix mark.
 bool formIsLowerText(const Word& w) {
-    return !w.parts() && !w.incomplete && w.text().find('\\') == std::string_view::npos;
+    if (w.parts() || w.incomplete)
+        return false;
+    for (char c : w.text())
+        if (c == '\\')
+            return false;
+    return true;
 }
 
 bool equalAsciiCase(std::string_view a, std::string_view b) {
@@ -49,16 +53,19 @@ bool equalAsciiCase(std::string_view a, std::string_view b) {
 }
 
 // Whether two words have the same surface form (as surfaceForm gives it).
-bool sameForm(const Word& a, const Word& b, ImitationScratch& s) {
+// Forms are built only for words whose form is not their lower-case text,
+// and without heap memory.
+bool sameForm(const Word& a, const Word& b) {
     if (a.linked == b.linked && a.text() == b.text())
         return true; // one spelling: one form
-    if (formIsLowerText(a) && formIsLowerText(b))
+    const bool lowerA = formIsLowerText(a), lowerB = formIsLowerText(b);
+    if (lowerA && lowerB)
         return equalAsciiCase(a.text(), b.text());
-    rootKeyInto(a, s.key);
-    surfaceFormInto(a, s.key, s.form);
-    rootKeyInto(b, s.key);
-    surfaceFormInto(b, s.key, s.other);
-    return s.form == s.other;
+    if (lowerA)
+        return equalAsciiCase(a.text(), InlineForm::surface(b).view());
+    if (lowerB)
+        return equalAsciiCase(InlineForm::surface(a).view(), b.text());
+    return InlineForm::surface(a).view() == InlineForm::surface(b).view();
 }
 
 // `mineCount` and `theirsCount`: the main-body words of `u` and of `prev`.
@@ -78,7 +85,7 @@ void classifyImitation(const Utterance& u, int mineCount, const Utterance& prev,
     if (s.mine.size() == s.theirs.size()) {
         bool same = true;
         for (size_t k = 0; k < s.mine.size() && same; ++k)
-            same = sameForm(*s.mine[k], *s.theirs[k], s);
+            same = sameForm(*s.mine[k], *s.theirs[k]);
         r.exactImitation = same;
         r.reducedImitation = false;
     } else {
@@ -86,7 +93,7 @@ void classifyImitation(const Utterance& u, int mineCount, const Utterance& prev,
         bool subset = true;
         size_t j = 0;
         for (const Word* w : s.mine) {
-            while (j < s.theirs.size() && !sameForm(*w, *s.theirs[j], s))
+            while (j < s.theirs.size() && !sameForm(*w, *s.theirs[j]))
                 ++j;
             if (j == s.theirs.size()) {
                 subset = false;

@@ -2,6 +2,7 @@
 #include "analysis/word_lists.h"
 
 #include <algorithm>
+#include <functional>
 
 #include "base/file_io.h"
 #include "base/prompter.h"
@@ -94,10 +95,13 @@ void StandardWordLists::add(int set, int kind, WordListEntry entry) {
     Index& ix = index_[set];
     if (entry.words.size() > 1)
         ix.phrases.emplace_back(kind, entry);
-    else if (entry.words[0].size() > 1 && entry.words[0].back() == '*')
+    else if (entry.words[0].size() > 1 && entry.words[0].back() == '*') {
         ix.prefixes.emplace_back(entry.words[0].substr(0, entry.words[0].size() - 1), kind);
-    else
+        ix.prefixesOf[kind].push_back(ix.prefixes.back().first);
+    } else {
         ix.exact.emplace_back(entry.words[0], kind);
+        ix.exactOf[kind].push_back(entry.words[0]);
+    }
     lists_[set][kind].push_back(std::move(entry));
 }
 
@@ -105,6 +109,10 @@ void StandardWordLists::sortIndex() {
     for (Index& ix : index_) {
         std::sort(ix.exact.begin(), ix.exact.end());
         ix.exact.erase(std::unique(ix.exact.begin(), ix.exact.end()), ix.exact.end());
+        for (std::vector<std::string>& words : ix.exactOf) {
+            std::sort(words.begin(), words.end());
+            words.erase(std::unique(words.begin(), words.end()), words.end());
+        }
     }
 }
 
@@ -137,7 +145,16 @@ std::uint32_t StandardWordLists::kindMask(int set, std::string_view word) const 
 }
 
 bool StandardWordLists::contains(int set, int kind, std::string_view word) const {
-    return kind >= 0 && kind < 32 && ((kindMask(set, word) >> kind) & 1u) != 0;
+    if (kind < 0 || kind >= static_cast<int>(kStandardWordLists.size()))
+        return false; // no entry has such a kind
+    const Index& ix = index_[set];
+    const std::vector<std::string>& exact = ix.exactOf[kind];
+    if (std::binary_search(exact.begin(), exact.end(), word, std::less<>()))
+        return true;
+    for (const std::string& prefix : ix.prefixesOf[kind])
+        if (word.substr(0, prefix.size()) == prefix)
+            return true;
+    return false;
 }
 
 } // namespace tavi

@@ -88,6 +88,9 @@ private:
         std::vector<std::pair<std::string, int>> exact; // sorted by word
         std::vector<std::pair<std::string, int>> prefixes;
         std::vector<std::pair<int, WordListEntry>> phrases;
+        // The same one-word entries by kind, so that one list is asked alone.
+        std::array<std::vector<std::string>, 20> exactOf; // sorted
+        std::array<std::vector<std::string>, 20> prefixesOf;
     };
     void add(int set, int kind, WordListEntry entry);
     void sortIndex();

@@ -151,6 +151,33 @@ TEST_F(SampleMeasures, Discourse) {
     EXPECT_EQ(count(Id::TurnByTLWdTot), 3);
 }
 
+// A turn ends at any other speaker's utterance, a third speaker's too; the
+// medians of an even number of turns are the mean of the middle two, also
+// when one turn is very long.
+TEST(Turns, EndAtAnyOtherSpeakerAndMediansOfEvenCounts) {
+    TranscriptBuilder b;
+    b.c("a b .").c("c .").o("hm .").c("d e f g .").e("yes .");
+    b.c("h .").c("i .").c("j k .").c("l .").e("ok .").c("m n .");
+    MeasureResult r = computeMeasures(b, MeasureOptions{});
+    const SpeakerMeasures& m = r.speakers[0];
+    EXPECT_EQ(m[MeasureId::TurnByTLUtTot].asCount(), 4); // utterances 2, 1, 4, 1; words 3, 4, 5, 2
+    EXPECT_DOUBLE_EQ(m[MeasureId::MeanTurnUt].asReal(), 2.0);
+    EXPECT_DOUBLE_EQ(m[MeasureId::MedTurnUt].asReal(), 1.5);
+    EXPECT_DOUBLE_EQ(m[MeasureId::MeanTurnWd].asReal(), 3.5);
+    EXPECT_DOUBLE_EQ(m[MeasureId::MedTurnWd].asReal(), 3.5);
+    EXPECT_EQ(r.speakers[1][MeasureId::TurnByTLUtTot].asCount(), 2);
+
+    std::string longest;
+    for (int k = 0; k < 70000; ++k)
+        longest += "w ";
+    TranscriptBuilder big;
+    big.c(longest + ".").e("ok .").c("a .").e("ok .").c("a b .").e("ok .").c("a b c .");
+    const MeasureResult longRun = computeMeasures(big, MeasureOptions{});
+    const SpeakerMeasures& l = longRun.speakers[0];
+    EXPECT_DOUBLE_EQ(l[MeasureId::MedTurnWd].asReal(), 2.5); // words 70000, 1, 2, 3
+    EXPECT_DOUBLE_EQ(l[MeasureId::MedTurnUt].asReal(), 1.0);
+}
+
 // A sample whose first timing line is not 0:00 lasts from that line by
 // default; with the start time not subtracted it lasts from 0:00.
 TEST(ElapsedTime, StartTimeSubtractedUnlessTurnedOff) {

@@ -27,6 +27,27 @@ TEST(StandardWordListFile, KeysSetsPatternsAndPhrases) {
     EXPECT_FALSE(wordMatchesPattern("go", "got*"));
 }
 
+// Asking one list must give what the bits of every list give: the two are
+// looked up through separate indexes.
+TEST(StandardWordListFile, OneListAgreesWithAllLists) {
+    auto lists = StandardWordLists::parse("P_NEG not\nP_NEG no\nP_QUES no\nP_QUES wh*\n"
+                                          "P_REL wh*\nP_REL which\nA1_NEG nada\nP_YESNO *\n"
+                                          "P_EXTRA1 w*\nP_EXTRA1 no\nP_NEG no\n");
+    const char* words[] = {"no", "not", "nope", "what", "which", "w", "wh", "nada", "*", "", "x"};
+    for (int set = 0; set < 4; ++set)
+        for (const char* w : words) {
+            const std::uint32_t mask = lists.kindMask(set, w);
+            for (int kind = -1; kind <= 20; ++kind)
+                EXPECT_EQ(lists.contains(set, kind, w),
+                          kind >= 0 && kind < 20 && ((mask >> kind) & 1u) != 0)
+                    << set << " " << kind << " " << w;
+        }
+    EXPECT_TRUE(lists.contains(0, 1, "no"));
+    EXPECT_TRUE(lists.contains(0, 9, "which"));
+    EXPECT_TRUE(lists.contains(0, 13, "what"));
+    EXPECT_FALSE(lists.contains(1, 1, "no"));
+}
+
 TEST(StandardWordListFile, MissingFileIsReported) {
     test::RecordingPrompter p;
     bool ok = true;
