@@ -1,9 +1,6 @@
 // One pass over an utterance's words and codes.
 #include "analysis/utterance_facts.h"
 
-#include <algorithm>
-#include <cstring>
-
 #include "analysis/gc_dictionary.h"
 #include "analysis/word_forms.h"
 #include "base/text.h"
@@ -50,10 +47,9 @@ WordTraits traitsOf(const Word& w) {
 
 // The facts of `w`'s spelling, worked out at its first use.
 std::uint32_t spellingOf(const Word& w, FactTables& t) {
-    bool added = false;
-    const std::uint32_t id = t.spellings.find(w.text(), w.linked, added);
-    if (!added)
-        return id;
+    if (std::optional<std::uint32_t> known = t.spellings.find(w.text(), w.linked))
+        return *known;
+    const std::uint32_t id = t.spellings.insert(w.text(), w.linked);
     SpellingFacts f;
     f.word = &w;
     f.traits = traitsOf(w);
@@ -92,85 +88,7 @@ void tallyCodes(const Utterance& u, const CodeMatchers& m, CodeFacts& f) {
     }
 }
 
-// A number made of a text's bytes: the whole text when it has 8 bytes or
-// fewer (two overlapping loads of 4, or three single bytes, which together
-// with the length tell such a text from every other), else its first and
-// last 8 bytes.
-std::uint64_t packText(const char* p, size_t n) {
-    if (n > 8) {
-        std::uint64_t first, last;
-        std::memcpy(&first, p, 8);
-        std::memcpy(&last, p + n - 8, 8);
-        return first ^ (last * 0x9E3779B97F4A7C15ull);
-    }
-    if (n >= 4) {
-        std::uint32_t first, last;
-        std::memcpy(&first, p, 4);
-        std::memcpy(&last, p + n - 4, 4);
-        return (std::uint64_t{first} << 32) | last;
-    }
-    if (n == 0)
-        return 0;
-    const auto byte = [&](size_t k) { return std::uint64_t{static_cast<unsigned char>(p[k])}; };
-    return (byte(0) << 16) | (byte(n / 2) << 8) | byte(n - 1);
-}
-
-std::uint32_t spellingHash(std::uint64_t packed, size_t n, bool linked) {
-    std::uint64_t h =
-        (packed ^ (std::uint64_t{n} << 57) ^ (linked ? 1u : 0u)) * 0x9E3779B97F4A7C15ull;
-    h ^= h >> 32;
-    h *= 0xC4CEB9FE1A85EC53ull;
-    return static_cast<std::uint32_t>(h >> 32);
-}
-
 } // namespace
-
-std::uint32_t SpellingIndex::find(std::string_view text, bool linked, bool& added) {
-    const std::uint64_t packed = packText(text.data(), text.size());
-    const std::uint32_t hash = spellingHash(packed, text.size(), linked);
-    const size_t mask = slots_.size() - 1;
-    for (size_t at = hash & mask;; at = (at + 1) & mask) {
-        const Slot& s = slots_[at];
-        if (s.id == kEmpty) {
-            added = true;
-            return add({text.data(), packed, static_cast<std::uint32_t>(text.size()), linked},
-                       hash);
-        }
-        if (s.hash != hash)
-            continue;
-        const Key& k = keys_[s.id];
-        if (k.size == text.size() && k.linked == linked && k.packed == packed &&
-            (text.size() <= 8 || std::memcmp(k.data, text.data(), text.size()) == 0)) {
-            added = false;
-            return s.id;
-        }
-    }
-}
-
-std::uint32_t SpellingIndex::add(const Key& key, std::uint32_t hash) {
-    const auto id = static_cast<std::uint32_t>(keys_.size());
-    keys_.push_back(key);
-    if (keys_.size() * 2 > slots_.size())
-        grow();
-    place({hash, id});
-    return id;
-}
-
-void SpellingIndex::place(Slot slot) {
-    const size_t mask = slots_.size() - 1;
-    size_t at = slot.hash & mask;
-    while (slots_[at].id != kEmpty)
-        at = (at + 1) & mask;
-    slots_[at] = slot;
-}
-
-void SpellingIndex::grow() {
-    std::vector<Slot> old = std::move(slots_);
-    slots_.assign(old.size() * 2, Slot{});
-    for (const Slot& s : old)
-        if (s.id != kEmpty)
-            place(s);
-}
 
 bool isCountedWord(const Utterance& u, int index, const WordBase& base, const CodeMatchers& m) {
     const Word& w = u.words[static_cast<size_t>(index)];

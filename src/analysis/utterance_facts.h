@@ -13,6 +13,7 @@
 
 #include "analysis/code_lists.h"
 #include "analysis/word_base.h"
+#include "base/text_index.h"
 #include "transcript/utterance.h"
 
 namespace tavi {
@@ -107,34 +108,6 @@ struct RareFacts {
     }
 };
 
-// The spellings met so far, plain and linked apart, each with its number:
-// an open-addressing table, as it is asked once for every counted word.
-class SpellingIndex {
-public:
-    // The number of `text` (linked or not); a new spelling gets the next
-    // number, from 0, and sets `added`.
-    std::uint32_t find(std::string_view text, bool linked, bool& added);
-
-private:
-    struct Slot {
-        std::uint32_t hash = 0;
-        std::uint32_t id = kEmpty;
-    };
-    struct Key {
-        const char* data = nullptr;
-        std::uint64_t packed = 0; // the text itself when 8 bytes or fewer
-        std::uint32_t size = 0;
-        bool linked = false;
-    };
-    static constexpr std::uint32_t kEmpty = ~std::uint32_t{0};
-    std::uint32_t add(const Key& key, std::uint32_t hash); // the new spelling's number
-    void place(Slot slot);
-    void grow();
-
-    std::vector<Slot> slots_ = std::vector<Slot>(64); // a power of two, at most half full
-    std::vector<Key> keys_;                           // by number
-};
-
 // The counted words, roots and endings of every utterance, one run each,
 // numbered in the computation's tables.
 struct FactTables {
@@ -144,7 +117,7 @@ struct FactTables {
     std::vector<CountedWord> words;
     std::vector<int> remarkRoots; // root numbers of counted parenthetical words
     std::string key, form;        // scratch
-    SpellingIndex spellings;      // each spelling met: its number in spellingList
+    TextIndex spellings; // each spelling met (tagged when linked): its number in spellingList
     std::vector<SpellingFacts> spellingList;
     std::vector<int> spellingEndings;
     std::vector<CodeFacts> codeFacts{CodeFacts{}}; // [0]: an utterance without codes

@@ -111,55 +111,10 @@ bool sameParts(const WordParts& p, const WordDraft& draft) {
     return draft.rootIdentification.empty() || p.pieces[at] == draft.rootIdentification;
 }
 
-// FNV-1a: words are short, and a library hash costs more than the lookup.
-std::uint32_t hashText(std::string_view text) {
-    std::uint32_t h = 2166136261u;
-    for (char c : text)
-        h = (h ^ static_cast<unsigned char>(c)) * 16777619u;
-    return h;
-}
-
 } // namespace
 
-const char* TranscriptStore::findShared(std::string_view text, std::uint32_t hash) const {
-    if (shared_.empty())
-        return nullptr;
-    const size_t mask = shared_.size() - 1;
-    for (size_t i = hash & mask;; i = (i + 1) & mask) {
-        const SharedWord& slot = shared_[i];
-        if (!slot.text)
-            return nullptr;
-        if (slot.hash == hash && slot.size == text.size() &&
-            std::memcmp(slot.text, text.data(), text.size()) == 0)
-            return slot.text;
-    }
-}
-
-void TranscriptStore::addShared(std::string_view text, std::uint32_t hash) {
-    if ((sharedCount_ + 1) * 2 > shared_.size()) {
-        std::vector<SharedWord> larger(std::max<size_t>(1024, shared_.size() * 2));
-        const size_t mask = larger.size() - 1;
-        for (const SharedWord& slot : shared_) {
-            if (!slot.text)
-                continue;
-            size_t i = slot.hash & mask;
-            while (larger[i].text)
-                i = (i + 1) & mask;
-            larger[i] = slot;
-        }
-        shared_.swap(larger);
-    }
-    const size_t mask = shared_.size() - 1;
-    size_t i = hash & mask;
-    while (shared_[i].text)
-        i = (i + 1) & mask;
-    shared_[i] = SharedWord{text.data(), static_cast<std::uint32_t>(text.size()), hash};
-    ++sharedCount_;
-}
-
 void TranscriptStore::endSharing() {
-    std::vector<SharedWord>().swap(shared_);
-    sharedCount_ = 0;
+    shared_ = TextIndex();
 }
 
 Word TranscriptStore::keepWord(const WordDraft& draft, std::string_view stable) {
@@ -173,10 +128,10 @@ Word TranscriptStore::keepWord(const WordDraft& draft, std::string_view stable) 
                                                                           : keepText(draft.text));
         return word;
     }
-    const std::uint32_t hash = hashText(draft.text);
     bool known = false; // a word of the same text is kept already (with other parts)
     if (!draft.text.empty()) {
-        if (const char* kept = findShared(draft.text, hash)) {
+        if (std::optional<std::uint32_t> id = shared_.find(draft.text)) {
+            const char* kept = shared_.text(*id).data();
             if (sameParts(*reinterpret_cast<const WordParts*>(kept - sizeof(WordParts)), draft)) {
                 word.assignParted({kept, draft.text.size()});
                 return word;
@@ -220,8 +175,8 @@ Word TranscriptStore::keepWord(const WordDraft& draft, std::string_view stable) 
     }
     new (block) WordParts(parts);
     word.assignParted(text);
-    if (!text.empty() && !known && sharedCount_ < kMaxShared)
-        addShared(text, hash);
+    if (!text.empty() && !known && shared_.size() < kMaxShared)
+        shared_.insert(text);
     return word;
 }
 

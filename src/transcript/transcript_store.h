@@ -14,6 +14,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "base/text_index.h"
 #include "transcript/utterance.h"
 
 namespace tavi {
@@ -82,18 +83,9 @@ public:
 private:
     void* allocate(size_t bytes, size_t align);
 
-    // The text of each word with parts kept, found by its text (at most
-    // kMaxShared): an open-addressing table whose size is a power of two.
-    struct SharedWord {
-        const char* text = nullptr; // null: a free slot
-        std::uint32_t size = 0;
-        std::uint32_t hash = 0;
-    };
-    const char* findShared(std::string_view text, std::uint32_t hash) const;
-    void addShared(std::string_view text, std::uint32_t hash);
+    // The text of each word with parts kept, found by its text (at most kMaxShared).
     static constexpr size_t kMaxShared = size_t{1} << 20;
-    std::vector<SharedWord> shared_;
-    size_t sharedCount_ = 0;
+    TextIndex shared_;
     std::string adopted_;
     std::vector<std::unique_ptr<std::byte[]>> blocks_;
     std::byte* next_ = nullptr;
