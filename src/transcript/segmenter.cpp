@@ -58,6 +58,33 @@ struct PresenceTable {
 };
 constexpr PresenceTable kPresence;
 
+// What a character is to the word pass, one bit each: white space, a word
+// character, a letter or digit (a word of word characters only, with a letter
+// or digit, is plain).
+enum WordKind : std::uint8_t { kSpace = 1, kWordChar = 2, kAlnum = 4 };
+
+struct WordKindTable {
+    std::uint8_t kinds[128] = {};
+    constexpr WordKindTable() {
+        for (char32_t c = 0; c < 128; ++c)
+            kinds[c] = static_cast<std::uint8_t>((cls::isSpace(c) ? kSpace : 0) |
+                                                 (cls::isWordChar(c) ? kWordChar : 0) |
+                                                 (cls::isAlnum(c) ? kAlnum : 0));
+    }
+};
+constexpr WordKindTable kWordKinds;
+
+// A byte of an ASCII line, or a code point.
+inline std::uint8_t wordKind(char c) {
+    return kWordKinds.kinds[static_cast<unsigned char>(c) & 0x7F];
+}
+inline std::uint8_t wordKind(char32_t c) {
+    if (c < 128)
+        return kWordKinds.kinds[c];
+    return static_cast<std::uint8_t>((cls::isWordChar(c) ? kWordChar : 0) |
+                                     (cls::isAlnum(c) ? kAlnum : 0));
+}
+
 } // namespace
 
 // The copies of a line being cut, as bytes (C = char) or code points.
@@ -127,9 +154,13 @@ public:
     using View = std::basic_string_view<C>;
     static constexpr C kBlank = C(' ');
 
+    // `present`: the Presence kinds before the terminator when the caller has
+    // found them (the line ends in its terminator), else -1.
     LineCutter(std::string_view line, Scratch& scratch, Utterance& out, ProblemSink* sink,
-               TranscriptStore* store)
-        : line_(line.size() == scratch.buffers<C>().buf.size() ? line : std::string_view()),
+               TranscriptStore* store, int present = -1)
+        : present_(present < 0 ? 0 : static_cast<std::uint8_t>(present)),
+          presentKnown_(present >= 0),
+          line_(line.size() == scratch.buffers<C>().buf.size() ? line : std::string_view()),
           stable_(line), buf_(scratch.buffers<C>().buf), b_(buf_.data()),
           scratch_(scratch.buffers<C>().link), s_(scratch), out_(out), sink_(sink), store_(store),
           codePositions_(scratch.codePositions), codeCloses_(scratch.codeCloses),
@@ -163,12 +194,16 @@ private:
     void pausesAndCharacters();
     size_t readPause(size_t colon);
     void words();
-    void addWord(View text, size_t position, bool linked, bool malformed, bool contiguous = true);
+    // `plain`: 1 or 0 when the caller knows whether isPlainWord(text) holds, else -1.
+    void addWord(View text, size_t position, bool linked, bool malformed, bool contiguous = true,
+                 int plain = -1);
     bool inCode(size_t pos);
     bool isAttachedCode(size_t open) const;
     void attachCodes();
     void classify();
 
+    std::uint8_t present_ = 0; // the Presence kinds of the characters before the terminator
+    bool presentKnown_ = false;
     std::string_view line_;   // the line's bytes when it is all ASCII, else empty
     std::string_view stable_; // the line, alive as long as the store
     std::basic_string<C>& buf_;
@@ -181,7 +216,6 @@ private:
     size_t end_ = 0;         // position of the terminator (or of the end of the text)
     bool missingTerminator_ = false;
     bool textAfterEnd_ = false;
-    std::uint8_t present_ = 0; // the Presence kinds of the characters before the terminator
     std::vector<size_t>& codePositions_;
     std::vector<size_t>& codeCloses_;
     std::vector<bool>& codeAttached_; // written right after a word, with no blank between
@@ -206,7 +240,8 @@ template <class C> void LineCutter<C>::run() {
         return;
     }
     findEnd();
-    notePresentCharacters();
+    if (!presentKnown_)
+        notePresentCharacters();
     if (anyPresent(kCodeOrComment))
         commentsAndCodes();
     if (missingTerminator_)
@@ -582,12 +617,17 @@ template <class C> void LineCutter<C>::words() {
         }
         size_t start = i;
         bool hasCode = false;
+        // The plain-word test of the piece, made on the way.
+        std::uint8_t all = kWordChar, any = 0;
         while (i < end_) {
-            if (at(i) <= U' ' && cls::isSpace(at(i))) {
+            const std::uint8_t kind = wordKind(b_[i]);
+            if (kind & kSpace) {
                 if (!codes || !inCode(i))
                     break;
                 hasCode = true;
             }
+            all &= kind;
+            any |= kind;
             ++i;
         }
         View piece = text.substr(start, i - start);
@@ -634,7 +674,8 @@ template <class C> void LineCutter<C>::words() {
             linkShown = utf8(piece);
             continue;
         }
-        addWord(piece, start, false, malformed, !hasCode);
+        const int plain = hasCode || continues ? -1 : (all & kWordChar) && (any & kAlnum) ? 1 : 0;
+        addWord(piece, start, false, malformed, !hasCode, plain);
     }
     if (linkOpen)
         closeLink(false);
@@ -649,20 +690,25 @@ template <class C> bool LineCutter<C>::inCode(size_t pos) {
 
 template <class C>
 void LineCutter<C>::addWord(View text, size_t position, bool linked, bool malformed,
-                            bool contiguous) {
+                            bool contiguous, int plain) {
     if (malformed && sink_)
         report(Problem::MalformedLinkedWord, utf8(text));
     linked = linked || malformed;
     WordDraft& word = s_.word;
     if (!store_) {
-        if (!linked && isPlainWord(text))
-            return;
-        word.clear();
-        splitWord(text, linked, word, sink_, {}, s_.spare);
+        if (!linked) {
+            if (plain < 0)
+                plain = isPlainWord(text) ? 1 : 0;
+            if (plain == 1)
+                return;
+        }
+        checkWord(text, linked, word, s_.spare, sink_, plain == 0);
         return;
     }
     Word kept;
-    if (!linked && contiguous && !line_.empty() && isPlainWord(text)) {
+    if (plain < 0 && !linked && contiguous && !line_.empty())
+        plain = isPlainWord(text) ? 1 : 0;
+    if (!linked && contiguous && !line_.empty() && plain == 1) {
         // The common case, an ASCII word of word characters only: no rule
         // applies, and the word is a view of its line.
         kept.assignPlain(line_.substr(position, text.size()));
@@ -672,7 +718,7 @@ void LineCutter<C>::addWord(View text, size_t position, bool linked, bool malfor
         std::string_view bytes = linked || !contiguous || line_.empty()
                                      ? std::string_view()
                                      : line_.substr(position, text.size());
-        if (!splitWord(text, linked, word, sink_, bytes, s_.spare))
+        if (!splitWord(text, linked, word, sink_, bytes, s_.spare, plain == 0))
             return;
         word.flags.linked = linked;
         kept = store_->keepWord(word, stable_);
@@ -769,14 +815,21 @@ bool isAscii(std::string_view line) {
     return (high & 0x8080808080808080u) == 0;
 }
 
+// Cuts an all-ASCII line by the general rules, from its bytes; `present` as
+// for LineCutter.
+void cutAsciiLine(std::string_view line, int lineNumber, int speakerGroup, Scratch& s,
+                  Utterance& out, ProblemSink* sink, TranscriptStore* store, int present) {
+    s.bytes.buf.assign(line);
+    startUtterance(out, lineNumber, speakerGroup, line.empty() ? 0 : codePoint(line[0]));
+    LineCutter<char>(line, s, out, sink, store, present).run();
+}
+
 // Cuts a line by the general rules: from its bytes when it is all ASCII, else
 // from its code points.
 void cutLine(std::string_view line, int lineNumber, int speakerGroup, Scratch& s, Utterance& out,
              ProblemSink* sink, TranscriptStore* store) {
     if (!s.codePointsOnly && isAscii(line)) {
-        s.bytes.buf.assign(line);
-        startUtterance(out, lineNumber, speakerGroup, line.empty() ? 0 : codePoint(line[0]));
-        LineCutter<char>(line, s, out, sink, store).run();
+        cutAsciiLine(line, lineNumber, speakerGroup, s, out, sink, store, -1);
     } else {
         decodeCodePoints(line, s.codePoints.buf);
         const std::u32string& buf = s.codePoints.buf;
@@ -789,8 +842,7 @@ void cutLine(std::string_view line, int lineNumber, int speakerGroup, Scratch& s
 // letters, digits and apostrophes that each hold a letter or digit, blanks
 // between them, and a terminator at the end (blanks after it allowed). No
 // rule can find fault with such a line and its words need no splitting, so
-// it is cut straight from its bytes. Returns the terminator's position, or 0
-// when the line is not of this kind.
+// it is cut straight from its bytes (scanLine finds such lines).
 // What a byte of a plain line may be: 0 none of these, 1 a blank, 2 a letter
 // or digit, 3 an apostrophe.
 struct PlainBytes {
@@ -806,25 +858,18 @@ struct PlainBytes {
 };
 constexpr PlainBytes kPlainBytes;
 
-size_t plainLineEnd(std::string_view line) {
-    size_t n = line.size();
-    while (n > 2 && (line[n - 1] == ' ' || line[n - 1] == '\t'))
-        --n;
-    if (n < 3 || static_cast<unsigned char>(line[0]) >= 0x80 ||
-        kPlainBytes.kind[static_cast<unsigned char>(line[1])] != 1 ||
-        !cls::isTerminator(static_cast<unsigned char>(line[n - 1])))
-        return 0;
-    const size_t end = n - 1;
+// True when line[2, end) holds plain words only.
+bool plainWords(std::string_view line, size_t end) {
     // A word without a letter or digit: an apostrophe that follows a blank
     // and is not followed by a letter or digit before the next blank.
     bool inWord = false, alnum = false;
     for (size_t i = 2; i < end; ++i) {
         switch (kPlainBytes.kind[static_cast<unsigned char>(line[i])]) {
         case 0:
-            return 0;
+            return false;
         case 1:
             if (inWord && !alnum)
-                return 0;
+                return false;
             inWord = false;
             break;
         case 2:
@@ -837,7 +882,59 @@ size_t plainLineEnd(std::string_view line) {
             break;
         }
     }
-    return inWord && !alnum ? 0 : end;
+    return !(inWord && !alnum);
+}
+
+// The kinds of each byte for the one pass of lineScan: the Presence kinds
+// (kNonAscii for every byte from 0x80), and whether the byte may stand in a
+// plain line.
+enum LineByte : std::uint16_t { kNotPlain = 0x100, kApostrophe = 0x200 };
+struct LineBytes {
+    std::uint16_t kind[256] = {};
+    constexpr LineBytes() {
+        for (int c = 0; c < 256; ++c) {
+            kind[c] = c < 128 ? kPresence.kinds[c] : std::uint8_t{kNonAscii};
+            if (kPlainBytes.kind[c] == 0)
+                kind[c] |= kNotPlain;
+            else if (kPlainBytes.kind[c] == 3)
+                kind[c] |= kApostrophe;
+        }
+    }
+};
+constexpr LineBytes kLineBytes;
+
+// One pass over a line: whether it is a plain line, else whether it can be
+// cut from its bytes with its terminator last, and the kinds of the
+// characters before the terminator.
+struct LineScan {
+    size_t plainEnd = 0; // the terminator's position for a plain line, else 0
+    int present = -1;    // for an all-ASCII line ending in a terminator, else -1
+};
+
+LineScan scanLine(std::string_view line) {
+    LineScan scan;
+    // The terminator is the last non-blank character (as LineCutter::findEnd
+    // finds it); plain lines have only blanks and tabs after it.
+    size_t n = line.size();
+    bool blanksAfter = true;
+    while (n > 1 && cls::isSpace(static_cast<unsigned char>(line[n - 1]))) {
+        blanksAfter = blanksAfter && (line[n - 1] == ' ' || line[n - 1] == '\t');
+        --n;
+    }
+    if (n < 2 || static_cast<unsigned char>(line[0]) >= 0x80 ||
+        !cls::isTerminator(static_cast<unsigned char>(line[n - 1])))
+        return scan;
+    const size_t end = n - 1;
+    std::uint16_t kinds = 0;
+    for (size_t i = 1; i < end; ++i)
+        kinds |= kLineBytes.kind[static_cast<unsigned char>(line[i])];
+    if (kinds & kNonAscii)
+        return scan;
+    scan.present = kinds & 0x7F;
+    if (blanksAfter && end >= 2 && kPlainBytes.kind[static_cast<unsigned char>(line[1])] == 1 &&
+        !(kinds & kNotPlain) && (!(kinds & kApostrophe) || plainWords(line, end)))
+        scan.plainEnd = end;
+    return scan;
 }
 
 void cutPlainLine(std::string_view line, size_t end, std::vector<Word>& words, Utterance& out) {
@@ -872,7 +969,8 @@ void UtteranceSegmenter::segment(std::string_view line, int lineNumber, int spea
                                  TranscriptStore& store, Utterance& out, ProblemSink* sink) {
     Scratch& s = *scratch_;
     s.clear();
-    if (size_t end = s.codePointsOnly ? 0 : plainLineEnd(line)) {
+    const LineScan scan = s.codePointsOnly ? LineScan() : scanLine(line);
+    if (size_t end = scan.plainEnd) {
         out = Utterance();
         out.speakerGroup = static_cast<std::int8_t>(speakerGroup);
         out.line = lineNumber;
@@ -881,7 +979,10 @@ void UtteranceSegmenter::segment(std::string_view line, int lineNumber, int spea
         out.words = store.keep(s.words);
         return;
     }
-    cutLine(line, lineNumber, speakerGroup, s, out, sink, &store);
+    if (scan.present >= 0)
+        cutAsciiLine(line, lineNumber, speakerGroup, s, out, sink, &store, scan.present);
+    else
+        cutLine(line, lineNumber, speakerGroup, s, out, sink, &store);
     out.words = store.keep(s.words);
     s.mazes.clear();
     for (const std::vector<int>& words : s.mazeWords)
@@ -893,11 +994,15 @@ void UtteranceSegmenter::segment(std::string_view line, int lineNumber, int spea
 void UtteranceSegmenter::check(std::string_view line, int lineNumber, int speakerGroup,
                                ProblemSink& sink) {
     Scratch& s = *scratch_;
-    if (!s.codePointsOnly && plainLineEnd(line) != 0)
+    const LineScan scan = s.codePointsOnly ? LineScan() : scanLine(line);
+    if (scan.plainEnd != 0)
         return; // nothing in it can be faulty
     s.clear();
     Utterance out;
-    cutLine(line, lineNumber, speakerGroup, s, out, &sink, nullptr);
+    if (scan.present >= 0)
+        cutAsciiLine(line, lineNumber, speakerGroup, s, out, &sink, nullptr, scan.present);
+    else
+        cutLine(line, lineNumber, speakerGroup, s, out, &sink, nullptr);
 }
 
 Utterance segmentUtterance(std::string_view line, int lineNumber, int speakerGroup,

@@ -44,10 +44,13 @@ template <class C> size_t findEndingMark(std::basic_string_view<C> s) {
 template <class C> class WordSplitter {
 public:
     using View = std::basic_string_view<C>;
+    // Without `keep` the word is only checked: its problems are reported and
+    // no text or piece of the record is filled in.
     WordSplitter(View text, bool linked, WordDraft& word, ProblemSink* sink, std::string_view bytes,
-                 std::string& spare)
-        : w_(text), bytes_(sameText(bytes, text) ? bytes : std::string_view()), linked_(linked),
-          word_(word), flags_(word.flags), sink_(sink), spare_(spare) {}
+                 std::string& spare, bool keep, bool notPlain)
+        : w_(text), bytes_(keep && sameText(bytes, text) ? bytes : std::string_view()),
+          linked_(linked), keep_(keep), notPlain_(notPlain), word_(word), flags_(word.flags),
+          sink_(sink), spare_(spare) {}
     bool run();
 
 private:
@@ -74,6 +77,8 @@ private:
     std::string_view bytes_; // w_ as UTF-8 (all ASCII), or empty
     std::string_view text_;  // w_ as UTF-8, the word's text
     bool linked_;
+    bool keep_;
+    bool notPlain_; // the caller found the word is not plain
     WordDraft& word_;
     Word& flags_;
     ProblemSink* sink_;
@@ -98,7 +103,7 @@ template <class C> std::string_view WordSplitter<C>::view(size_t from, size_t to
 }
 
 template <class C> bool WordSplitter<C>::run() {
-    if (plainWord())
+    if (!notPlain_ && plainWord())
         return true;
     if (w_.starts_with(C('+'))) {
         report(Problem::UnboundCliticMark);
@@ -108,13 +113,15 @@ template <class C> bool WordSplitter<C>::run() {
         if (w_.empty())
             return false;
     }
-    if (!bytes_.empty()) {
-        text_ = bytes_;
-    } else {
-        assignUtf8(spare_, w_);
-        text_ = spare_;
+    if (keep_) {
+        if (!bytes_.empty()) {
+            text_ = bytes_;
+        } else {
+            assignUtf8(spare_, w_);
+            text_ = spare_;
+        }
+        word_.text = text_;
     }
-    word_.text = text_;
     checkRootIdentification();
     checkMarks();
     size_t mark = findEndingMark(w_);
@@ -130,6 +137,8 @@ template <class C> bool WordSplitter<C>::run() {
 template <class C> bool WordSplitter<C>::plainWord() {
     if (!isPlainWord(w_))
         return false;
+    if (!keep_)
+        return true;
     if (!bytes_.empty()) {
         text_ = bytes_;
     } else {
@@ -157,7 +166,8 @@ template <class C> void WordSplitter<C>::checkRootIdentification() {
               });
         if (!bad && root.starts_with(C('%')))
             root.remove_prefix(1);
-        word_.rootIdentification = view(root);
+        if (keep_)
+            word_.rootIdentification = view(root);
     }
     if (bad)
         report(Problem::RootIdentificationFormat);
@@ -220,7 +230,7 @@ template <class C> void WordSplitter<C>::splitStem(View stem, char32_t nextMark)
                 report(Problem::MissingPrefix);
             else if (!legalEnding(prefix))
                 report(Problem::IllegalPrefix);
-            else
+            else if (keep_)
                 word_.pieces[0].push_back(view(prefix));
             if (cut == View::npos)
                 break;
@@ -229,7 +239,8 @@ template <class C> void WordSplitter<C>::splitStem(View stem, char32_t nextMark)
         if (slash + 1 == stem.size())
             report(Problem::MissingRoot);
     }
-    word_.root = view(stem);
+    if (keep_)
+        word_.root = view(stem);
     View root = slash == View::npos ? stem : stem.substr(slash + 1);
     if (!root.empty() && !legalRoot(root))
         report(Problem::IllegalWord);
@@ -262,7 +273,8 @@ template <class C> void WordSplitter<C>::splitEndings(View rest) {
                 report(Problem::IllegalClitic);
             continue;
         }
-        word_.pieces[bound ? (omitted ? 2 : 1) : (omitted ? 4 : 3)].push_back(view(ending));
+        if (keep_)
+            word_.pieces[bound ? (omitted ? 2 : 1) : (omitted ? 4 : 3)].push_back(view(ending));
         if (omitted && bound)
             flags_.omittedBoundMorpheme = true;
         else if (omitted)
@@ -320,8 +332,14 @@ template <class C> bool isUnintelligibleMark(std::basic_string_view<C> root) {
 
 template <class C>
 bool splitWord(std::basic_string_view<C> text, bool linked, WordDraft& word, ProblemSink* sink,
-               std::string_view bytes, std::string& spare) {
-    return WordSplitter<C>(text, linked, word, sink, bytes, spare).run();
+               std::string_view bytes, std::string& spare, bool notPlain) {
+    return WordSplitter<C>(text, linked, word, sink, bytes, spare, true, notPlain).run();
+}
+
+template <class C>
+void checkWord(std::basic_string_view<C> text, bool linked, WordDraft& scratch, std::string& spare,
+               ProblemSink* sink, bool notPlain) {
+    WordSplitter<C>(text, linked, scratch, sink, {}, spare, false, notPlain).run();
 }
 
 template <class C>
@@ -353,12 +371,16 @@ void splitRemarkWords(std::basic_string_view<C> inner, TranscriptStore& store,
 template bool isPlainWord(std::basic_string_view<char>);
 template bool isUnintelligibleMark(std::basic_string_view<char>);
 template bool splitWord(std::basic_string_view<char>, bool, WordDraft&, ProblemSink*,
-                        std::string_view, std::string&);
+                        std::string_view, std::string&, bool);
+template void checkWord(std::basic_string_view<char>, bool, WordDraft&, std::string&, ProblemSink*,
+                        bool);
 template void splitRemarkWords(std::basic_string_view<char>, TranscriptStore&, std::vector<Word>&);
 template bool isPlainWord(std::basic_string_view<char32_t>);
 template bool isUnintelligibleMark(std::basic_string_view<char32_t>);
 template bool splitWord(std::basic_string_view<char32_t>, bool, WordDraft&, ProblemSink*,
-                        std::string_view, std::string&);
+                        std::string_view, std::string&, bool);
+template void checkWord(std::basic_string_view<char32_t>, bool, WordDraft&, std::string&,
+                        ProblemSink*, bool);
 template void splitRemarkWords(std::basic_string_view<char32_t>, TranscriptStore&,
                                std::vector<Word>&);
 

@@ -19,9 +19,16 @@ namespace tavi {
 // Splits `text` (a word or joined linked word, without blanks) into `word`,
 // whose views point into `bytes` when it holds the same word as UTF-8, else
 // into `spare` (overwritten). False when nothing of it is a word (a lone "+").
+// `notPlain`: the caller has found that isPlainWord(text) is false.
 template <class C>
 bool splitWord(std::basic_string_view<C> text, bool linked, WordDraft& word, ProblemSink* sink,
-               std::string_view bytes, std::string& spare);
+               std::string_view bytes, std::string& spare, bool notPlain = false);
+
+// The checks of splitWord alone: the same problems are reported and nothing
+// is kept (`scratch` and `spare` are only worked in, their contents unread).
+template <class C>
+void checkWord(std::basic_string_view<C> text, bool linked, WordDraft& scratch, std::string& spare,
+               ProblemSink* sink, bool notPlain = false);
 
 // Only the checks of splitWord, for a plain word without filling the record.
 // True when the word is plain (only word characters, a letter or digit):
