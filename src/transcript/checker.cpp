@@ -40,8 +40,12 @@ std::string shown(char32_t c) {
 }
 
 char32_t firstChar(std::string_view text) {
+    if (text.empty())
+        return 0;
+    if (static_cast<unsigned char>(text[0]) < 0x80)
+        return static_cast<unsigned char>(text[0]);
     size_t pos = 0;
-    return text.empty() ? 0 : nextCodePoint(text, pos);
+    return nextCodePoint(text, pos);
 }
 
 } // namespace

@@ -6,11 +6,29 @@
 
 namespace tavi {
 
+namespace {
+
+// cls::cannotBeginUtterance of each ASCII character.
+struct AsciiStarts {
+    bool cannotBegin[128] = {};
+    constexpr AsciiStarts() {
+        for (char32_t c = 0; c < 128; ++c)
+            cannotBegin[c] = cls::cannotBeginUtterance(c);
+    }
+};
+constexpr AsciiStarts kAsciiStarts;
+
+} // namespace
+
 LineKind classifyLine(std::string_view text) {
-    if (trim(text).empty())
+    // A line that begins with other than white space is not blank.
+    if ((text.empty() || isBlank(text[0])) && trim(text).empty())
         return LineKind::Blank;
-    size_t pos = 0;
-    char32_t first = nextCodePoint(text, pos);
+    char32_t first = static_cast<unsigned char>(text[0]);
+    if (first >= 0x80) {
+        size_t pos = 0;
+        first = nextCodePoint(text, pos);
+    }
     switch (first) {
     case U'$':
         return LineKind::SpeakerLabels;
@@ -28,7 +46,9 @@ LineKind classifyLine(std::string_view text) {
     default:
         break;
     }
-    return cls::cannotBeginUtterance(first) ? LineKind::Invalid : LineKind::Utterance;
+    const bool cannotBegin =
+        first < 128 ? kAsciiStarts.cannotBegin[first] : cls::cannotBeginUtterance(first);
+    return cannotBegin ? LineKind::Invalid : LineKind::Utterance;
 }
 
 } // namespace tavi

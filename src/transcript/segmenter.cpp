@@ -194,6 +194,7 @@ private:
     void pausesAndCharacters();
     size_t readPause(size_t colon);
     void words();
+    void checkLoneWords();
     // `plain`: 1 or 0 when the caller knows whether isPlainWord(text) holds, else -1.
     void addWord(View text, size_t position, bool linked, bool malformed, bool contiguous = true,
                  int plain = -1);
@@ -588,8 +589,36 @@ template <class C> size_t LineCutter<C>::readPause(size_t colon) {
     return last - 1;
 }
 
+// Only checking a line without codes or word links: each word stands alone,
+// and a plain one has nothing to check.
+template <class C> void LineCutter<C>::checkLoneWords() {
+    const C* b = b_;
+    const size_t end = end_;
+    size_t i = 1;
+    while (i < end) {
+        std::uint8_t kind = wordKind(b[i]);
+        if (kind & kSpace) {
+            ++i;
+            continue;
+        }
+        const size_t start = i;
+        std::uint8_t all = kWordChar, any = 0;
+        do {
+            all &= kind;
+            any |= kind;
+            ++i;
+        } while (i < end && !((kind = wordKind(b[i])) & kSpace));
+        if (!(all & kWordChar) || !(any & kAlnum))
+            checkWord(View(b + start, i - start), false, s_.word, s_.spare, sink_, true);
+    }
+}
+
 // Word links, then each word.
 template <class C> void LineCutter<C>::words() {
+    if (!store_ && codeCloses_.empty() && !anyPresent(kLink)) {
+        checkLoneWords();
+        return;
+    }
     View text(buf_);
     scratch_.clear();
     size_t linkPosition = 0;
@@ -925,9 +954,18 @@ LineScan scanLine(std::string_view line) {
         !cls::isTerminator(static_cast<unsigned char>(line[n - 1])))
         return scan;
     const size_t end = n - 1;
-    std::uint16_t kinds = 0;
-    for (size_t i = 1; i < end; ++i)
-        kinds |= kLineBytes.kind[static_cast<unsigned char>(line[i])];
+    auto kindAt = [&](size_t i) { return kLineBytes.kind[static_cast<unsigned char>(line[i])]; };
+    std::uint16_t k0 = 0, k1 = 0, k2 = 0, k3 = 0;
+    size_t i = 1;
+    for (; i + 4 <= end; i += 4) {
+        k0 |= kindAt(i);
+        k1 |= kindAt(i + 1);
+        k2 |= kindAt(i + 2);
+        k3 |= kindAt(i + 3);
+    }
+    for (; i < end; ++i)
+        k0 |= kindAt(i);
+    const std::uint16_t kinds = k0 | k1 | k2 | k3;
     if (kinds & kNonAscii)
         return scan;
     scan.present = kinds & 0x7F;

@@ -79,6 +79,9 @@ private:
     bool linked_;
     bool keep_;
     bool notPlain_; // the caller found the word is not plain
+    // The marks the word holds: the steps about marks it lacks are skipped.
+    enum : unsigned { kBar = 1, kStar = 2, kPercent = 4, kBackslash = 8, kEnding = 16 };
+    unsigned marks_ = 0;
     WordDraft& word_;
     Word& flags_;
     ProblemSink* sink_;
@@ -122,9 +125,31 @@ template <class C> bool WordSplitter<C>::run() {
         }
         word_.text = text_;
     }
+    for (C ch : w_) {
+        switch (codePoint(ch)) {
+        case U'|':
+            marks_ |= kBar;
+            break;
+        case U'*':
+            marks_ |= kStar;
+            break;
+        case U'%':
+            marks_ |= kPercent;
+            break;
+        case U'\\':
+            marks_ |= kBackslash;
+            break;
+        case U'/':
+        case U'+':
+            marks_ |= kEnding;
+            break;
+        default:
+            break;
+        }
+    }
     checkRootIdentification();
     checkMarks();
-    size_t mark = findEndingMark(w_);
+    size_t mark = marks_ & kEnding ? findEndingMark(w_) : View::npos;
     View stem = w_.substr(0, mark);
     splitStem(stem, mark == View::npos ? 0 : codePoint(w_[mark]));
     if (mark != View::npos)
@@ -153,6 +178,8 @@ template <class C> bool WordSplitter<C>::plainWord() {
 // "written|root": one "|", neither first nor last, the root of word
 // characters. A word ending in "||" is accepted as it stands.
 template <class C> void WordSplitter<C>::checkRootIdentification() {
+    if (!(marks_ & kBar))
+        return;
     size_t bar = findIn(w_, C('|'));
     if (bar == View::npos ||
         (w_.size() >= 2 && w_.ends_with(C('|')) && w_[w_.size() - 2] == C('|')))
@@ -175,6 +202,8 @@ template <class C> void WordSplitter<C>::checkRootIdentification() {
 
 // "*" and "%" after the first character.
 template <class C> void WordSplitter<C>::checkMarks() {
+    if (!(marks_ & (kStar | kPercent)))
+        return;
     for (size_t i = 1; i < w_.size(); ++i) {
         char32_t c = codePoint(w_[i]);
         char32_t before = codePoint(w_[i - 1]);
@@ -219,8 +248,9 @@ template <class C> void WordSplitter<C>::splitStem(View stem, char32_t nextMark)
             return;
         }
     }
-    stem = stem.substr(0, findIn(stem, C('|')));
-    size_t slash = stem.rfind(C('\\'));
+    if (marks_ & kBar)
+        stem = stem.substr(0, findIn(stem, C('|')));
+    size_t slash = marks_ & kBackslash ? stem.rfind(C('\\')) : View::npos;
     if (slash != View::npos) {
         View prefixes = stem.substr(0, slash);
         while (true) {
