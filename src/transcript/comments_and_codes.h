@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <type_traits>
 
@@ -37,8 +38,24 @@ void scanCommentsAndCodes(std::basic_string<Char>& text, std::size_t end, Visito
     };
     bool inComment = false, inCode = false;
     std::size_t start = 0;
+    auto at = [&](std::size_t i) {
+        return static_cast<char32_t>(static_cast<std::make_unsigned_t<Char>>(text[i]));
+    };
+    // "[", "]", "{" and "}": outside comments and codes no other character matters.
+    constexpr std::uint64_t kBrackets =
+        (std::uint64_t{1} << ('[' - 64)) | (std::uint64_t{1} << (']' - 64)) |
+        (std::uint64_t{1} << ('{' - 64)) | (std::uint64_t{1} << ('}' - 64));
+    auto isBracket = [&](char32_t c) {
+        return c >= 64 && c < 128 && ((kBrackets >> (c - 64)) & 1) != 0;
+    };
     for (std::size_t i = 1; i < end; ++i) {
-        auto c = static_cast<char32_t>(static_cast<std::make_unsigned_t<Char>>(text[i]));
+        if (!inComment && !inCode) {
+            while (i < end && !isBracket(at(i)))
+                ++i;
+            if (i == end)
+                break;
+        }
+        auto c = at(i);
         if (inComment) {
             if (c == U'{') {
                 detail::scanReport(v, Problem::NestedComment);

@@ -74,6 +74,39 @@ struct WordKindTable {
 };
 constexpr WordKindTable kWordKinds;
 
+// The characters each step of the cut has a rule for, one bit per step; a
+// step passes over the others. Every character from 128 concerns every step.
+enum StepKind : std::uint8_t { kParenStep = 1, kMazeStep = 2, kPauseStep = 4 };
+
+struct StepTable {
+    std::uint8_t kinds[128] = {};
+    constexpr StepTable() {
+        for (char32_t c = 0; c < 128; ++c) {
+            // A blank, a separator, is blanked: it stays what it is.
+            if (c == U'(' || c == U')' || (cls::isSeparator(c) && c != U' '))
+                kinds[c] |= kParenStep;
+            if (c == U'(' || c == U')' || c == U'<' || c == U'>')
+                kinds[c] |= kMazeStep;
+            if (c == U':' || cls::isTerminator(c) || (cls::isLineIdentifier(c) && c != U'+') ||
+                cls::isControl(c))
+                kinds[c] |= kPauseStep;
+        }
+    }
+};
+constexpr StepTable kSteps;
+
+// The first position from `i` (up to `end`) of a character that concerns
+// `step`.
+template <class C> size_t nextFor(const C* b, size_t i, size_t end, std::uint8_t step) {
+    while (i < end) {
+        const char32_t c = codePoint(b[i]);
+        if (c >= 128 || (kSteps.kinds[c] & step))
+            break;
+        ++i;
+    }
+    return i;
+}
+
 // A byte of an ASCII line, or a code point.
 inline std::uint8_t wordKind(char c) {
     return kWordKinds.kinds[static_cast<unsigned char>(c) & 0x7F];
@@ -341,7 +374,7 @@ template <class C> void LineCutter<C>::parentheticals() {
     int inner = 0;     // single-bracket balance inside the open remark
     int mazeDepth = 0; // single-bracket depth outside remarks
     size_t i = 1;
-    while (i < end_) {
+    while ((i = nextFor(b_, i, end_, kParenStep)) < end_) {
         char32_t c = at(i);
         bool pairNext = i + 1 < end_ && at(i + 1) == c;
         if (c == U'(' && pairNext) {
@@ -425,7 +458,7 @@ template <class C> void LineCutter<C>::closeParenthetical(size_t open, size_t cl
 template <class C> void LineCutter<C>::mazesAndOverlaps() {
     size_t maze = 0, overlap = 0;
     bool mazeOpen = false, overlapOpen = false;
-    for (size_t i = 1; i < end_; ++i) {
+    for (size_t i = 1; (i = nextFor(b_, i, end_, kMazeStep)) < end_; ++i) {
         switch (at(i)) {
         case U'(':
             if (mazeOpen) {
@@ -507,7 +540,7 @@ std::string shown(char32_t c) {
 }
 
 template <class C> void LineCutter<C>::pausesAndCharacters() {
-    for (size_t i = 1; i < end_; ++i) {
+    for (size_t i = 1; (i = nextFor(b_, i, end_, kPauseStep)) < end_; ++i) {
         char32_t c = at(i);
         if (c == U':') {
             i = readPause(i);
