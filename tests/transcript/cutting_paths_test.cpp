@@ -1,6 +1,9 @@
-// An all-ASCII line is cut straight from its bytes, every other line from its
-// decoded code points. Lines made up and mutated from the notation's
-// characters must give the same problems and the same record either way.
+// An all-ASCII line is cut straight from its bytes (through the plain-line
+// shortcut when it holds plain words only, and passing over the characters
+// each step has no rule for), every other line from its decoded code points,
+// looking at every character. Lines made up and mutated from the notation's
+// characters must give the same problems and the same record either way, and
+// checking a line must report what cutting it reports.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -166,6 +169,46 @@ TEST(CuttingPaths, BytesAndCodePointsAgree) {
         ASSERT_EQ(cutBy(bytes, line), cutBy(codePoints, line)) << line;
     }
     EXPECT_GT(ascii, 5000); // most lines do take the byte path
+}
+
+// Lines at the edge of the plain-line shortcut: plain words, apostrophes,
+// blanks and tabs, other white space after the terminator, and one character
+// of the notation or outside ASCII put in now and then.
+std::string makeNearPlainLine(std::mt19937& rng) {
+    static const std::vector<std::string> words = {"go", "I", "don't", "'s", "'",   "''",
+                                                   "a'", "9", "x",     "XX", "dog", "x'x"};
+    static const std::vector<std::string> blanks = {" ", "  ", "\t", " \t"};
+    static const std::vector<std::string> after = {"", " ", "\t", " \t ", "\v", " \f", "\t\v "};
+    static const std::string odd = ",(/)_[]{}<>:*%|\\+&#\"=;-$@.!?~^\x01\x7F\v";
+    std::string line(1, "CEx+ ;9'"[rng() % 8]);
+    if (rng() % 12 != 0)
+        line += blanks[rng() % blanks.size()];
+    for (int k = 0, n = static_cast<int>(rng() % 8); k < n; ++k) {
+        if (k > 0)
+            line += blanks[rng() % blanks.size()];
+        line += words[rng() % words.size()];
+    }
+    if (rng() % 6 != 0)
+        line += ".!?~^>"[rng() % 6];
+    line += after[rng() % after.size()];
+    if (rng() % 3 == 0 && !line.empty()) {
+        size_t at = rng() % line.size();
+        if (rng() % 5 == 0)
+            line.insert(at, "\xC3\xA9");
+        else
+            line.insert(at, 1, odd[rng() % odd.size()]);
+    }
+    return line;
+}
+
+TEST(CuttingPaths, NearPlainLinesAgree) {
+    UtteranceSegmenter bytes, codePoints;
+    codePoints.setCodePointsOnly(true);
+    std::mt19937 rng(5);
+    for (int n = 0; n < 20000; ++n) {
+        std::string line = makeNearPlainLine(rng);
+        ASSERT_EQ(cutBy(bytes, line), cutBy(codePoints, line)) << line;
+    }
 }
 
 } // namespace
