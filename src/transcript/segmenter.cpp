@@ -60,11 +60,12 @@ constexpr PresenceTable kPresence;
 
 // What a character is to the word pass, one bit each: white space, a word
 // character, a letter or digit (a word of word characters only, with a letter
-// or digit, is plain).
+// or digit, is plain). A byte from 128 (never in a line cut from its bytes) is
+// none of these.
 enum WordKind : std::uint8_t { kSpace = 1, kWordChar = 2, kAlnum = 4 };
 
 struct WordKindTable {
-    std::uint8_t kinds[128] = {};
+    std::uint8_t kinds[256] = {};
     constexpr WordKindTable() {
         for (char32_t c = 0; c < 128; ++c)
             kinds[c] = static_cast<std::uint8_t>((cls::isSpace(c) ? kSpace : 0) |
@@ -75,11 +76,11 @@ struct WordKindTable {
 constexpr WordKindTable kWordKinds;
 
 // The characters each step of the cut has a rule for, one bit per step; a
-// step passes over the others. Every character from 128 concerns every step.
+// step passes over the others. Every byte from 128 concerns every step.
 enum StepKind : std::uint8_t { kParenStep = 1, kMazeStep = 2, kPauseStep = 4 };
 
 struct StepTable {
-    std::uint8_t kinds[128] = {};
+    std::uint8_t kinds[256] = {};
     constexpr StepTable() {
         for (char32_t c = 0; c < 128; ++c) {
             // A blank, a separator, is blanked: it stays what it is.
@@ -91,6 +92,8 @@ struct StepTable {
                 cls::isControl(c))
                 kinds[c] |= kPauseStep;
         }
+        for (int c = 128; c < 256; ++c)
+            kinds[c] = kParenStep | kMazeStep | kPauseStep;
     }
 };
 constexpr StepTable kSteps;
@@ -100,7 +103,7 @@ constexpr StepTable kSteps;
 // compare the byte cut with, looks at every character.
 template <class C> size_t nextFor(const C* b, size_t i, size_t end, std::uint8_t step) {
     if constexpr (std::is_same_v<C, char>) {
-        while (i < end && !(kSteps.kinds[static_cast<unsigned char>(b[i]) & 0x7F] & step))
+        while (i < end && !(kSteps.kinds[static_cast<unsigned char>(b[i])] & step))
             ++i;
     }
     return i;
@@ -108,7 +111,7 @@ template <class C> size_t nextFor(const C* b, size_t i, size_t end, std::uint8_t
 
 // A byte of an ASCII line, or a code point.
 inline std::uint8_t wordKind(char c) {
-    return kWordKinds.kinds[static_cast<unsigned char>(c) & 0x7F];
+    return kWordKinds.kinds[static_cast<unsigned char>(c)];
 }
 inline std::uint8_t wordKind(char32_t c) {
     if (c < 128)
