@@ -4,6 +4,14 @@
 // parenthetical remarks and separators, mazes and overlaps, pauses and stray
 // characters, word links, words. Every faulty part is blanked after it is
 // reported, so later steps never report it again.
+//
+// One pass over the line's bytes first tells a line of plain words (cut
+// straight from its bytes, never faulty) from the rest, and for an all-ASCII
+// line ending in its terminator gives the kinds of characters it holds, so
+// the steps with nothing to do are skipped. On bytes each step passes over the
+// characters it has no rule for; on code points every character is looked at
+// (the tests hold the two to the same results). When the line is only
+// checked, nothing is kept: words are checked, not built.
 #include "transcript/segmenter.h"
 
 #include <algorithm>
