@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <vector>
 
+#include "analysis/macro_measures.h"
+#include "analysis/maze_kind.h"
 #include "analysis/measures.h"
 #include "analysis/utterance_facts.h"
 
@@ -33,6 +35,49 @@ struct PauseSums {
     }
 };
 
+// What the utterance-level measures of one main speaker count, gathered for
+// both speakers in one walk over the cut's utterances (walkUtterances) rather
+// than one walk per family of measures.
+struct SpeakerTallies {
+    // Over the speaker's utterances of the cut (terminators are counted for
+    // a speaker left unmeasured too: the other speaker's responses read them).
+    std::array<int, 6> terms{};
+    std::array<int, 3> intel{};
+    int nonverbal = 0;
+    int words = 0;     // counted words (UtteranceFacts::wordCount)
+    int morphemes = 0; // and their morphemes
+    int mazeWords = 0;
+    int marks = 0; // unintelligible marks
+    int withPause = 0, withOmission = 0, withRemark = 0, withQuotation = 0, withComment = 0;
+    // Codes and omissions.
+    CodeTally errors, fluency, nonmainstream, codeSwitch;
+    int omittedWords = 0, omittedMorphemes = 0, omittedClitics = 0, errorWords = 0;
+    int withWordCode = 0, withUtteranceCode = 0, withExcludeCode = 0, withCode = 0;
+    int withError = 0, withFluency = 0, withNonmainstream = 0, withCodeSwitch = 0;
+    int withErrorOrOmission = 0;
+    // Over the analysis set.
+    int setWords = 0, setMorphemes = 0, setWithNonmainstream = 0;
+    SiSummary si;
+    // Responses, imitations, spontaneous utterances, overlaps, interruptions.
+    int question = 0, yesNo = 0, clarification = 0, otherAnswer = 0, prompt = 0;
+    int imitation = 0, exact = 0, reduced = 0, oneWord = 0;
+    int spontaneous = 0;
+    std::array<int, 6> spontaneousBy{}; // by terminator
+    int overlap = 0, interrupts = 0;
+    // Turns: utterances and words of each.
+    std::vector<int> turnUtterances, turnWords;
+    int previous = -2; // the speaker's utterance walked last
+    PauseSums within;  // pauses within utterances
+    // Mazes.
+    int mazes = 0, withMaze = 0;
+    std::array<int, kMazeKinds> mazeKinds{};
+    std::array<int, 16> uttsByLength{}, mazeUttsByLength{}, mazesByUttLength{}, mazesByLength{};
+    // Utterance-length distribution rows.
+    std::array<int, 16> lengthRows{};
+    // Per utterance of the speaker's total: bit k, it goes in utterance list k.
+    std::vector<std::uint32_t> listBits;
+};
+
 struct MeasureContext {
     const SegmentedTranscript& t;
     const MeasureOptions& options;
@@ -42,6 +87,7 @@ struct MeasureContext {
     FactTables tables;                              // the facts' words, roots, forms and endings
     std::array<MentionedFirst, 2> mentionedFirst{}; // by main speaker
     std::array<PauseSums, 2> pausesBetween{}; // pause lines before each main speaker's utterances
+    std::array<SpeakerTallies, 2> tallies;    // by main speaker
     const RootIds& rootIds() const { return tables.roots; }
 };
 
@@ -54,6 +100,8 @@ struct SpeakerView {
 
     const Utterance& utt(int i) const { return c.t.utterances[i]; }
     const UtteranceFacts& facts(int i) const { return c.facts[i]; }
+    // What the walk over the cut's utterances counted for this speaker.
+    const SpeakerTallies& tally() const { return c.tallies[static_cast<size_t>(speaker)]; }
     const CodeFacts& codes(int i) const { return c.facts[i].codeFacts(c.tables); }
     const SpellingFacts& spelling(const CountedWord& w) const { return c.tables.spelling(w); }
     // The counted main-body words of utterance `i`.
@@ -67,8 +115,10 @@ struct SpeakerView {
     }
 };
 
-// Fills MeasureContext::mentionedFirst, once for both speakers.
-void countMentionedFirst(MeasureContext& c);
+// Gathers the facts of every utterance of the cut and fills
+// MeasureContext::mentionedFirst and the tallies of the speakers `measured`
+// in one walk over the cut's utterances.
+void walkUtterances(MeasureContext& c, const std::array<bool, 2>& measured);
 // Fills MeasureContext::pausesBetween, once for both speakers.
 void countPausesBetween(MeasureContext& c);
 

@@ -66,7 +66,8 @@ MeasureResult computeMeasures(const SegmentedTranscript& transcript, const Measu
     result.wordListsAvailable = static_cast<bool>(yesNoTest(options));
     result.categoriesAvailable = options.dictionary != nullptr;
 
-    MeasureContext c{transcript, options, result.selection, {}, codeMatchersFor(options), {}};
+    MeasureContext c{transcript, options, result.selection, {}, codeMatchersFor(options), {}, {},
+                     {},         {}};
     c.facts.resize(transcript.utterances.size());
     // Room for every word, remark word and code record: a run that doubles as
     // it grows needs thrice.
@@ -80,16 +81,15 @@ MeasureResult computeMeasures(const SegmentedTranscript& transcript, const Measu
     c.tables.words.reserve(words);
     c.tables.remarkRoots.reserve(remarks);
     c.tables.codeFacts.reserve(withCodes);
-    for (int i : result.selection.utterances)
-        c.facts[i] = gatherFacts(transcript.utterances[i], options.wordBase, c.codes, c.tables);
-    countMentionedFirst(c);
+    const std::array<bool, 2> measured = {which != MeasuredSpeakers::Second,
+                                          which != MeasuredSpeakers::First};
+    walkUtterances(c, measured);
     countPausesBetween(c);
 
     for (int s = 0; s < 2; ++s) {
         SpeakerMeasures& m = result.speakers[s];
         m.speaker = s;
-        if ((which == MeasuredSpeakers::First && s != 0) ||
-            (which == MeasuredSpeakers::Second && s != 1))
+        if (!measured[static_cast<size_t>(s)])
             continue;
         const SpeakerSelection& sel = result.selection.speakers[s];
         SpeakerView v{c, s, sel.total, sel.analysisSet};

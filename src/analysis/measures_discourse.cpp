@@ -12,42 +12,7 @@ namespace {
 
 using Id = MeasureId;
 
-// What the response, spontaneity and overlap measures count over one
-// speaker's utterances, gathered in one walk.
-struct DiscourseCounts {
-    int question = 0, yesNo = 0, clarification = 0, otherAnswer = 0, prompt = 0;
-    int imitation = 0, exact = 0, reduced = 0, oneWord = 0;
-    int spontaneous = 0;
-    std::array<int, 6> spontaneousBy{}; // spontaneous utterances by terminator
-    int overlap = 0, interrupts = 0;
-
-    void add(const SpeakerView& v, int i) {
-        const ResponseType& r = v.response(i);
-        const Terminator term = v.utt(i).terminator;
-        question += r.question ? 1 : 0;
-        yesNo += r.yesNo ? 1 : 0;
-        clarification += r.question && term == Terminator::Question ? 1 : 0;
-        otherAnswer += r.question && !r.yesNo && term != Terminator::Question ? 1 : 0;
-        prompt += r.prompt ? 1 : 0;
-        imitation += r.imitation ? 1 : 0;
-        exact += r.exactImitation ? 1 : 0;
-        reduced += r.reducedImitation ? 1 : 0;
-        oneWord += r.oneWord ? 1 : 0;
-        if (!r.question && !r.prompt && !r.imitation) {
-            ++spontaneous;
-            if (static_cast<size_t>(term) < spontaneousBy.size())
-                ++spontaneousBy[static_cast<size_t>(term)];
-        }
-        overlap += v.facts(i).overlap ? 1 : 0;
-        if (i > 0) {
-            const Utterance& prev = v.utt(i - 1);
-            interrupts +=
-                prev.speakerGroup == 1 - v.speaker && prev.terminator == Terminator::Interrupted
-                    ? 1
-                    : 0;
-        }
-    }
-};
+using DiscourseCounts = SpeakerTallies;
 
 void fillResponses(const SpeakerView& v, const DiscourseCounts& d, SpeakerMeasures& m) {
     m[Id::RespToQues] = Value::count(d.question);
@@ -60,12 +25,9 @@ void fillResponses(const SpeakerView& v, const DiscourseCounts& d, SpeakerMeasur
     m[Id::ReducedImit] = Value::count(d.reduced);
     m[Id::OneWdUt] = Value::count(d.oneWord);
 
-    int otherQ = 0, otherP = 0;
-    for (int i : v.c.selection.speakers[1 - v.speaker].total) {
-        const Terminator t = v.utt(i).terminator;
-        otherQ += t == Terminator::Question ? 1 : 0;
-        otherP += t == Terminator::Prompt ? 1 : 0;
-    }
+    const auto& other = v.c.tallies[static_cast<size_t>(1 - v.speaker)].terms;
+    const int otherQ = other[static_cast<size_t>(Terminator::Question)];
+    const int otherP = other[static_cast<size_t>(Terminator::Prompt)];
     m[Id::OtherSpkQues] = Value::count(otherQ);
     m[Id::OtherSpkIntPrmpt] = Value::count(otherP);
     m[Id::PctRespQues] = m[Id::PctRespToQues] = Value::ratio(d.question, otherQ, 100);
@@ -124,17 +86,8 @@ double medianOfCounts(const std::vector<int>& counts) {
 // are numbered in the order of the transcript's entries), so the speaker's
 // utterance `i` goes on a turn when the speaker's one before it is `i - 1`.
 void fillTurns(const SpeakerView& v, SpeakerMeasures& m) {
-    std::vector<int> utts, words;
-    int previous = -2;
-    for (int i : v.total) {
-        if (i != previous + 1) {
-            utts.push_back(0);
-            words.push_back(0);
-        }
-        previous = i;
-        utts.back() += 1;
-        words.back() += v.facts(i).wordCount;
-    }
+    const std::vector<int>& utts = v.tally().turnUtterances;
+    const std::vector<int>& words = v.tally().turnWords;
     const double turns = static_cast<double>(utts.size());
     long uttSum = 0, wordSum = 0;
     std::array<int, 7> byUtts{};
@@ -162,9 +115,7 @@ void fillTurns(const SpeakerView& v, SpeakerMeasures& m) {
 } // namespace
 
 void fillDiscourse(const SpeakerView& v, SpeakerMeasures& m) {
-    DiscourseCounts d;
-    for (int i : v.total)
-        d.add(v, i);
+    const DiscourseCounts& d = v.tally();
     fillResponses(v, d, m);
     fillSpontaneous(d, m);
     fillOverlapsAndInterruptions(v, d, m);
