@@ -35,6 +35,37 @@ struct PauseSums {
     }
 };
 
+// Non-negative counts kept as how many times each value occurs, so that their
+// number, sum and median need no record of each. Values above kSmall (rare)
+// are kept one by one.
+class CountTally {
+public:
+    static constexpr int kSmall = 65536;
+    void add(int x) {
+        ++size_;
+        sum_ += x;
+        if (x > kSmall) {
+            large_.push_back(x);
+            return;
+        }
+        if (static_cast<size_t>(x) >= small_.size())
+            small_.resize(static_cast<size_t>(x) + 1, 0);
+        ++small_[static_cast<size_t>(x)];
+    }
+    int size() const { return size_; }
+    long sum() const { return sum_; }
+    // How many counts are `x`, or `x` and more when `orMore`.
+    int howMany(int x, bool orMore) const;
+    // The median, the value a sort would give; size() must be above 0.
+    double median() const;
+
+private:
+    std::vector<int> small_; // [x]: how many counts are x
+    std::vector<int> large_;
+    int size_ = 0;
+    long sum_ = 0;
+};
+
 // What the utterance-level measures of one main speaker count, gathered for
 // both speakers in one walk over the cut's utterances (walkUtterances) rather
 // than one walk per family of measures.
@@ -64,18 +95,20 @@ struct SpeakerTallies {
     int spontaneous = 0;
     std::array<int, 6> spontaneousBy{}; // by terminator
     int overlap = 0, interrupts = 0;
-    // Turns: utterances and words of each.
-    std::vector<int> turnUtterances, turnWords;
-    int previous = -2; // the speaker's utterance walked last
-    PauseSums within;  // pauses within utterances
+    // Turns: how many have each number of utterances and of words.
+    CountTally turnUtterances, turnWords;
+    int previous = -2;                             // the speaker's utterance walked last
+    int turnOpenUtterances = 0, turnOpenWords = 0; // of the turn not yet added
+    PauseSums within;                              // pauses within utterances
     // Mazes.
     int mazes = 0, withMaze = 0;
     std::array<int, kMazeKinds> mazeKinds{};
     std::array<int, 16> uttsByLength{}, mazeUttsByLength{}, mazesByUttLength{}, mazesByLength{};
     // Utterance-length distribution rows.
     std::array<int, 16> lengthRows{};
-    // Per utterance of the speaker's total: bit k, it goes in utterance list k.
-    std::vector<std::uint32_t> listBits;
+    // Utterances in each utterance list (the lists, by utterance, are in the
+    // facts: UtteranceFacts::listBits).
+    std::array<int, kUtteranceLists> listSizes{};
 };
 
 struct MeasureContext {

@@ -53,66 +53,56 @@ void fillOverlapsAndInterruptions(const SpeakerView& v, const DiscourseCounts& d
     m[Id::PctIntrOthSpk] = Value::ratio(d.interrupts, total, 100);
 }
 
-// The median of non-negative counts, the value a sort would give: found by
-// counting them when they are small, else by partial ordering.
-double medianOfCounts(const std::vector<int>& counts) {
-    const size_t n = counts.size();
-    const int top = *std::max_element(counts.begin(), counts.end());
-    if (top > 65536 || *std::min_element(counts.begin(), counts.end()) < 0) {
-        std::vector<int> values = counts;
-        std::nth_element(values.begin(), values.begin() + n / 2, values.end());
-        const int upper = values[n / 2];
-        if (n % 2)
-            return upper;
-        const int lower = *std::max_element(values.begin(), values.begin() + n / 2);
-        return (lower + upper) / 2.0;
-    }
-    std::vector<int> tally(static_cast<size_t>(top) + 1, 0);
-    for (int x : counts)
-        ++tally[static_cast<size_t>(x)];
-    // The k-th smallest value, from 0.
-    auto nth = [&](size_t k) {
-        size_t seen = 0;
-        int x = 0;
-        for (; seen + static_cast<size_t>(tally[x]) <= k; ++x)
-            seen += static_cast<size_t>(tally[x]);
-        return x;
-    };
-    return n % 2 ? nth(n / 2) : (nth(n / 2 - 1) + nth(n / 2)) / 2.0;
-}
-
 // A turn: the speaker's utterances with no other utterance of the cut
 // between them. The utterances of the cut are numbered without a gap (they
 // are numbered in the order of the transcript's entries), so the speaker's
 // utterance `i` goes on a turn when the speaker's one before it is `i - 1`.
 void fillTurns(const SpeakerView& v, SpeakerMeasures& m) {
-    const std::vector<int>& utts = v.tally().turnUtterances;
-    const std::vector<int>& words = v.tally().turnWords;
+    const CountTally& utts = v.tally().turnUtterances;
+    const CountTally& words = v.tally().turnWords;
     const double turns = static_cast<double>(utts.size());
-    long uttSum = 0, wordSum = 0;
-    std::array<int, 7> byUtts{};
-    std::array<int, 16> byWords{};
-    for (size_t k = 0; k < utts.size(); ++k) {
-        uttSum += utts[k];
-        wordSum += words[k];
-        byUtts[std::min(6, utts[k])]++;
-        byWords[std::min(15, words[k])]++;
-    }
-    m[Id::MeanTurnUt] = Value::ratio(static_cast<double>(uttSum), turns);
-    m[Id::MeanTurnWd] = Value::ratio(static_cast<double>(wordSum), turns);
-    if (!utts.empty()) {
-        m[Id::MedTurnUt] = Value::real(medianOfCounts(utts));
-        m[Id::MedTurnWd] = Value::real(medianOfCounts(words));
+    m[Id::MeanTurnUt] = Value::ratio(static_cast<double>(utts.sum()), turns);
+    m[Id::MeanTurnWd] = Value::ratio(static_cast<double>(words.sum()), turns);
+    if (utts.size() > 0) {
+        m[Id::MedTurnUt] = Value::real(utts.median());
+        m[Id::MedTurnWd] = Value::real(words.median());
     }
     for (int k = 1; k <= 6; ++k)
-        m[*measureIdByName(format("TurnByTLUt%d", k))] = Value::count(byUtts[k]);
-    m[Id::TurnByTLUtTot] = Value::count(static_cast<int>(utts.size()));
+        m[*measureIdByName(format("TurnByTLUt%d", k))] = Value::count(utts.howMany(k, k == 6));
+    m[Id::TurnByTLUtTot] = Value::count(utts.size());
     for (int k = 0; k <= 15; ++k)
-        m[*measureIdByName(format("TurnByTLWd%d", k))] = Value::count(byWords[k]);
-    m[Id::TurnByTLWdTot] = Value::count(static_cast<int>(utts.size()));
+        m[*measureIdByName(format("TurnByTLWd%d", k))] = Value::count(words.howMany(k, k == 15));
+    m[Id::TurnByTLWdTot] = Value::count(utts.size());
 }
 
 } // namespace
+
+int CountTally::howMany(int x, bool orMore) const {
+    int n = static_cast<size_t>(x) < small_.size() ? small_[static_cast<size_t>(x)] : 0;
+    if (orMore) {
+        for (size_t k = static_cast<size_t>(x) + 1; k < small_.size(); ++k)
+            n += small_[k];
+        n += static_cast<int>(large_.size());
+    }
+    return n;
+}
+
+double CountTally::median() const {
+    std::vector<int> large = large_;
+    std::sort(large.begin(), large.end());
+    // The k-th smallest count, from 0.
+    auto nth = [&](size_t k) {
+        size_t seen = 0;
+        for (size_t x = 0; x < small_.size(); ++x) {
+            seen += static_cast<size_t>(small_[x]);
+            if (k < seen)
+                return static_cast<int>(x);
+        }
+        return large[k - seen];
+    };
+    const auto n = static_cast<size_t>(size_);
+    return n % 2 ? nth(n / 2) : (nth(n / 2 - 1) + nth(n / 2)) / 2.0;
+}
 
 void fillDiscourse(const SpeakerView& v, SpeakerMeasures& m) {
     const DiscourseCounts& d = v.tally();

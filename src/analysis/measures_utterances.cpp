@@ -103,19 +103,14 @@ void fillCodesAndErrors(const SpeakerView& v, SpeakerMeasures& m) {
     m[Id::PCUttWithNMForms] = m[Id::PctUtWNMForms];
 }
 
-// The lists are sized first, so that each is filled without growing.
+// The lists are sized first (by the walk), so that each is filled without growing.
 void fillUtteranceLists(const SpeakerView& v, SpeakerMeasures& m) {
-    const std::vector<std::uint32_t>& bits = v.tally().listBits;
-    std::array<size_t, kUtteranceLists> sizes{};
-    for (size_t k = 0; k < v.total.size(); ++k) {
-        for (std::uint32_t in = bits[k]; in != 0; in &= in - 1)
-            ++sizes[static_cast<size_t>(std::countr_zero(in))];
-    }
+    const std::array<int, kUtteranceLists>& sizes = v.tally().listSizes;
     for (size_t list = 0; list < sizes.size(); ++list)
-        m.utteranceLists[list].reserve(sizes[list]);
-    for (size_t k = 0; k < v.total.size(); ++k)
-        for (std::uint32_t in = bits[k]; in != 0; in &= in - 1)
-            m.utteranceLists[static_cast<size_t>(std::countr_zero(in))].push_back(v.total[k]);
+        m.utteranceLists[list].reserve(static_cast<size_t>(sizes[list]));
+    for (int i : v.total)
+        for (std::uint32_t in = v.facts(i).listBits(); in != 0; in &= in - 1)
+            m.utteranceLists[static_cast<size_t>(std::countr_zero(in))].push_back(i);
 }
 
 } // namespace tavi

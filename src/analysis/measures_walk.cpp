@@ -4,7 +4,9 @@
 // of the utterance records and their facts, so each is read here once for
 // both speakers rather than once per family of measures.
 #include <algorithm>
+#include <bit>
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 #include "analysis/measure_context.h"
@@ -23,7 +25,7 @@ FilledPauseTest filledPauseTest(const MeasureOptions& o) {
 // Bit k: the utterance goes in utterance list k (the lists' order, PRIP to PINTR).
 std::uint32_t utteranceListBits(const Utterance& u, const ResponseType& r, const UtteranceFacts& f,
                                 const FactTables& t) {
-    static_assert(kUtteranceLists <= 32);
+    static_assert(kUtteranceLists <= 24);    // UtteranceFacts::lists holds 24 bits
     constexpr int kFirstTerminatorList = 15; // PSTMT, then one list per terminator kind
     std::uint32_t in = 0;
     auto put = [&](int k, bool yes) { in |= static_cast<std::uint32_t>(yes) << k; };
@@ -189,14 +191,10 @@ void walkUtterances(MeasureContext& c, const std::array<bool, 2>& measured) {
     const Selection& sel = c.selection;
     const FactTables& tables = c.tables;
     const FilledPauseTest isFilled = filledPauseTest(o);
-    for (int g = 0; g < 2; ++g)
-        if (measured[static_cast<size_t>(g)])
-            c.tallies[static_cast<size_t>(g)].listBits.reserve(
-                sel.speakers[static_cast<size_t>(g)].total.size());
     MentionTally mentions;
     for (int i : sel.utterances) {
         const Utterance& u = c.t.utterances[static_cast<size_t>(i)];
-        const UtteranceFacts& f = c.facts[static_cast<size_t>(i)] =
+        UtteranceFacts& f = c.facts[static_cast<size_t>(i)] =
             gatherFacts(u, o.wordBase, c.codes, c.tables);
         const int group = u.speakerGroup;
         if (group > 1)
@@ -229,16 +227,19 @@ void walkUtterances(MeasureContext& c, const std::array<bool, 2>& measured) {
         tallyDiscourse(c, i, group, f, s);
         // A turn: the speaker's utterances with no other utterance of the
         // cut between them (the cut's utterances are numbered without a gap).
-        if (i != s.previous + 1) {
-            s.turnUtterances.push_back(0);
-            s.turnWords.push_back(0);
+        if (i != s.previous + 1 && s.turnOpenUtterances > 0) {
+            s.turnUtterances.add(std::exchange(s.turnOpenUtterances, 0));
+            s.turnWords.add(std::exchange(s.turnOpenWords, 0));
         }
         s.previous = i;
-        s.turnUtterances.back() += 1;
-        s.turnWords.back() += f.wordCount;
+        s.turnOpenUtterances += 1;
+        s.turnOpenWords += f.wordCount;
         tallyMazes(u, std::min(15, f.wordCount), isFilled, o.dictionary, s);
-        s.listBits.push_back(
-            utteranceListBits(u, sel.responses[static_cast<size_t>(i)], f, tables));
+        const std::uint32_t lists =
+            utteranceListBits(u, sel.responses[static_cast<size_t>(i)], f, tables);
+        f.setListBits(lists);
+        for (std::uint32_t in = lists; in != 0; in &= in - 1)
+            ++s.listSizes[static_cast<size_t>(std::countr_zero(in))];
 
         const bool inSet = sel.analysisSetFlags[static_cast<size_t>(i)];
         if (inSet) {
@@ -253,6 +254,11 @@ void walkUtterances(MeasureContext& c, const std::array<bool, 2>& measured) {
                 std::min(15, o.distributionInMorphemes ? f.morphemes : f.wordCount))]++;
     }
     mentions.finish(c.mentionedFirst);
+    for (SpeakerTallies& s : c.tallies)
+        if (s.turnOpenUtterances > 0) {
+            s.turnUtterances.add(std::exchange(s.turnOpenUtterances, 0));
+            s.turnWords.add(std::exchange(s.turnOpenWords, 0));
+        }
 }
 
 } // namespace tavi
