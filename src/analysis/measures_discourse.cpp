@@ -78,12 +78,16 @@ void fillTurns(const SpeakerView& v, SpeakerMeasures& m) {
 } // namespace
 
 int CountTally::howMany(int x, bool orMore) const {
-    int n = static_cast<size_t>(x) < small_.size() ? small_[static_cast<size_t>(x)] : 0;
-    if (orMore) {
-        for (size_t k = static_cast<size_t>(x) + 1; k < small_.size(); ++k)
-            n += small_[k];
-        n += static_cast<int>(large_.size());
+    if (x < 0 && !orMore)
+        return 0;
+    int n = 0;
+    for (size_t k = static_cast<size_t>(std::max(x, 0)); k < small_.size(); ++k) {
+        n += small_[k];
+        if (!orMore)
+            break;
     }
+    for (int big : large_)
+        n += big == x || (orMore && big > x) ? 1 : 0;
     return n;
 }
 

@@ -5,6 +5,7 @@
 // same speaker's record when both are measured.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <random>
@@ -12,6 +13,7 @@
 #include <vector>
 
 #include "analysis/gc_dictionary.h"
+#include "analysis/measure_context.h"
 #include "analysis/measures.h"
 #include "analysis/verb_list.h"
 #include "analysis/word_lists.h"
@@ -274,6 +276,42 @@ TEST(MeasuresWalk, GeneratedTranscriptsKeepTheirRecords) {
     EXPECT_GE(partCuts, 15);
     if (::testing::Test::HasFailure())
         std::printf("digests now:\n%s", recorded.c_str());
+}
+
+// Turn lengths kept as counts of each value: number, sum, the rows of the
+// length tables and the median, against the counts kept one by one and
+// sorted; some above the bound of the counted values, some zero.
+TEST(MeasuresWalk, CountTallyAgreesWithSortedCounts) {
+    std::mt19937 rng(5);
+    for (int round = 0; round < 300; ++round) {
+        CountTally tally;
+        std::vector<int> counts;
+        const int n = 1 + static_cast<int>(rng() % 60);
+        for (int k = 0; k < n; ++k) {
+            const unsigned kind = rng() % 10;
+            const int x = kind < 6   ? static_cast<int>(rng() % 8)
+                          : kind < 8 ? static_cast<int>(rng() % 40)
+                          : kind < 9 ? CountTally::kSmall - 1 + static_cast<int>(rng() % 3)
+                                     : CountTally::kSmall + 1 + static_cast<int>(rng() % 100000);
+            tally.add(x);
+            counts.push_back(x);
+        }
+        std::sort(counts.begin(), counts.end());
+        const size_t size = counts.size();
+        const double median =
+            size % 2 ? counts[size / 2] : (counts[size / 2 - 1] + counts[size / 2]) / 2.0;
+        ASSERT_EQ(tally.size(), n);
+        EXPECT_EQ(tally.median(), median) << round;
+        long sum = 0;
+        for (int x : counts)
+            sum += x;
+        EXPECT_EQ(tally.sum(), sum) << round;
+        for (int x : {0, 1, 5, 6, 15, 39, CountTally::kSmall, CountTally::kSmall + 1}) {
+            EXPECT_EQ(tally.howMany(x, false), std::count(counts.begin(), counts.end(), x));
+            EXPECT_EQ(tally.howMany(x, true),
+                      std::count_if(counts.begin(), counts.end(), [&](int c) { return c >= x; }));
+        }
+    }
 }
 
 } // namespace
