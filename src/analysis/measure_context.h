@@ -35,6 +35,40 @@ struct PauseSums {
     }
 };
 
+// What the measures read of an utterance after the walk over the cut: its
+// counted words and remark roots, its endings and clitics, and the utterance
+// lists it goes in. 24 bytes, as one is kept for every utterance of the cut
+// (the rest of UtteranceFacts is counted by the walk and dropped).
+struct KeptFacts {
+    std::uint32_t wordsFrom = 0; // counted words: FactTables::words[wordsFrom, + counted)
+    std::uint32_t counted = 0;   // counted main-body words
+    std::uint32_t rare = 0;      // FactTables::rareFacts[rare]
+    int boundMorphemes = 0, clitics = 0;
+    std::array<std::uint8_t, 3> lists{}; // bit k: the utterance goes in utterance list k
+
+    KeptFacts() = default;
+    KeptFacts(const UtteranceFacts& f, const FactTables& t, std::uint32_t listBits)
+        : wordsFrom(f.wordsFrom), counted(static_cast<std::uint32_t>(f.counted(t))), rare(f.rare),
+          boundMorphemes(f.boundMorphemes),
+          clitics(f.clitics), lists{static_cast<std::uint8_t>(listBits),
+                                    static_cast<std::uint8_t>(listBits >> 8),
+                                    static_cast<std::uint8_t>(listBits >> 16)} {}
+
+    std::uint32_t listBits() const {
+        return lists[0] | static_cast<std::uint32_t>(lists[1]) << 8 |
+               static_cast<std::uint32_t>(lists[2]) << 16;
+    }
+    std::span<const CountedWord> words(const FactTables& t) const {
+        return {t.words.data() + wordsFrom, counted};
+    }
+    std::span<const int> remarkRoots(const FactTables& t) const {
+        const RareFacts& r = t.rareFacts[rare];
+        return {t.remarkRoots.data() + r.remarksFrom, static_cast<size_t>(r.remarks)};
+    }
+};
+
+static_assert(sizeof(KeptFacts) <= 24, "a record is kept for every utterance of the cut");
+
 // Non-negative counts kept as how many times each value occurs, so that their
 // number, sum and median need no record of each. Values above kSmall (rare)
 // are kept one by one.
@@ -107,7 +141,7 @@ struct SpeakerTallies {
     // Utterance-length distribution rows.
     std::array<int, 16> lengthRows{};
     // Utterances in each utterance list (the lists, by utterance, are in the
-    // facts: UtteranceFacts::listBits).
+    // kept facts: KeptFacts::listBits).
     std::array<int, kUtteranceLists> listSizes{};
 };
 
@@ -115,7 +149,9 @@ struct MeasureContext {
     const SegmentedTranscript& t;
     const MeasureOptions& options;
     const Selection& selection;
-    std::vector<UtteranceFacts> facts; // per utterance; filled for utterances inside the cut
+    // Per utterance of a main speaker inside the cut, from utterance keptFrom on.
+    std::vector<KeptFacts> kept;
+    int keptFrom = 0;
     CodeMatchers codes;
     FactTables tables;                              // the facts' words, roots, forms and endings
     std::array<MentionedFirst, 2> mentionedFirst{}; // by main speaker
@@ -132,13 +168,12 @@ struct SpeakerView {
     const std::vector<int>& analysisSet; // utterance indices
 
     const Utterance& utt(int i) const { return c.t.utterances[i]; }
-    const UtteranceFacts& facts(int i) const { return c.facts[i]; }
+    const KeptFacts& facts(int i) const { return c.kept[static_cast<size_t>(i - c.keptFrom)]; }
     // What the walk over the cut's utterances counted for this speaker.
     const SpeakerTallies& tally() const { return c.tallies[static_cast<size_t>(speaker)]; }
-    const CodeFacts& codes(int i) const { return c.facts[i].codeFacts(c.tables); }
     const SpellingFacts& spelling(const CountedWord& w) const { return c.tables.spelling(w); }
     // The counted main-body words of utterance `i`.
-    std::span<const CountedWord> words(int i) const { return c.facts[i].words(c.tables); }
+    std::span<const CountedWord> words(int i) const { return facts(i).words(c.tables); }
     const ResponseType& response(int i) const { return c.selection.responses[i]; }
     template <class Pred> int countIf(const std::vector<int>& utts, Pred&& pred) const {
         int n = 0;

@@ -66,9 +66,8 @@ MeasureResult computeMeasures(const SegmentedTranscript& transcript, const Measu
     result.wordListsAvailable = static_cast<bool>(yesNoTest(options));
     result.categoriesAvailable = options.dictionary != nullptr;
 
-    MeasureContext c{transcript, options, result.selection, {}, codeMatchersFor(options), {}, {},
+    MeasureContext c{transcript, options, result.selection, {}, 0, codeMatchersFor(options), {}, {},
                      {},         {}};
-    c.facts.resize(transcript.utterances.size());
     // Room for every word, remark word and code record: a run that doubles as
     // it grows needs thrice.
     size_t words = 0, remarks = 0, withCodes = 1;

@@ -56,7 +56,7 @@ void fillVocabulary(const SpeakerView& v, SpeakerMeasures& m) {
         }
     };
     for (int i : v.analysisSet) {
-        const UtteranceFacts& f = v.facts(i);
+        const KeptFacts& f = v.facts(i);
         bound += f.boundMorphemes;
         clitics += f.clitics;
         for (const CountedWord& w : f.words(t)) {

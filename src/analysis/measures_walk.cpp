@@ -191,11 +191,16 @@ void walkUtterances(MeasureContext& c, const std::array<bool, 2>& measured) {
     const Selection& sel = c.selection;
     const FactTables& tables = c.tables;
     const FilledPauseTest isFilled = filledPauseTest(o);
+    // Kept facts for the utterances from the cut's first to its last.
+    if (!sel.utterances.empty()) {
+        const auto [low, high] = std::minmax_element(sel.utterances.begin(), sel.utterances.end());
+        c.keptFrom = *low;
+        c.kept.resize(static_cast<size_t>(*high - *low) + 1);
+    }
     MentionTally mentions;
     for (int i : sel.utterances) {
         const Utterance& u = c.t.utterances[static_cast<size_t>(i)];
-        UtteranceFacts& f = c.facts[static_cast<size_t>(i)] =
-            gatherFacts(u, o.wordBase, c.codes, c.tables);
+        const UtteranceFacts f = gatherFacts(u, o.wordBase, c.codes, c.tables);
         const int group = u.speakerGroup;
         if (group > 1)
             continue;
@@ -237,7 +242,7 @@ void walkUtterances(MeasureContext& c, const std::array<bool, 2>& measured) {
         tallyMazes(u, std::min(15, f.wordCount), isFilled, o.dictionary, s);
         const std::uint32_t lists =
             utteranceListBits(u, sel.responses[static_cast<size_t>(i)], f, tables);
-        f.setListBits(lists);
+        c.kept[static_cast<size_t>(i - c.keptFrom)] = KeptFacts(f, tables, lists);
         for (std::uint32_t in = lists; in != 0; in &= in - 1)
             ++s.listSizes[static_cast<size_t>(std::countr_zero(in))];
 

@@ -139,18 +139,6 @@ struct UtteranceFacts {
     int mazeWords = 0;
     int boundMorphemes = 0, clitics = 0;
     bool overlap = false;
-    // Bit k: the utterance goes in utterance list k (set by the measures'
-    // walk; kept in room the record has anyway).
-    std::array<std::uint8_t, 3> lists{};
-
-    std::uint32_t listBits() const {
-        return lists[0] | static_cast<std::uint32_t>(lists[1]) << 8 |
-               static_cast<std::uint32_t>(lists[2]) << 16;
-    }
-    void setListBits(std::uint32_t bits) {
-        lists = {static_cast<std::uint8_t>(bits), static_cast<std::uint8_t>(bits >> 8),
-                 static_cast<std::uint8_t>(bits >> 16)};
-    }
 
     const RareFacts& rareFacts(const FactTables& t) const { return t.rareFacts[rare]; }
     bool hasOmission(const FactTables& t) const {
