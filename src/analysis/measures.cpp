@@ -70,16 +70,9 @@ MeasureResult computeMeasures(const SegmentedTranscript& transcript, const Measu
                      {},         {}};
     // Room for every word, remark word and code record: a run that doubles as
     // it grows needs thrice.
-    size_t words = 0, remarks = 0, withCodes = 1;
-    for (int i : result.selection.utterances) {
-        const Utterance& u = transcript.utterances[i];
-        words += u.words.size();
-        remarks += u.parentheticalWords().size();
-        withCodes += u.codes().empty() ? 0 : 1;
-    }
-    c.tables.words.reserve(words);
-    c.tables.remarkRoots.reserve(remarks);
-    c.tables.codeFacts.reserve(withCodes);
+    c.tables.words.reserve(result.selection.words);
+    c.tables.remarkRoots.reserve(result.selection.remarkWords);
+    c.tables.codeFacts.reserve(result.selection.withCodes + 1);
     const std::array<bool, 2> measured = {which != MeasuredSpeakers::Second,
                                           which != MeasuredSpeakers::First};
     walkUtterances(c, measured);
