@@ -2,6 +2,7 @@
 #include "analysis/gc_dictionary.h"
 
 #include <algorithm>
+#include <cstring>
 
 #include "analysis/grammatical_categories.h"
 #include "base/file_io.h"
@@ -18,10 +19,8 @@ size_t keyLength(std::string_view line) {
     return blank == std::string_view::npos ? 0 : blank;
 }
 
-// dictionaryHash of the UTF-16 form of `key`, without building it.
-std::int32_t utf8KeyHash(std::string_view key, std::int32_t capacity) {
-    std::int32_t h = 0;
-    auto add = [&](char32_t unit) { h = (h * 64 + static_cast<std::int32_t>(unit)) % capacity; };
+// The UTF-16 code units of `key`, without building its UTF-16 form.
+template <class Add> void forEachUtf16Unit(std::string_view key, Add add) {
     size_t pos = 0;
     while (pos < key.size()) {
         const auto byte = static_cast<unsigned char>(key[pos]);
@@ -39,7 +38,38 @@ std::int32_t utf8KeyHash(std::string_view key, std::int32_t capacity) {
             add(static_cast<char16_t>(cp));
         }
     }
-    return h;
+}
+
+// Capacities below this size take the remainder only after every few code
+// units: the hash is the key's units as digits of base 64 modulo the
+// capacity, and the remainder taken after each unit equals the one taken at
+// the end. From below the capacity, six units (16 bits each) keep the number
+// below 2^63.
+constexpr std::int32_t kDeferredLimit = std::int32_t{1} << 24;
+constexpr int kUnitsPerRemainder = 6;
+
+// Splits `text` as splitLines does (at LF, CR LF or a lone CR; a final line
+// end starts no other line) and hands each line to `line`, which returns
+// false to stop.
+template <class Line> void forEachLine(std::string_view text, Line line) {
+    const char* p = text.data();
+    const char* const end = p + text.size();
+    while (p < end) {
+        const auto* nl =
+            static_cast<const char*>(std::memchr(p, '\n', static_cast<size_t>(end - p)));
+        const char* stop = nl ? nl : end;
+        const auto* cr =
+            static_cast<const char*>(std::memchr(p, '\r', static_cast<size_t>(stop - p)));
+        if (cr) {
+            if (!line(std::string_view(p, static_cast<size_t>(cr - p))))
+                return;
+            p = cr + 1 < end && cr[1] == '\n' ? cr + 2 : cr + 1;
+            continue;
+        }
+        if (!line(std::string_view(p, static_cast<size_t>(stop - p))))
+            return;
+        p = nl ? nl + 1 : end;
+    }
 }
 
 } // namespace
@@ -54,26 +84,82 @@ std::int32_t dictionaryHash(std::u16string_view key, std::int32_t capacity) {
 GcDictionary::GcDictionary(std::int32_t capacity)
     : capacity_(capacity), slots_(static_cast<size_t>(capacity)) {}
 
-bool GcDictionary::insert(std::string_view line) {
-    size_t keyLen = keyLength(line);
-    const std::int32_t start = utf8KeyHash(line.substr(0, keyLen), capacity_);
-    std::int32_t i = start;
-    while (slots_[i].used) {
-        i = (i + 1) % capacity_;
-        if (i == start)
-            return false;
+std::int32_t dictionaryHash(std::string_view key, std::int32_t capacity) {
+    if (capacity > 0 && capacity < kDeferredLimit) {
+        const auto d = static_cast<std::uint64_t>(capacity);
+        std::uint64_t h = 0;
+        int pending = 0;
+        forEachUtf16Unit(key, [&](char16_t unit) {
+            h = h * 64 + unit;
+            if (++pending == kUnitsPerRemainder) {
+                h %= d;
+                pending = 0;
+            }
+        });
+        return static_cast<std::int32_t>(h % d);
     }
-    slots_[i] = {std::string(line), static_cast<std::uint32_t>(keyLen), true};
+    std::int32_t h = 0;
+    forEachUtf16Unit(
+        key, [&](char16_t unit) { h = (h * 64 + static_cast<std::int32_t>(unit)) % capacity; });
+    return h;
+}
+
+std::uint32_t GcDictionary::hashOf(std::string_view key) const {
+    return static_cast<std::uint32_t>(dictionaryHash(key, capacity_));
+}
+
+std::int32_t GcDictionary::freeSlot(std::string_view key) const {
+    const auto start = static_cast<std::int32_t>(hashOf(key));
+    std::int32_t i = start;
+    while (slots_[i].used()) {
+        i = i + 1 == capacity_ ? 0 : i + 1;
+        if (i == start)
+            return -1;
+    }
+    return i;
+}
+
+void GcDictionary::place(std::int32_t slot, size_t from, std::string_view line) {
+    slots_[slot] = {static_cast<std::uint32_t>(from), static_cast<std::uint32_t>(line.size()),
+                    static_cast<std::uint32_t>(keyLength(line))};
     ++size_;
+}
+
+bool GcDictionary::insert(std::string_view line) {
+    if (lines_.size() + line.size() >= kUnused)
+        return false; // lines are placed by 32-bit offsets
+    const std::int32_t slot = freeSlot(line.substr(0, keyLength(line)));
+    if (slot < 0)
+        return false;
+    const size_t from = lines_.size();
+    lines_.append(line);
+    place(slot, from, line);
     return true;
 }
 
 void GcDictionary::load(std::string_view text, Prompter& prompter) {
-    for (std::string_view line : splitLines(text))
-        if (!insert(line)) {
-            prompter.inform("Increase MAX_DICTIONARY_WORDS");
-            return;
+    loadText(std::string(text), prompter);
+}
+
+// A dictionary with no lines yet takes `text` as its lines, which then stay
+// where they are, uncopied; otherwise each line is appended.
+void GcDictionary::loadText(std::string text, Prompter& prompter) {
+    const bool adopt = lines_.empty() && text.size() < kUnused;
+    if (adopt)
+        lines_ = std::move(text);
+    const std::string_view all = adopt ? std::string_view(lines_) : std::string_view(text);
+    forEachLine(all, [&](std::string_view line) {
+        if (adopt) {
+            if (const std::int32_t slot = freeSlot(line.substr(0, keyLength(line))); slot >= 0) {
+                place(slot, static_cast<size_t>(line.data() - lines_.data()), line);
+                return true;
+            }
+        } else if (insert(line)) {
+            return true;
         }
+        prompter.inform("Increase MAX_DICTIONARY_WORDS");
+        return false;
+    });
 }
 
 bool GcDictionary::loadFile(const std::string& path, Prompter& prompter) {
@@ -82,17 +168,20 @@ bool GcDictionary::loadFile(const std::string& path, Prompter& prompter) {
         prompter.inform("Unable to open Grammatical Category dictionary file (" + path + ")");
         return false;
     }
-    load(decodeText(bytes).utf8, prompter);
+    std::string text = std::move(decodeText(bytes).utf8);
+    bytes = std::string();
+    loadText(std::move(text), prompter);
     return true;
 }
 
 std::optional<std::string_view> GcDictionary::lookup(std::string_view word) const {
-    std::int32_t i = utf8KeyHash(word, capacity_);
-    for (std::int32_t probes = 0; slots_[i].used && probes < capacity_; ++probes) {
-        const Slot& s = slots_[i];
-        if (std::string_view(s.line).substr(0, s.keyLength) == word)
-            return trim(std::string_view(s.line).substr(s.keyLength));
-        i = (i + 1) % capacity_;
+    std::int32_t i = static_cast<std::int32_t>(hashOf(word));
+    for (std::int32_t probes = 0; slots_[i].used() && probes < capacity_; ++probes) {
+        const std::string_view line = lineOf(slots_[i]);
+        const std::uint32_t key = slots_[i].keyLength;
+        if (line.substr(0, key) == word)
+            return trim(line.substr(key));
+        i = i + 1 == capacity_ ? 0 : i + 1;
     }
     return std::nullopt;
 }

@@ -1,6 +1,7 @@
 // The grammatical-category dictionary ("GC/GCDictionaryFile.txt"): a fixed
 // open-addressing table of whole lines keyed by the text before the first
-// blank. A line's value lists the word's categories as codes separated by
+// blank. The lines are kept one after another in one text; a slot holds
+// where its line lies. A line's value lists the word's categories as codes separated by
 // blanks, most likely first: "run [GC:VERB] [GC:NOUN]".
 #pragma once
 
@@ -21,6 +22,8 @@ inline constexpr int MAX_DICTIONARY_WORDS = 185551;
 // h = (h * 64 + c) mod capacity for each UTF-16 code unit c, in signed 32-bit
 // arithmetic; an empty key hashes to 0.
 std::int32_t dictionaryHash(std::u16string_view key, std::int32_t capacity = MAX_DICTIONARY_WORDS);
+// The same of the UTF-16 form of a UTF-8 key, without building that form.
+std::int32_t dictionaryHash(std::string_view key, std::int32_t capacity = MAX_DICTIONARY_WORDS);
 
 class GcDictionary {
 public:
@@ -41,14 +44,24 @@ public:
     std::int32_t size() const { return size_; }
 
 private:
+    static constexpr std::uint32_t kUnused = ~std::uint32_t{0};
     struct Slot {
-        std::string line;
+        std::uint32_t from = kUnused; // the line: lines_[from, from + length)
+        std::uint32_t length = 0;
         std::uint32_t keyLength = 0;
-        bool used = false;
+        bool used() const { return from != kUnused; }
     };
+    // The first free slot from the key's home, or -1 when the table is full.
+    std::int32_t freeSlot(std::string_view key) const;
+    void place(std::int32_t slot, size_t from, std::string_view line);
+    std::string_view lineOf(const Slot& s) const { return {lines_.data() + s.from, s.length}; }
+    std::uint32_t hashOf(std::string_view key) const;
+    void loadText(std::string text, Prompter& prompter);
+
     std::int32_t capacity_;
     std::int32_t size_ = 0;
     std::vector<Slot> slots_;
+    std::string lines_; // every line stored, one after another
 };
 
 // Whether a token is skipped by the category count: its first character is a

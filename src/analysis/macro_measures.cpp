@@ -69,24 +69,7 @@ void fillMacroAnalysis(const SpeakerView& v, SpeakerMeasures& m) {
             m[*id] = s.composite;
     }
     SiSummary& si = m.si;
-    for (int i : v.analysisSet) {
-        if (v.utt(i).codes().empty())
-            continue; // no clause count, none awaiting review
-        std::optional<int> n = siClauseCount(v.utt(i), o.siCodePrefix);
-        if (!n) {
-            for (const Code& c : v.utt(i).codes())
-                if (c.text.ends_with('?') &&
-                    siClauseCount(c.text.substr(0, c.text.size() - 1), o.siCodePrefix))
-                    ++si.awaitingReview;
-            continue;
-        }
-        ++si.coded;
-        si.clauses += *n;
-        if (si.byClauseCount.size() <= static_cast<size_t>(*n))
-            si.byClauseCount.resize(*n + 1);
-        ++si.byClauseCount[*n];
-        si.codedUtterances.push_back(i);
-    }
+    si = v.tally().si;
     m[MeasureId::SI] = si.index();
     si.codedValue = Value::count(si.coded);
 }

@@ -66,30 +66,22 @@ MeasureResult computeMeasures(const SegmentedTranscript& transcript, const Measu
     result.wordListsAvailable = static_cast<bool>(yesNoTest(options));
     result.categoriesAvailable = options.dictionary != nullptr;
 
-    MeasureContext c{transcript, options, result.selection, {}, codeMatchersFor(options), {}};
-    c.facts.resize(transcript.utterances.size());
+    MeasureContext c{transcript, options, result.selection, {}, 0, codeMatchersFor(options), {}, {},
+                     {},         {}};
     // Room for every word, remark word and code record: a run that doubles as
     // it grows needs thrice.
-    size_t words = 0, remarks = 0, withCodes = 1;
-    for (int i : result.selection.utterances) {
-        const Utterance& u = transcript.utterances[i];
-        words += u.words.size();
-        remarks += u.parentheticalWords().size();
-        withCodes += u.codes().empty() ? 0 : 1;
-    }
-    c.tables.words.reserve(words);
-    c.tables.remarkRoots.reserve(remarks);
-    c.tables.codeFacts.reserve(withCodes);
-    for (int i : result.selection.utterances)
-        c.facts[i] = gatherFacts(transcript.utterances[i], options.wordBase, c.codes, c.tables);
-    countMentionedFirst(c);
+    c.tables.words.reserve(result.selection.words);
+    c.tables.remarkRoots.reserve(result.selection.remarkWords);
+    c.tables.codeFacts.reserve(result.selection.withCodes + 1);
+    const std::array<bool, 2> measured = {which != MeasuredSpeakers::Second,
+                                          which != MeasuredSpeakers::First};
+    walkUtterances(c, measured);
     countPausesBetween(c);
 
     for (int s = 0; s < 2; ++s) {
         SpeakerMeasures& m = result.speakers[s];
         m.speaker = s;
-        if ((which == MeasuredSpeakers::First && s != 0) ||
-            (which == MeasuredSpeakers::Second && s != 1))
+        if (!measured[static_cast<size_t>(s)])
             continue;
         const SpeakerSelection& sel = result.selection.speakers[s];
         SpeakerView v{c, s, sel.total, sel.analysisSet};

@@ -12,42 +12,7 @@ namespace {
 
 using Id = MeasureId;
 
-// What the response, spontaneity and overlap measures count over one
-// speaker's utterances, gathered in one walk.
-struct DiscourseCounts {
-    int question = 0, yesNo = 0, clarification = 0, otherAnswer = 0, prompt = 0;
-    int imitation = 0, exact = 0, reduced = 0, oneWord = 0;
-    int spontaneous = 0;
-    std::array<int, 6> spontaneousBy{}; // spontaneous utterances by terminator
-    int overlap = 0, interrupts = 0;
-
-    void add(const SpeakerView& v, int i) {
-        const ResponseType& r = v.response(i);
-        const Terminator term = v.utt(i).terminator;
-        question += r.question ? 1 : 0;
-        yesNo += r.yesNo ? 1 : 0;
-        clarification += r.question && term == Terminator::Question ? 1 : 0;
-        otherAnswer += r.question && !r.yesNo && term != Terminator::Question ? 1 : 0;
-        prompt += r.prompt ? 1 : 0;
-        imitation += r.imitation ? 1 : 0;
-        exact += r.exactImitation ? 1 : 0;
-        reduced += r.reducedImitation ? 1 : 0;
-        oneWord += r.oneWord ? 1 : 0;
-        if (!r.question && !r.prompt && !r.imitation) {
-            ++spontaneous;
-            if (static_cast<size_t>(term) < spontaneousBy.size())
-                ++spontaneousBy[static_cast<size_t>(term)];
-        }
-        overlap += v.facts(i).overlap ? 1 : 0;
-        if (i > 0) {
-            const Utterance& prev = v.utt(i - 1);
-            interrupts +=
-                prev.speakerGroup == 1 - v.speaker && prev.terminator == Terminator::Interrupted
-                    ? 1
-                    : 0;
-        }
-    }
-};
+using DiscourseCounts = SpeakerTallies;
 
 void fillResponses(const SpeakerView& v, const DiscourseCounts& d, SpeakerMeasures& m) {
     m[Id::RespToQues] = Value::count(d.question);
@@ -60,12 +25,9 @@ void fillResponses(const SpeakerView& v, const DiscourseCounts& d, SpeakerMeasur
     m[Id::ReducedImit] = Value::count(d.reduced);
     m[Id::OneWdUt] = Value::count(d.oneWord);
 
-    int otherQ = 0, otherP = 0;
-    for (int i : v.c.selection.speakers[1 - v.speaker].total) {
-        const Terminator t = v.utt(i).terminator;
-        otherQ += t == Terminator::Question ? 1 : 0;
-        otherP += t == Terminator::Prompt ? 1 : 0;
-    }
+    const auto& other = v.c.tallies[static_cast<size_t>(1 - v.speaker)].terms;
+    const int otherQ = other[static_cast<size_t>(Terminator::Question)];
+    const int otherP = other[static_cast<size_t>(Terminator::Prompt)];
     m[Id::OtherSpkQues] = Value::count(otherQ);
     m[Id::OtherSpkIntPrmpt] = Value::count(otherP);
     m[Id::PctRespQues] = m[Id::PctRespToQues] = Value::ratio(d.question, otherQ, 100);
@@ -91,80 +53,63 @@ void fillOverlapsAndInterruptions(const SpeakerView& v, const DiscourseCounts& d
     m[Id::PctIntrOthSpk] = Value::ratio(d.interrupts, total, 100);
 }
 
-// The median of non-negative counts, the value a sort would give: found by
-// counting them when they are small, else by partial ordering.
-double medianOfCounts(const std::vector<int>& counts) {
-    const size_t n = counts.size();
-    const int top = *std::max_element(counts.begin(), counts.end());
-    if (top > 65536 || *std::min_element(counts.begin(), counts.end()) < 0) {
-        std::vector<int> values = counts;
-        std::nth_element(values.begin(), values.begin() + n / 2, values.end());
-        const int upper = values[n / 2];
-        if (n % 2)
-            return upper;
-        const int lower = *std::max_element(values.begin(), values.begin() + n / 2);
-        return (lower + upper) / 2.0;
-    }
-    std::vector<int> tally(static_cast<size_t>(top) + 1, 0);
-    for (int x : counts)
-        ++tally[static_cast<size_t>(x)];
-    // The k-th smallest value, from 0.
-    auto nth = [&](size_t k) {
-        size_t seen = 0;
-        int x = 0;
-        for (; seen + static_cast<size_t>(tally[x]) <= k; ++x)
-            seen += static_cast<size_t>(tally[x]);
-        return x;
-    };
-    return n % 2 ? nth(n / 2) : (nth(n / 2 - 1) + nth(n / 2)) / 2.0;
-}
-
 // A turn: the speaker's utterances with no other utterance of the cut
 // between them. The utterances of the cut are numbered without a gap (they
 // are numbered in the order of the transcript's entries), so the speaker's
 // utterance `i` goes on a turn when the speaker's one before it is `i - 1`.
 void fillTurns(const SpeakerView& v, SpeakerMeasures& m) {
-    std::vector<int> utts, words;
-    int previous = -2;
-    for (int i : v.total) {
-        if (i != previous + 1) {
-            utts.push_back(0);
-            words.push_back(0);
-        }
-        previous = i;
-        utts.back() += 1;
-        words.back() += v.facts(i).wordCount;
-    }
+    const CountTally& utts = v.tally().turnUtterances;
+    const CountTally& words = v.tally().turnWords;
     const double turns = static_cast<double>(utts.size());
-    long uttSum = 0, wordSum = 0;
-    std::array<int, 7> byUtts{};
-    std::array<int, 16> byWords{};
-    for (size_t k = 0; k < utts.size(); ++k) {
-        uttSum += utts[k];
-        wordSum += words[k];
-        byUtts[std::min(6, utts[k])]++;
-        byWords[std::min(15, words[k])]++;
-    }
-    m[Id::MeanTurnUt] = Value::ratio(static_cast<double>(uttSum), turns);
-    m[Id::MeanTurnWd] = Value::ratio(static_cast<double>(wordSum), turns);
-    if (!utts.empty()) {
-        m[Id::MedTurnUt] = Value::real(medianOfCounts(utts));
-        m[Id::MedTurnWd] = Value::real(medianOfCounts(words));
+    m[Id::MeanTurnUt] = Value::ratio(static_cast<double>(utts.sum()), turns);
+    m[Id::MeanTurnWd] = Value::ratio(static_cast<double>(words.sum()), turns);
+    if (utts.size() > 0) {
+        m[Id::MedTurnUt] = Value::real(utts.median());
+        m[Id::MedTurnWd] = Value::real(words.median());
     }
     for (int k = 1; k <= 6; ++k)
-        m[*measureIdByName(format("TurnByTLUt%d", k))] = Value::count(byUtts[k]);
-    m[Id::TurnByTLUtTot] = Value::count(static_cast<int>(utts.size()));
+        m[*measureIdByName(format("TurnByTLUt%d", k))] = Value::count(utts.howMany(k, k == 6));
+    m[Id::TurnByTLUtTot] = Value::count(utts.size());
     for (int k = 0; k <= 15; ++k)
-        m[*measureIdByName(format("TurnByTLWd%d", k))] = Value::count(byWords[k]);
-    m[Id::TurnByTLWdTot] = Value::count(static_cast<int>(utts.size()));
+        m[*measureIdByName(format("TurnByTLWd%d", k))] = Value::count(words.howMany(k, k == 15));
+    m[Id::TurnByTLWdTot] = Value::count(utts.size());
 }
 
 } // namespace
 
+int CountTally::howMany(int x, bool orMore) const {
+    if (x < 0 && !orMore)
+        return 0;
+    int n = 0;
+    for (size_t k = static_cast<size_t>(std::max(x, 0)); k < small_.size(); ++k) {
+        n += small_[k];
+        if (!orMore)
+            break;
+    }
+    for (int big : large_)
+        n += big == x || (orMore && big > x) ? 1 : 0;
+    return n;
+}
+
+double CountTally::median() const {
+    std::vector<int> large = large_;
+    std::sort(large.begin(), large.end());
+    // The k-th smallest count, from 0.
+    auto nth = [&](size_t k) {
+        size_t seen = 0;
+        for (size_t x = 0; x < small_.size(); ++x) {
+            seen += static_cast<size_t>(small_[x]);
+            if (k < seen)
+                return static_cast<int>(x);
+        }
+        return large[k - seen];
+    };
+    const auto n = static_cast<size_t>(size_);
+    return n % 2 ? nth(n / 2) : (nth(n / 2 - 1) + nth(n / 2)) / 2.0;
+}
+
 void fillDiscourse(const SpeakerView& v, SpeakerMeasures& m) {
-    DiscourseCounts d;
-    for (int i : v.total)
-        d.add(v, i);
+    const DiscourseCounts& d = v.tally();
     fillResponses(v, d, m);
     fillSpontaneous(d, m);
     fillOverlapsAndInterruptions(v, d, m);

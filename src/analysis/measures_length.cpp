@@ -22,17 +22,9 @@ namespace {
 using Id = MeasureId;
 
 void fillMlu(const SpeakerView& v, SpeakerMeasures& m) {
-    int aWords = 0, aMorphs = 0, tWords = 0, tMorphs = 0, all = 0;
-    for (int i : v.analysisSet) {
-        aWords += v.facts(i).wordCount;
-        aMorphs += v.facts(i).morphemes;
-    }
-    for (int i : v.total) {
-        const UtteranceFacts& f = v.facts(i);
-        tWords += f.wordCount;
-        tMorphs += f.morphemes;
-        all += f.wordCount + f.mazeWords;
-    }
+    const SpeakerTallies& s = v.tally();
+    const int aWords = s.setWords, aMorphs = s.setMorphemes, tWords = s.words,
+              tMorphs = s.morphemes, all = s.words + s.mazeWords;
     const double aset = static_cast<double>(v.analysisSet.size());
     m[Id::MLUw] = Value::ratio(aWords, aset);
     m[Id::MLUm] = Value::ratio(aMorphs, aset);
@@ -50,10 +42,8 @@ void fillMlu(const SpeakerView& v, SpeakerMeasures& m) {
 void fillVocabulary(const SpeakerView& v, SpeakerMeasures& m) {
     const FactTables& t = v.c.tables;
     std::vector<int> ids; // root numbers of the counted words, in order
-    size_t count = 0;     // room for exactly these: a run that doubles as it grows needs thrice
-    for (int i : v.analysisSet)
-        count += static_cast<size_t>(v.facts(i).wordCount);
-    ids.reserve(count);
+    // Room for exactly these: a run that doubles as it grows needs thrice.
+    ids.reserve(static_cast<size_t>(v.tally().setWords));
     // Flags, not counts: a count of chars would wrap after 255 uses.
     std::vector<char> seenRoot(static_cast<size_t>(t.roots.size()), 0);
     std::vector<char> seenEnding(static_cast<size_t>(t.endings.size()), 0);
@@ -66,7 +56,7 @@ void fillVocabulary(const SpeakerView& v, SpeakerMeasures& m) {
         }
     };
     for (int i : v.analysisSet) {
-        const UtteranceFacts& f = v.facts(i);
+        const KeptFacts& f = v.facts(i);
         bound += f.boundMorphemes;
         clitics += f.clitics;
         for (const CountedWord& w : f.words(t)) {
@@ -105,36 +95,6 @@ void fillMentionedFirst(const SpeakerView& v, SpeakerMeasures& m) {
 
 } // namespace
 
-// Both main speakers in one walk: the speaker who said each root first, and
-// the roots each said. A root counts for a speaker when it is among theirs and
-// they said it first.
-void countMentionedFirst(MeasureContext& c) {
-    const size_t different = static_cast<size_t>(c.rootIds().size());
-    std::vector<signed char> firstBy(different, -1);
-    std::vector<std::uint8_t> said(different, 0); // bit g: said by speaker g
-    for (int i : c.selection.utterances) {
-        const int group = c.t.utterances[static_cast<size_t>(i)].speakerGroup;
-        if (group > 1)
-            continue;
-        auto note = [&](int id) {
-            if (firstBy[id] < 0)
-                firstBy[id] = static_cast<signed char>(group);
-            said[id] |= static_cast<std::uint8_t>(1u << group);
-        };
-        const UtteranceFacts& f = c.facts[static_cast<size_t>(i)];
-        for (const CountedWord& w : f.words(c.tables))
-            note(c.tables.spelling(w).root);
-        for (int id : f.remarkRoots(c.tables))
-            note(id);
-    }
-    for (size_t id = 0; id < different; ++id)
-        for (int g = 0; g < 2; ++g)
-            if (said[id] & (1u << g)) {
-                ++c.mentionedFirst[g].different;
-                c.mentionedFirst[g].first += firstBy[id] == g ? 1 : 0;
-            }
-}
-
 void fillLengthAndVocabulary(const SpeakerView& v, SpeakerMeasures& m) {
     fillMlu(v, m);
     fillVocabulary(v, m);
@@ -142,13 +102,8 @@ void fillLengthAndVocabulary(const SpeakerView& v, SpeakerMeasures& m) {
 }
 
 void fillDistributions(const SpeakerView& v, SpeakerMeasures& m) {
-    const MeasureOptions& o = v.c.options;
-    const auto& utts = o.distributionOnAnalysisSet ? v.analysisSet : v.total;
-    std::array<int, 16> rows{};
-    for (int i : utts) {
-        const UtteranceFacts& f = v.facts(i);
-        rows[std::min(15, o.distributionInMorphemes ? f.morphemes : f.wordCount)]++;
-    }
+    const auto& utts = v.c.options.distributionOnAnalysisSet ? v.analysisSet : v.total;
+    const std::array<int, 16>& rows = v.tally().lengthRows;
     for (int len = 0; len < 16; ++len)
         m[*measureIdByName(format("UtbyUL%d", len))] = Value::count(rows[len]);
     m[Id::UtbyULTot] = Value::count(static_cast<int>(utts.size()));

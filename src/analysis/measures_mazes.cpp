@@ -19,38 +19,15 @@ Id idOf(const char* fmt, int n) {
     return *measureIdByName(format(fmt, n));
 }
 
-FilledPauseTest filledPauseTest(const MeasureOptions& o) {
-    if (o.wordLists && !o.wordLists->empty(o.wordListSet, kFilledPauseList)) {
-        return WordTest(*o.wordLists, o.wordListSet, kFilledPauseList);
-    }
-    return isDefaultFilledPause;
-}
-
 } // namespace
 
 void fillMazes(const SpeakerView& v, SpeakerMeasures& m) {
     const int total = static_cast<int>(v.total.size());
-    const FilledPauseTest isFilled = filledPauseTest(v.c.options);
-    int mazeWords = 0, mazes = 0, words = 0, withMaze = 0;
-    std::array<int, kMazeKinds> kinds{};
-    std::array<int, 16> uttsByLen{}, mazeUttsByLen{}, mazesByUttLen{}, mazesByMazeLen{};
-    for (int i : v.total) {
-        const Utterance& u = v.utt(i);
-        const UtteranceFacts& f = v.facts(i);
-        const int len = std::min(15, f.wordCount);
-        mazeWords += f.mazeWords;
-        words += f.wordCount;
-        mazes += static_cast<int>(u.mazes().size());
-        withMaze += u.mazes().empty() ? 0 : 1;
-        uttsByLen[len]++;
-        mazeUttsByLen[len] += u.mazes().empty() ? 0 : 1;
-        mazesByUttLen[len] += static_cast<int>(u.mazes().size());
-        for (size_t k = 0; k < u.mazes().size(); ++k) {
-            kinds[static_cast<int>(
-                classifyMaze(u, static_cast<int>(k), isFilled, v.c.options.dictionary))]++;
-            mazesByMazeLen[std::clamp(static_cast<int>(u.mazes()[k].words.size()), 0, 15)]++;
-        }
-    }
+    const SpeakerTallies& s = v.tally();
+    const int mazeWords = s.mazeWords, mazes = s.mazes, words = s.words, withMaze = s.withMaze;
+    const auto& kinds = s.mazeKinds;
+    const auto &uttsByLen = s.uttsByLength, &mazeUttsByLen = s.mazeUttsByLength,
+               &mazesByUttLen = s.mazesByUttLength, &mazesByMazeLen = s.mazesByLength;
     m[Id::MzWds] = Value::count(mazeWords);
     m[Id::PctMzWds] = Value::ratio(mazeWords, words + mazeWords, 100);
     m[Id::TotNumMz] = Value::count(mazes);

@@ -33,13 +33,8 @@ void countPausesBetween(MeasureContext& c) {
 
 void fillTimingAndPauses(const SpeakerView& v, SpeakerMeasures& m) {
     const std::optional<int> elapsed = v.c.selection.elapsedSeconds;
-    int words = 0;
-    PauseSums within;
-    for (int i : v.total) {
-        words += v.facts(i).wordCount;
-        for (const Pause& p : v.utt(i).pauses())
-            within.add(p.timed, p.seconds);
-    }
+    const int words = v.tally().words;
+    const PauseSums& within = v.tally().within;
     if (elapsed) {
         const double minutes = *elapsed / 60.0;
         m[Id::TimeSec] = Value::count(*elapsed);

@@ -430,7 +430,13 @@ Selection selectUtterances(const SegmentedTranscript& t, const AnalysisSet& set,
         if (e.kind != EntryKind::Utterance)
             continue;
         s.utterances.push_back(e.utterance);
-        int group = t.utterances[e.utterance].speakerGroup;
+        const Utterance& u = t.utterances[e.utterance];
+        s.words += u.words.size();
+        if (u.extras) {
+            s.remarkWords += u.parentheticalWords().size();
+            s.withCodes += u.codes().empty() ? 0 : 1;
+        }
+        int group = u.speakerGroup;
         if (group > 1)
             continue;
         s.speakers[group].total.push_back(e.utterance);

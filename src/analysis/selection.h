@@ -70,6 +70,10 @@ struct Selection {
     std::vector<ResponseType> responses; // per utterance of the transcript
     std::vector<bool> analysisSetFlags;  // per utterance: passes the analysis set
     std::size_t firstEntry = 0;          // entries [firstEntry, endEntry) lie inside the cut
+    // The words (main body and mazes) and remark words of the utterances
+    // inside the cut, and how many of them have codes: room the measures make
+    // for them at once.
+    std::size_t words = 0, remarkWords = 0, withCodes = 0;
     std::size_t endEntry = 0;
     CutOutcome outcome = CutOutcome::Complete;
     // Elapsed time of the cut from its timing lines; empty when it has none.

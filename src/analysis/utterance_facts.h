@@ -129,7 +129,8 @@ struct FactTables {
     }
 };
 
-// The facts of one utterance: 36 bytes, as one is kept for every utterance.
+// The facts of one utterance, gathered by the measures' walk (which keeps of them
+// only what later counts read: KeptFacts).
 struct UtteranceFacts {
     std::uint32_t wordsFrom = 0; // counted words: FactTables::words[wordsFrom, + counted)
     std::uint32_t codes = 0;     // FactTables::codeFacts[codes]
@@ -159,7 +160,7 @@ struct UtteranceFacts {
     const CodeFacts& codeFacts(const FactTables& t) const { return t.codeFacts[codes]; }
 };
 
-static_assert(sizeof(UtteranceFacts) <= 36, "a record is kept for every utterance");
+static_assert(sizeof(UtteranceFacts) <= 36, "a record is made for every utterance");
 
 // Whether word `index` of `u` is a counted main-body word under the word base.
 bool isCountedWord(const Utterance& u, int index, const WordBase& base, const CodeMatchers& codes);

@@ -2,6 +2,9 @@
 // table, categories of a value and the fallback from a word's form.
 #include <gtest/gtest.h>
 
+#include <random>
+#include <string>
+
 #include "analysis/gc_dictionary.h"
 #include "analysis/grammatical_categories.h"
 #include "base/text.h"
@@ -23,6 +26,63 @@ TEST(GcDictionaryHash, FollowsTheDefinitionOverUtf16CodeUnits) {
     EXPECT_EQ(hashOf("\xF0\x9F\x98\x80"), 74211); // U+1F600 is two (a surrogate pair)
     EXPECT_EQ(hashOf("a", 7), 6);
     EXPECT_EQ(hashOf("b", 7), 0);
+}
+
+// The hash of a UTF-8 key, taken without its UTF-16 form and with the
+// remainder deferred, against the definition: keys of every length up to 40,
+// of ASCII, two-, three- and four-byte characters, over small, usual and
+// large capacities (above 2^24 each step takes its own remainder).
+TEST(GcDictionaryHash, Utf8KeysHashAsTheirUtf16Form) {
+    const char* const pieces[] = {"a",
+                                  "Z",
+                                  "'",
+                                  "0",
+                                  "~",
+                                  "\x7F",
+                                  "\xC3\xA9",
+                                  "\xDF\xBF",
+                                  "\xE2\x82\xAC",
+                                  "\xEF\xBF\xBF",
+                                  "\xF0\x9F\x98\x80",
+                                  "\xF4\x8F\xBF\xBF"};
+    const std::int32_t capacities[] = {
+        1, 2, 7, 211, 65521, MAX_DICTIONARY_WORDS, 16777215, 16777216, 33000000};
+    std::mt19937 rng(7);
+    for (int round = 0; round < 3000; ++round) {
+        std::string key;
+        for (int n = static_cast<int>(rng() % 41); n > 0; --n)
+            key += pieces[rng() % std::size(pieces)];
+        for (std::int32_t cap : capacities)
+            ASSERT_EQ(dictionaryHash(std::string_view(key), cap), hashOf(key, cap))
+                << key << " " << cap;
+    }
+}
+
+// Lines loaded from a text with every kind of line end are found as when
+// inserted one by one, and a full table stops the load at the same line.
+TEST(GcDictionaryStore, LoadSplitsLinesAsInsertDoes) {
+    const std::string text = "a [GC:NOUN]\r\nb [GC:VERB]\rc [GC:ADJ]\n\nd [GC:DET]\r\r\n"
+                             "e [GC:PREP]\nlonely\r\nf [GC:NOUN]";
+    for (std::int32_t cap : {5, 6, 7, 8, 9, 31}) {
+        GcDictionary loaded(cap), inserted(cap);
+        test::RecordingPrompter p, q;
+        loaded.load(text, p);
+        bool full = false;
+        for (std::string_view line : splitLines(text))
+            if (!full && !inserted.insert(line)) {
+                full = true;
+                q.inform("Increase MAX_DICTIONARY_WORDS");
+            }
+        EXPECT_EQ(p.messages, q.messages) << cap;
+        EXPECT_EQ(loaded.size(), inserted.size()) << cap;
+        for (std::string_view key : {"a", "b", "c", "d", "e", "f", "", "lonely"})
+            EXPECT_EQ(loaded.lookup(key), inserted.lookup(key)) << cap << " " << key;
+        // Lines inserted after a load go after the loaded ones.
+        loaded.insert("g [GC:VERB]");
+        inserted.insert("g [GC:VERB]");
+        EXPECT_EQ(loaded.lookup("g"), inserted.lookup("g")) << cap;
+        EXPECT_EQ(loaded.lookup("a"), inserted.lookup("a")) << cap;
+    }
 }
 
 TEST(GcDictionaryStore, ProbesUpwardWrapsAndKeepsTheFirstDuplicate) {
