@@ -15,8 +15,10 @@
 #include "transcript/segmenter.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <cstring>
+#include <string>
 #include <type_traits>
 
 #include "base/text.h"
@@ -128,6 +130,16 @@ inline std::uint8_t wordKind(char32_t c) {
                                      (cls::isAlnum(c) ? kAlnum : 0));
 }
 
+// isUnintelligibleMark for the plain words, in line: "x", "xx" or "xxx" in any case.
+template <class C> inline bool unintelligibleMark(std::basic_string_view<C> text) {
+    if (text.empty() || text.size() > 3)
+        return false;
+    for (C c : text)
+        if ((c | C(0x20)) != C('x'))
+            return false;
+    return true;
+}
+
 } // namespace
 
 // The copies of a line being cut, as bytes (C = char) or code points.
@@ -135,6 +147,153 @@ template <class C> struct LineBuffers {
     std::basic_string<C> buf;
     std::basic_string<C> link;
     std::basic_string<C> joined; // a word with the codes written inside it taken out
+};
+
+// How the words of bytes split before were split, found by their text: a
+// word's split depends on its text alone, so a word met again is rebuilt
+// from the offsets of its pieces instead of split anew. Only splits that
+// found no fault are kept (a word met again must report its faults again).
+class SplitCache {
+public:
+    // Fills `draft` (views into `text`) when `text` was split before.
+    bool find(std::string_view text, WordDraft& draft) const {
+        if (entries_.empty() || text.size() > kMaxText)
+            return false;
+        for (size_t i = hashOf(text) & mask();; i = (i + 1) & mask()) {
+            const std::uint32_t id = slots_[i];
+            if (id == kEmpty)
+                return false;
+            const Entry& e = entries_[id];
+            if (e.key.size() != text.size() ||
+                std::memcmp(e.key.data(), text.data(), text.size()) != 0)
+                continue;
+            // Every field of the draft is set.
+            draft.text = text;
+            draft.root = viewOf(text, e.root);
+            draft.rootIdentification = viewOf(text, e.rootIdentification);
+            draft.omittedRoot = e.omittedRoot;
+            size_t at = e.firstPiece;
+            for (size_t k = 0; k < e.counts.size(); ++k) {
+                draft.pieces[k].clear();
+                for (size_t n = 0; n < e.counts[k]; ++n)
+                    draft.pieces[k].push_back(viewOf(text, pieces_[at++]));
+            }
+            draft.flags = e.flags;
+            return true;
+        }
+    }
+    // Keeps the split of `draft`, whose text is `text` (nothing when a view
+    // lies outside it).
+    void add(std::string_view text, const WordDraft& draft) {
+        if (entries_.size() >= kMaxEntries || text.size() > kMaxText ||
+            draft.text.data() != text.data() || draft.text.size() != text.size())
+            return;
+        Entry e;
+        e.firstPiece = pieces_.size();
+        bool ok = pieceOf(text, draft.root, e.root) &&
+                  pieceOf(text, draft.rootIdentification, e.rootIdentification);
+        for (size_t k = 0; ok && k < draft.pieces.size(); ++k) {
+            if (draft.pieces[k].size() > 0xFF)
+                ok = false;
+            e.counts[k] = static_cast<std::uint8_t>(draft.pieces[k].size());
+            for (size_t n = 0; ok && n < draft.pieces[k].size(); ++n) {
+                Piece piece;
+                ok = pieceOf(text, draft.pieces[k][n], piece);
+                pieces_.push_back(piece);
+            }
+        }
+        if (!ok) {
+            pieces_.resize(e.firstPiece);
+            return;
+        }
+        e.omittedRoot = draft.omittedRoot;
+        e.flags = draft.flags;
+        e.key.assign(text);
+        if (slots_.empty())
+            slots_.assign(64, kEmpty);
+        else if ((entries_.size() + 1) * 2 > slots_.size())
+            grow();
+        entries_.push_back(std::move(e));
+        place(static_cast<std::uint32_t>(entries_.size() - 1));
+    }
+
+private:
+    static constexpr size_t kMaxEntries = 1 << 14;
+    static constexpr size_t kMaxText = 64;
+    static constexpr std::uint32_t kNull = ~std::uint32_t{0}; // a view with no data
+    struct Piece {
+        std::uint32_t from = kNull; // offset in the word's text
+        std::uint32_t size = 0;
+    };
+    struct Entry {
+        Word flags;
+        Piece root, rootIdentification;
+        size_t firstPiece = 0;
+        std::array<std::uint8_t, 5> counts{};
+        bool omittedRoot = false;
+        std::string key; // the word's text
+    };
+    static std::string_view viewOf(std::string_view text, Piece p) {
+        return p.from == kNull ? std::string_view()
+                               : std::string_view(text.data() + p.from, p.size);
+    }
+    static bool pieceOf(std::string_view text, std::string_view view, Piece& p) {
+        if (view.data() == nullptr) {
+            p = Piece{kNull, 0};
+            return view.empty();
+        }
+        if (view.data() < text.data() || view.data() + view.size() > text.data() + text.size())
+            return false;
+        p = Piece{static_cast<std::uint32_t>(view.data() - text.data()),
+                  static_cast<std::uint32_t>(view.size())};
+        return true;
+    }
+    // A short hash of a word's first and last eight bytes and its size.
+    static size_t hashOf(std::string_view text) {
+        std::uint64_t a = 0, b = 0;
+        const size_t n = text.size();
+        if (n >= 8) {
+            std::memcpy(&a, text.data(), 8);
+            std::memcpy(&b, text.data() + n - 8, 8);
+        } else {
+            for (size_t i = 0; i < n; ++i)
+                a = a << 8 | static_cast<unsigned char>(text[i]);
+        }
+        std::uint64_t h = a * 0x9E3779B97F4A7C15u ^ (b + n) * 0xC2B2AE3D27D4EB4Fu;
+        return static_cast<size_t>(h ^ h >> 29);
+    }
+    size_t mask() const { return slots_.size() - 1; }
+    void place(std::uint32_t id) {
+        size_t i = hashOf(entries_[id].key) & mask();
+        while (slots_[i] != kEmpty)
+            i = (i + 1) & mask();
+        slots_[i] = id;
+    }
+    void grow() {
+        slots_.assign(slots_.size() * 2, kEmpty);
+        for (std::uint32_t id = 0; id < entries_.size(); ++id)
+            place(id);
+    }
+    static constexpr std::uint32_t kEmpty = ~std::uint32_t{0};
+    std::vector<std::uint32_t> slots_; // entry numbers; a power of two, at most half full
+    std::vector<Entry> entries_;
+    std::vector<Piece> pieces_;
+};
+
+// Counts the problems reported through it, passing them on to `to` (if any).
+struct CountingSink : ProblemSink {
+    ProblemSink* to = nullptr;
+    int problems = 0;
+    explicit CountingSink(ProblemSink* sink) : to(sink) {}
+    void problem(Problem id, std::string message) override {
+        ++problems;
+        if (to)
+            to->problem(id, std::move(message));
+    }
+    void pause(const Pause& p) override {
+        if (to)
+            to->pause(p);
+    }
 };
 
 // The lists of the utterance being cut, reused from line to line.
@@ -150,10 +309,14 @@ struct UtteranceSegmenter::Scratch {
     }
     std::string spare;
     WordDraft word;
+    SplitCache splits;
     std::vector<Word> words;
     std::vector<size_t> positions; // of each word in the line
     std::vector<Code> codes;
-    std::vector<std::vector<int>> mazeWords;
+    // The words in mazes, in order, and the maze each lies in (mazes do not
+    // nest and words come in line order, so each maze's words are a run).
+    std::vector<int> mazeWords;
+    std::vector<size_t> mazeOfWord;
     std::vector<Maze> mazes;
     std::vector<std::string_view> parentheticals;
     std::vector<Pause> pauses;
@@ -179,6 +342,7 @@ struct UtteranceSegmenter::Scratch {
         positions.clear();
         codes.clear();
         mazeWords.clear();
+        mazeOfWord.clear();
         parentheticals.clear();
         pauses.clear();
         parentheticalWords.clear();
@@ -521,9 +685,6 @@ template <class C> void LineCutter<C>::mazesAndOverlaps() {
         b_[overlap] = kBlank;
     }
     out_.hasOverlap = !overlaps_.empty();
-    s_.mazeWords.resize(mazes_.size());
-    for (auto& list : s_.mazeWords)
-        list.clear();
 }
 
 // A piece of a linked word has "_" only at its ends, and only its last piece
@@ -580,7 +741,6 @@ template <class C> void LineCutter<C>::dropFrom(size_t pos) {
     }
     while (!mazes_.empty() && mazes_.back().first > pos)
         mazes_.pop_back();
-    s_.mazeWords.resize(mazes_.size());
     while (!overlaps_.empty() && overlaps_.back().first > pos)
         overlaps_.pop_back();
     out_.hasOverlap = !overlaps_.empty();
@@ -784,15 +944,25 @@ void LineCutter<C>::addWord(View text, size_t position, bool linked, bool malfor
         // The common case, an ASCII word of word characters only: no rule
         // applies, and the word is a view of its line.
         kept.assignPlain(line_.substr(position, text.size()));
-        kept.unintelligible = isUnintelligibleMark(text);
+        kept.unintelligible = unintelligibleMark(text);
     } else {
-        word.clear();
         std::string_view bytes = linked || !contiguous || line_.empty()
                                      ? std::string_view()
                                      : line_.substr(position, text.size());
-        if (!splitWord(text, linked, word, sink_, bytes, s_.spare, plain == 0))
-            return;
-        word.flags.linked = linked;
+        // A word of the line's bytes as they stand may have been split before.
+        bool cached = false;
+        if constexpr (std::is_same_v<C, char>)
+            cached = !bytes.empty() && bytes == text;
+        if (!cached || !s_.splits.find(bytes, word)) {
+            word.clear();
+            CountingSink counting(sink_);
+            if (!splitWord(text, linked, word, cached ? &counting : sink_, bytes, s_.spare,
+                           plain == 0))
+                return;
+            word.flags.linked = linked;
+            if (cached && counting.problems == 0)
+                s_.splits.add(bytes, word);
+        }
         kept = store_->keepWord(word, stable_);
     }
     // Words come in line order and mazes and overlaps do not nest: one cursor
@@ -802,7 +972,8 @@ void LineCutter<C>::addWord(View text, size_t position, bool linked, bool malfor
         ++mazeCursor_;
     if (mazeCursor_ < mazes_.size() && mazes_[mazeCursor_].first <= position) {
         kept.inMaze = true;
-        s_.mazeWords[mazeCursor_].push_back(index);
+        s_.mazeWords.push_back(index);
+        s_.mazeOfWord.push_back(mazeCursor_);
     }
     while (overlapCursor_ < overlaps_.size() && overlaps_[overlapCursor_].second < position)
         ++overlapCursor_;
@@ -1032,8 +1203,7 @@ void cutPlainLine(std::string_view line, size_t end, std::vector<Word>& words, U
         Word w;
         w.assignPlain(line.substr(start, i - start));
         const std::string_view text = w.text();
-        w.unintelligible =
-            text.size() <= 3 && text.find_first_not_of("xX") == std::string_view::npos;
+        w.unintelligible = unintelligibleMark(text);
         marks += w.unintelligible ? 1 : 0;
         words.push_back(w);
     }
@@ -1066,8 +1236,14 @@ void UtteranceSegmenter::segment(std::string_view line, int lineNumber, int spea
         cutLine(line, lineNumber, speakerGroup, s, out, sink, &store);
     out.words = store.keep(s.words);
     s.mazes.clear();
-    for (const std::vector<int>& words : s.mazeWords)
-        s.mazes.push_back(Maze{store.keep(words)});
+    const size_t inMazes = s.mazeWords.size();
+    for (size_t k = 0, w = 0; k < s.mazeSpans.size(); ++k) {
+        const size_t from = w;
+        while (w < inMazes && s.mazeOfWord[w] == k)
+            ++w;
+        s.mazes.push_back(
+            Maze{store.keep(std::span<const int>(s.mazeWords.data() + from, w - from))});
+    }
     out.extras =
         store.keepExtras(s.codes, s.mazes, s.parentheticals, s.parentheticalWords, s.pauses);
 }
