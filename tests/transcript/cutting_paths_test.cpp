@@ -211,5 +211,30 @@ TEST(CuttingPaths, NearPlainLinesAgree) {
     }
 }
 
+// A segmenter keeps how it split each word of bytes and rebuilds a word met
+// again from that. Lines that repeat words, right and faulty, cut by one
+// segmenter (each into its own store, the way every transcript has its own)
+// must give what a new segmenter gives, faults reported each time.
+TEST(CuttingPaths, WordsMetAgainAgreeWithFirstCut) {
+    static const std::vector<std::string> words = {
+        "run/ing", "dog/s", "ran/*ed", "he+'s", "she+*s", "*the",    "%goed", "un\\tie",
+        "XX/s",    "x",     "went|go", "a|b|c", "ba*",    "dog/",    "+s",    "*/s",
+        "%",       "go",    "a&b",     "#",     "w/s/ed", "a\\b\\c", "*x/s",  "he+s+*ll"};
+    UtteranceSegmenter warm;
+    std::mt19937 rng(23);
+    for (int n = 0; n < 4000; ++n) {
+        std::string line = n % 2 ? "C" : "E";
+        for (int k = 0, count = 1 + static_cast<int>(rng() % 8); k < count; ++k) {
+            line += ' ';
+            if (rng() % 9 == 0)
+                line += "(um) ";
+            line += words[rng() % words.size()];
+        }
+        line += ".";
+        UtteranceSegmenter fresh;
+        ASSERT_EQ(cutBy(warm, line), cutBy(fresh, line)) << line;
+    }
+}
+
 } // namespace
 } // namespace tavi
