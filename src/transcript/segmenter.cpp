@@ -937,14 +937,17 @@ void LineCutter<C>::addWord(View text, size_t position, bool linked, bool malfor
         checkWord(text, linked, word, s_.spare, sink_, plain == 0);
         return;
     }
-    Word kept;
+    // The record is made in its place in the list: a record built aside and
+    // copied in is put together again flag by flag.
+    Word* kept = nullptr;
     if (plain < 0 && !linked && contiguous && !line_.empty())
         plain = isPlainWord(text) ? 1 : 0;
     if (!linked && contiguous && !line_.empty() && plain == 1) {
         // The common case, an ASCII word of word characters only: no rule
         // applies, and the word is a view of its line.
-        kept.assignPlain(line_.substr(position, text.size()));
-        kept.unintelligible = unintelligibleMark(text);
+        kept = &s_.words.emplace_back();
+        kept->assignPlain(line_.substr(position, text.size()));
+        kept->unintelligible = unintelligibleMark(text);
     } else {
         std::string_view bytes = linked || !contiguous || line_.empty()
                                      ? std::string_view()
@@ -963,23 +966,22 @@ void LineCutter<C>::addWord(View text, size_t position, bool linked, bool malfor
             if (cached && counting.problems == 0)
                 s_.splits.add(bytes, word);
         }
-        kept = store_->keepWord(word, stable_);
+        kept = &s_.words.emplace_back(store_->keepWord(word, stable_));
     }
     // Words come in line order and mazes and overlaps do not nest: one cursor
     // each finds the span a word may lie in.
-    int index = static_cast<int>(s_.words.size());
+    int index = static_cast<int>(s_.words.size()) - 1;
     while (mazeCursor_ < mazes_.size() && mazes_[mazeCursor_].second < position)
         ++mazeCursor_;
     if (mazeCursor_ < mazes_.size() && mazes_[mazeCursor_].first <= position) {
-        kept.inMaze = true;
+        kept->inMaze = true;
         s_.mazeWords.push_back(index);
         s_.mazeOfWord.push_back(mazeCursor_);
     }
     while (overlapCursor_ < overlaps_.size() && overlaps_[overlapCursor_].second < position)
         ++overlapCursor_;
-    kept.inOverlap =
+    kept->inOverlap =
         overlapCursor_ < overlaps_.size() && overlaps_[overlapCursor_].first <= position;
-    s_.words.push_back(kept);
     s_.positions.push_back(position);
 }
 
@@ -1200,12 +1202,11 @@ void cutPlainLine(std::string_view line, size_t end, std::vector<Word>& words, U
         const size_t start = i;
         while (i < end && line[i] != ' ' && line[i] != '\t')
             ++i;
-        Word w;
+        Word& w = words.emplace_back();
         w.assignPlain(line.substr(start, i - start));
-        const std::string_view text = w.text();
-        w.unintelligible = unintelligibleMark(text);
-        marks += w.unintelligible ? 1 : 0;
-        words.push_back(w);
+        const bool mark = unintelligibleMark(w.text());
+        w.unintelligible = mark;
+        marks += mark ? 1 : 0;
     }
     out.setTerminator(static_cast<unsigned char>(line[end]));
     if (marks > 0)
