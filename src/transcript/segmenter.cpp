@@ -945,7 +945,8 @@ void LineCutter<C>::addWord(View text, size_t position, bool linked, bool malfor
     if (!linked && contiguous && !line_.empty() && plain == 1) {
         // The common case, an ASCII word of word characters only: no rule
         // applies, and the word is a view of its line.
-        kept = &s_.words.emplace_back();
+        s_.words.push_back(Word());
+        kept = &s_.words.back();
         kept->assignPlain(line_.substr(position, text.size()));
         kept->unintelligible = unintelligibleMark(text);
     } else {
@@ -966,7 +967,9 @@ void LineCutter<C>::addWord(View text, size_t position, bool linked, bool malfor
             if (cached && counting.problems == 0)
                 s_.splits.add(bytes, word);
         }
-        kept = &s_.words.emplace_back(store_->keepWord(word, stable_));
+        const Word made = store_->keepWord(word, stable_);
+        s_.words.push_back(made);
+        kept = &s_.words.back();
     }
     // Words come in line order and mazes and overlaps do not nest: one cursor
     // each finds the span a word may lie in.
@@ -1202,7 +1205,8 @@ void cutPlainLine(std::string_view line, size_t end, std::vector<Word>& words, U
         const size_t start = i;
         while (i < end && line[i] != ' ' && line[i] != '\t')
             ++i;
-        Word& w = words.emplace_back();
+        words.push_back(Word());
+        Word& w = words.back();
         w.assignPlain(line.substr(start, i - start));
         const bool mark = unintelligibleMark(w.text());
         w.unintelligible = mark;
