@@ -402,6 +402,7 @@ private:
     size_t readPause(size_t colon);
     void words();
     void checkLoneWords();
+    void keepLoneWords();
     // `plain`: 1 or 0 when the caller knows whether isPlainWord(text) holds, else -1.
     void addWord(View text, size_t position, bool linked, bool malformed, bool contiguous = true,
                  int plain = -1);
@@ -816,10 +817,37 @@ template <class C> void LineCutter<C>::checkLoneWords() {
     }
 }
 
+// Keeping the words of a line without codes or word links: each word stands
+// alone, cut where the general word pass cuts it.
+template <class C> void LineCutter<C>::keepLoneWords() {
+    const C* b = b_;
+    const size_t end = end_;
+    size_t i = 1;
+    while (i < end) {
+        std::uint8_t kind = wordKind(b[i]);
+        if (kind & kSpace) {
+            ++i;
+            continue;
+        }
+        const size_t start = i;
+        std::uint8_t all = kWordChar, any = 0;
+        do {
+            all &= kind;
+            any |= kind;
+            ++i;
+        } while (i < end && !((kind = wordKind(b[i])) & kSpace));
+        addWord(View(b + start, i - start), start, false, false, true,
+                (all & kWordChar) && (any & kAlnum) ? 1 : 0);
+    }
+}
+
 // Word links, then each word.
 template <class C> void LineCutter<C>::words() {
-    if (!store_ && codeCloses_.empty() && !anyPresent(kLink)) {
-        checkLoneWords();
+    if (codeCloses_.empty() && !anyPresent(kLink)) {
+        if (store_)
+            keepLoneWords();
+        else
+            checkLoneWords();
         return;
     }
     View text(buf_);

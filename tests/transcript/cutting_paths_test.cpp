@@ -236,5 +236,38 @@ TEST(CuttingPaths, WordsMetAgainAgreeWithFirstCut) {
     }
 }
 
+// The words of a line without codes or word links are cut in a pass of their
+// own; a code set apart at the end of the line sends the same words through
+// the general word pass, which must cut them alike.
+TEST(CuttingPaths, LoneWordsCutAsByTheGeneralPass) {
+    static const std::vector<std::string> words = {
+        "go",   "run/ing", "dog/s", "ran/*ed", "*the", "%goed", "x",  "XXX",  "went|go", "ba*",
+        "dog/", "+s",      "*/s",   "%",       "a&b",  "(um)",  "<a", "b>",   "((hm))",  ":05",
+        ",",    "\"hi\"",  "'s",    "\t",      "=",    "9",     "@",  "w/s+s"};
+    auto wordLines = [](const std::string& described) {
+        std::string out;
+        size_t at = 0;
+        while (at < described.size()) {
+            size_t end = described.find('\n', at);
+            std::string line = described.substr(at, end - at);
+            if (line.rfind("word ", 0) == 0 || line.rfind("maze", 0) == 0)
+                out += line + "\n";
+            at = end == std::string::npos ? described.size() : end + 1;
+        }
+        return out;
+    };
+    UtteranceSegmenter segmenter;
+    std::mt19937 rng(31);
+    for (int n = 0; n < 6000; ++n) {
+        std::string body = "C";
+        for (int k = 0, count = static_cast<int>(rng() % 9); k < count; ++k)
+            body += " " + words[rng() % words.size()];
+        const std::string end = std::string(1, ".?!"[rng() % 3]);
+        std::string lone = cutBy(segmenter, body + end);
+        std::string general = cutBy(segmenter, body + " [EU]" + end);
+        ASSERT_EQ(wordLines(lone), wordLines(general)) << body;
+    }
+}
+
 } // namespace
 } // namespace tavi
