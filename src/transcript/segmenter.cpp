@@ -11,7 +11,9 @@
 // the steps with nothing to do are skipped. On bytes each step passes over the
 // characters it has no rule for; on code points every character is looked at
 // (the tests hold the two to the same results). When the line is only
-// checked, nothing is kept: words are checked, not built.
+// checked, nothing is kept: words are checked, not built. When kept, a word
+// of bytes that is not plain is split once per segmenter: met again, it is
+// rebuilt from the offsets of its pieces (SplitCache).
 #include "transcript/segmenter.h"
 
 #include <algorithm>
