@@ -11,12 +11,16 @@
 // the steps with nothing to do are skipped. On bytes each step passes over the
 // characters it has no rule for; on code points every character is looked at
 // (the tests hold the two to the same results). When the line is only
-// checked, nothing is kept: words are checked, not built.
+// checked, nothing is kept: words are checked, not built. When kept, a word
+// of bytes that is not plain is split once per segmenter: met again, it is
+// rebuilt from the offsets of its pieces (SplitCache).
 #include "transcript/segmenter.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <cstring>
+#include <string>
 #include <type_traits>
 
 #include "base/text.h"
@@ -128,6 +132,16 @@ inline std::uint8_t wordKind(char32_t c) {
                                      (cls::isAlnum(c) ? kAlnum : 0));
 }
 
+// isUnintelligibleMark for the plain words, in line: "x", "xx" or "xxx" in any case.
+template <class C> inline bool unintelligibleMark(std::basic_string_view<C> text) {
+    if (text.empty() || text.size() > 3)
+        return false;
+    for (C c : text)
+        if ((c | C(0x20)) != C('x'))
+            return false;
+    return true;
+}
+
 } // namespace
 
 // The copies of a line being cut, as bytes (C = char) or code points.
@@ -135,6 +149,153 @@ template <class C> struct LineBuffers {
     std::basic_string<C> buf;
     std::basic_string<C> link;
     std::basic_string<C> joined; // a word with the codes written inside it taken out
+};
+
+// How the words of bytes split before were split, found by their text: a
+// word's split depends on its text alone, so a word met again is rebuilt
+// from the offsets of its pieces instead of split anew. Only splits that
+// found no fault are kept (a word met again must report its faults again).
+class SplitCache {
+public:
+    // Fills `draft` (views into `text`) when `text` was split before.
+    bool find(std::string_view text, WordDraft& draft) const {
+        if (entries_.empty() || text.size() > kMaxText)
+            return false;
+        for (size_t i = hashOf(text) & mask();; i = (i + 1) & mask()) {
+            const std::uint32_t id = slots_[i];
+            if (id == kEmpty)
+                return false;
+            const Entry& e = entries_[id];
+            if (e.key.size() != text.size() ||
+                std::memcmp(e.key.data(), text.data(), text.size()) != 0)
+                continue;
+            // Every field of the draft is set.
+            draft.text = text;
+            draft.root = viewOf(text, e.root);
+            draft.rootIdentification = viewOf(text, e.rootIdentification);
+            draft.omittedRoot = e.omittedRoot;
+            size_t at = e.firstPiece;
+            for (size_t k = 0; k < e.counts.size(); ++k) {
+                draft.pieces[k].clear();
+                for (size_t n = 0; n < e.counts[k]; ++n)
+                    draft.pieces[k].push_back(viewOf(text, pieces_[at++]));
+            }
+            draft.flags = e.flags;
+            return true;
+        }
+    }
+    // Keeps the split of `draft`, whose text is `text` (nothing when a view
+    // lies outside it).
+    void add(std::string_view text, const WordDraft& draft) {
+        if (entries_.size() >= kMaxEntries || text.size() > kMaxText ||
+            draft.text.data() != text.data() || draft.text.size() != text.size())
+            return;
+        Entry e;
+        e.firstPiece = pieces_.size();
+        bool ok = pieceOf(text, draft.root, e.root) &&
+                  pieceOf(text, draft.rootIdentification, e.rootIdentification);
+        for (size_t k = 0; ok && k < draft.pieces.size(); ++k) {
+            if (draft.pieces[k].size() > 0xFF)
+                ok = false;
+            e.counts[k] = static_cast<std::uint8_t>(draft.pieces[k].size());
+            for (size_t n = 0; ok && n < draft.pieces[k].size(); ++n) {
+                Piece piece;
+                ok = pieceOf(text, draft.pieces[k][n], piece);
+                pieces_.push_back(piece);
+            }
+        }
+        if (!ok) {
+            pieces_.resize(e.firstPiece);
+            return;
+        }
+        e.omittedRoot = draft.omittedRoot;
+        e.flags = draft.flags;
+        e.key.assign(text);
+        if (slots_.empty())
+            slots_.assign(64, kEmpty);
+        else if ((entries_.size() + 1) * 2 > slots_.size())
+            grow();
+        entries_.push_back(std::move(e));
+        place(static_cast<std::uint32_t>(entries_.size() - 1));
+    }
+
+private:
+    static constexpr size_t kMaxEntries = 1 << 14;
+    static constexpr size_t kMaxText = 64;
+    static constexpr std::uint32_t kNull = ~std::uint32_t{0}; // a view with no data
+    struct Piece {
+        std::uint32_t from = kNull; // offset in the word's text
+        std::uint32_t size = 0;
+    };
+    struct Entry {
+        Word flags;
+        Piece root, rootIdentification;
+        size_t firstPiece = 0;
+        std::array<std::uint8_t, 5> counts{};
+        bool omittedRoot = false;
+        std::string key; // the word's text
+    };
+    static std::string_view viewOf(std::string_view text, Piece p) {
+        return p.from == kNull ? std::string_view()
+                               : std::string_view(text.data() + p.from, p.size);
+    }
+    static bool pieceOf(std::string_view text, std::string_view view, Piece& p) {
+        if (view.data() == nullptr) {
+            p = Piece{kNull, 0};
+            return view.empty();
+        }
+        if (view.data() < text.data() || view.data() + view.size() > text.data() + text.size())
+            return false;
+        p = Piece{static_cast<std::uint32_t>(view.data() - text.data()),
+                  static_cast<std::uint32_t>(view.size())};
+        return true;
+    }
+    // A short hash of a word's first and last eight bytes and its size.
+    static size_t hashOf(std::string_view text) {
+        std::uint64_t a = 0, b = 0;
+        const size_t n = text.size();
+        if (n >= 8) {
+            std::memcpy(&a, text.data(), 8);
+            std::memcpy(&b, text.data() + n - 8, 8);
+        } else {
+            for (size_t i = 0; i < n; ++i)
+                a = a << 8 | static_cast<unsigned char>(text[i]);
+        }
+        std::uint64_t h = a * 0x9E3779B97F4A7C15u ^ (b + n) * 0xC2B2AE3D27D4EB4Fu;
+        return static_cast<size_t>(h ^ h >> 29);
+    }
+    size_t mask() const { return slots_.size() - 1; }
+    void place(std::uint32_t id) {
+        size_t i = hashOf(entries_[id].key) & mask();
+        while (slots_[i] != kEmpty)
+            i = (i + 1) & mask();
+        slots_[i] = id;
+    }
+    void grow() {
+        slots_.assign(slots_.size() * 2, kEmpty);
+        for (std::uint32_t id = 0; id < entries_.size(); ++id)
+            place(id);
+    }
+    static constexpr std::uint32_t kEmpty = ~std::uint32_t{0};
+    std::vector<std::uint32_t> slots_; // entry numbers; a power of two, at most half full
+    std::vector<Entry> entries_;
+    std::vector<Piece> pieces_;
+};
+
+// Counts the problems reported through it, passing them on to `to` (if any).
+struct CountingSink : ProblemSink {
+    ProblemSink* to = nullptr;
+    int problems = 0;
+    explicit CountingSink(ProblemSink* sink) : to(sink) {}
+    void problem(Problem id, std::string message) override {
+        ++problems;
+        if (to)
+            to->problem(id, std::move(message));
+    }
+    void pause(const Pause& p) override {
+        if (to)
+            to->pause(p);
+    }
 };
 
 // The lists of the utterance being cut, reused from line to line.
@@ -150,10 +311,14 @@ struct UtteranceSegmenter::Scratch {
     }
     std::string spare;
     WordDraft word;
+    SplitCache splits;
     std::vector<Word> words;
     std::vector<size_t> positions; // of each word in the line
     std::vector<Code> codes;
-    std::vector<std::vector<int>> mazeWords;
+    // The words in mazes, in order, and the maze each lies in (mazes do not
+    // nest and words come in line order, so each maze's words are a run).
+    std::vector<int> mazeWords;
+    std::vector<size_t> mazeOfWord;
     std::vector<Maze> mazes;
     std::vector<std::string_view> parentheticals;
     std::vector<Pause> pauses;
@@ -179,6 +344,7 @@ struct UtteranceSegmenter::Scratch {
         positions.clear();
         codes.clear();
         mazeWords.clear();
+        mazeOfWord.clear();
         parentheticals.clear();
         pauses.clear();
         parentheticalWords.clear();
@@ -238,6 +404,7 @@ private:
     size_t readPause(size_t colon);
     void words();
     void checkLoneWords();
+    void keepLoneWords();
     // `plain`: 1 or 0 when the caller knows whether isPlainWord(text) holds, else -1.
     void addWord(View text, size_t position, bool linked, bool malformed, bool contiguous = true,
                  int plain = -1);
@@ -521,9 +688,6 @@ template <class C> void LineCutter<C>::mazesAndOverlaps() {
         b_[overlap] = kBlank;
     }
     out_.hasOverlap = !overlaps_.empty();
-    s_.mazeWords.resize(mazes_.size());
-    for (auto& list : s_.mazeWords)
-        list.clear();
 }
 
 // A piece of a linked word has "_" only at its ends, and only its last piece
@@ -580,7 +744,6 @@ template <class C> void LineCutter<C>::dropFrom(size_t pos) {
     }
     while (!mazes_.empty() && mazes_.back().first > pos)
         mazes_.pop_back();
-    s_.mazeWords.resize(mazes_.size());
     while (!overlaps_.empty() && overlaps_.back().first > pos)
         overlaps_.pop_back();
     out_.hasOverlap = !overlaps_.empty();
@@ -656,10 +819,37 @@ template <class C> void LineCutter<C>::checkLoneWords() {
     }
 }
 
+// Keeping the words of a line without codes or word links: each word stands
+// alone, cut where the general word pass cuts it.
+template <class C> void LineCutter<C>::keepLoneWords() {
+    const C* b = b_;
+    const size_t end = end_;
+    size_t i = 1;
+    while (i < end) {
+        std::uint8_t kind = wordKind(b[i]);
+        if (kind & kSpace) {
+            ++i;
+            continue;
+        }
+        const size_t start = i;
+        std::uint8_t all = kWordChar, any = 0;
+        do {
+            all &= kind;
+            any |= kind;
+            ++i;
+        } while (i < end && !((kind = wordKind(b[i])) & kSpace));
+        addWord(View(b + start, i - start), start, false, false, true,
+                (all & kWordChar) && (any & kAlnum) ? 1 : 0);
+    }
+}
+
 // Word links, then each word.
 template <class C> void LineCutter<C>::words() {
-    if (!store_ && codeCloses_.empty() && !anyPresent(kLink)) {
-        checkLoneWords();
+    if (codeCloses_.empty() && !anyPresent(kLink)) {
+        if (store_)
+            keepLoneWords();
+        else
+            checkLoneWords();
         return;
     }
     View text(buf_);
@@ -777,38 +967,54 @@ void LineCutter<C>::addWord(View text, size_t position, bool linked, bool malfor
         checkWord(text, linked, word, s_.spare, sink_, plain == 0);
         return;
     }
-    Word kept;
+    // The record is made in its place in the list: a record built aside and
+    // copied in is put together again flag by flag.
+    Word* kept = nullptr;
     if (plain < 0 && !linked && contiguous && !line_.empty())
         plain = isPlainWord(text) ? 1 : 0;
     if (!linked && contiguous && !line_.empty() && plain == 1) {
         // The common case, an ASCII word of word characters only: no rule
         // applies, and the word is a view of its line.
-        kept.assignPlain(line_.substr(position, text.size()));
-        kept.unintelligible = isUnintelligibleMark(text);
+        s_.words.push_back(Word());
+        kept = &s_.words.back();
+        kept->assignPlain(line_.substr(position, text.size()));
+        kept->unintelligible = unintelligibleMark(text);
     } else {
-        word.clear();
         std::string_view bytes = linked || !contiguous || line_.empty()
                                      ? std::string_view()
                                      : line_.substr(position, text.size());
-        if (!splitWord(text, linked, word, sink_, bytes, s_.spare, plain == 0))
-            return;
-        word.flags.linked = linked;
-        kept = store_->keepWord(word, stable_);
+        // A word of the line's bytes as they stand may have been split before.
+        bool cached = false;
+        if constexpr (std::is_same_v<C, char>)
+            cached = !bytes.empty() && bytes == text;
+        if (!cached || !s_.splits.find(bytes, word)) {
+            word.clear();
+            CountingSink counting(sink_);
+            if (!splitWord(text, linked, word, cached ? &counting : sink_, bytes, s_.spare,
+                           plain == 0))
+                return;
+            word.flags.linked = linked;
+            if (cached && counting.problems == 0)
+                s_.splits.add(bytes, word);
+        }
+        const Word made = store_->keepWord(word, stable_);
+        s_.words.push_back(made);
+        kept = &s_.words.back();
     }
     // Words come in line order and mazes and overlaps do not nest: one cursor
     // each finds the span a word may lie in.
-    int index = static_cast<int>(s_.words.size());
+    int index = static_cast<int>(s_.words.size()) - 1;
     while (mazeCursor_ < mazes_.size() && mazes_[mazeCursor_].second < position)
         ++mazeCursor_;
     if (mazeCursor_ < mazes_.size() && mazes_[mazeCursor_].first <= position) {
-        kept.inMaze = true;
-        s_.mazeWords[mazeCursor_].push_back(index);
+        kept->inMaze = true;
+        s_.mazeWords.push_back(index);
+        s_.mazeOfWord.push_back(mazeCursor_);
     }
     while (overlapCursor_ < overlaps_.size() && overlaps_[overlapCursor_].second < position)
         ++overlapCursor_;
-    kept.inOverlap =
+    kept->inOverlap =
         overlapCursor_ < overlaps_.size() && overlaps_[overlapCursor_].first <= position;
-    s_.words.push_back(kept);
     s_.positions.push_back(position);
 }
 
@@ -1029,13 +1235,12 @@ void cutPlainLine(std::string_view line, size_t end, std::vector<Word>& words, U
         const size_t start = i;
         while (i < end && line[i] != ' ' && line[i] != '\t')
             ++i;
-        Word w;
+        words.push_back(Word());
+        Word& w = words.back();
         w.assignPlain(line.substr(start, i - start));
-        const std::string_view text = w.text();
-        w.unintelligible =
-            text.size() <= 3 && text.find_first_not_of("xX") == std::string_view::npos;
-        marks += w.unintelligible ? 1 : 0;
-        words.push_back(w);
+        const bool mark = unintelligibleMark(w.text());
+        w.unintelligible = mark;
+        marks += mark ? 1 : 0;
     }
     out.setTerminator(static_cast<unsigned char>(line[end]));
     if (marks > 0)
@@ -1066,8 +1271,14 @@ void UtteranceSegmenter::segment(std::string_view line, int lineNumber, int spea
         cutLine(line, lineNumber, speakerGroup, s, out, sink, &store);
     out.words = store.keep(s.words);
     s.mazes.clear();
-    for (const std::vector<int>& words : s.mazeWords)
-        s.mazes.push_back(Maze{store.keep(words)});
+    const size_t inMazes = s.mazeWords.size();
+    for (size_t k = 0, w = 0; k < s.mazeSpans.size(); ++k) {
+        const size_t from = w;
+        while (w < inMazes && s.mazeOfWord[w] == k)
+            ++w;
+        s.mazes.push_back(
+            Maze{store.keep(std::span<const int>(s.mazeWords.data() + from, w - from))});
+    }
     out.extras =
         store.keepExtras(s.codes, s.mazes, s.parentheticals, s.parentheticalWords, s.pauses);
 }

@@ -155,18 +155,27 @@ Word TranscriptStore::keepWord(const WordDraft& draft, std::string_view stable) 
         return inside(part, stable) ? part : keepText(part);
     };
     WordParts parts;
-    std::vector<std::string_view> pieces;
+    size_t count = 0;
     for (size_t k = 0; k < draft.pieces.size(); ++k) {
         parts.counts[k] =
             static_cast<std::uint16_t>(std::min<size_t>(draft.pieces[k].size(), 0xFFFF));
-        for (size_t i = 0; i < parts.counts[k]; ++i)
-            pieces.push_back(rebase(draft.pieces[k][i]));
+        count += parts.counts[k];
     }
-    if (!draft.rootIdentification.empty()) {
-        parts.hasRootIdentification = true;
-        pieces.push_back(rebase(draft.rootIdentification));
+    parts.hasRootIdentification = !draft.rootIdentification.empty();
+    count += parts.hasRootIdentification ? 1 : 0;
+    // The pieces are written straight into their place in the store.
+    std::string_view* pieces = nullptr;
+    if (count > 0) {
+        pieces = static_cast<std::string_view*>(
+            allocate(count * sizeof(std::string_view), alignof(std::string_view)));
+        size_t at = 0;
+        for (size_t k = 0; k < draft.pieces.size(); ++k)
+            for (size_t i = 0; i < parts.counts[k]; ++i)
+                new (pieces + at++) std::string_view(rebase(draft.pieces[k][i]));
+        if (parts.hasRootIdentification)
+            new (pieces + at) std::string_view(rebase(draft.rootIdentification));
     }
-    parts.pieces = keep(pieces).data();
+    parts.pieces = pieces;
     parts.omittedRoot = draft.omittedRoot;
     if (!draft.omittedRoot && inside(draft.root, draft.text)) {
         // The root lies inside the text (a draft whose root is elsewhere reads as empty).

@@ -211,5 +211,63 @@ TEST(CuttingPaths, NearPlainLinesAgree) {
     }
 }
 
+// A segmenter keeps how it split each word of bytes and rebuilds a word met
+// again from that. Lines that repeat words, right and faulty, cut by one
+// segmenter (each into its own store, the way every transcript has its own)
+// must give what a new segmenter gives, faults reported each time.
+TEST(CuttingPaths, WordsMetAgainAgreeWithFirstCut) {
+    static const std::vector<std::string> words = {
+        "run/ing", "dog/s", "ran/*ed", "he+'s", "she+*s", "*the",    "%goed", "un\\tie",
+        "XX/s",    "x",     "went|go", "a|b|c", "ba*",    "dog/",    "+s",    "*/s",
+        "%",       "go",    "a&b",     "#",     "w/s/ed", "a\\b\\c", "*x/s",  "he+s+*ll"};
+    UtteranceSegmenter warm;
+    std::mt19937 rng(23);
+    for (int n = 0; n < 4000; ++n) {
+        std::string line = n % 2 ? "C" : "E";
+        for (int k = 0, count = 1 + static_cast<int>(rng() % 8); k < count; ++k) {
+            line += ' ';
+            if (rng() % 9 == 0)
+                line += "(um) ";
+            line += words[rng() % words.size()];
+        }
+        line += ".";
+        UtteranceSegmenter fresh;
+        ASSERT_EQ(cutBy(warm, line), cutBy(fresh, line)) << line;
+    }
+}
+
+// The words of a line without codes or word links are cut in a pass of their
+// own; a code set apart at the end of the line sends the same words through
+// the general word pass, which must cut them alike.
+TEST(CuttingPaths, LoneWordsCutAsByTheGeneralPass) {
+    static const std::vector<std::string> words = {
+        "go",   "run/ing", "dog/s", "ran/*ed", "*the", "%goed", "x",  "XXX",  "went|go", "ba*",
+        "dog/", "+s",      "*/s",   "%",       "a&b",  "(um)",  "<a", "b>",   "((hm))",  ":05",
+        ",",    "\"hi\"",  "'s",    "\t",      "=",    "9",     "@",  "w/s+s"};
+    auto wordLines = [](const std::string& described) {
+        std::string out;
+        size_t at = 0;
+        while (at < described.size()) {
+            size_t end = described.find('\n', at);
+            std::string line = described.substr(at, end - at);
+            if (line.rfind("word ", 0) == 0 || line.rfind("maze", 0) == 0)
+                out += line + "\n";
+            at = end == std::string::npos ? described.size() : end + 1;
+        }
+        return out;
+    };
+    UtteranceSegmenter segmenter;
+    std::mt19937 rng(31);
+    for (int n = 0; n < 6000; ++n) {
+        std::string body = "C";
+        for (int k = 0, count = static_cast<int>(rng() % 9); k < count; ++k)
+            body += " " + words[rng() % words.size()];
+        const std::string end = std::string(1, ".?!"[rng() % 3]);
+        std::string lone = cutBy(segmenter, body + end);
+        std::string general = cutBy(segmenter, body + " [EU]" + end);
+        ASSERT_EQ(wordLines(lone), wordLines(general)) << body;
+    }
+}
+
 } // namespace
 } // namespace tavi
