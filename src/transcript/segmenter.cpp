@@ -403,8 +403,7 @@ private:
     void pausesAndCharacters();
     size_t readPause(size_t colon);
     void words();
-    void checkLoneWords();
-    void keepLoneWords();
+    void loneWords();
     // `plain`: 1 or 0 when the caller knows whether isPlainWord(text) holds, else -1.
     void addWord(View text, size_t position, bool linked, bool malformed, bool contiguous = true,
                  int plain = -1);
@@ -795,9 +794,10 @@ template <class C> size_t LineCutter<C>::readPause(size_t colon) {
     return last - 1;
 }
 
-// Only checking a line without codes or word links: each word stands alone,
-// and a plain one has nothing to check.
-template <class C> void LineCutter<C>::checkLoneWords() {
+// A line without codes or word links: each word stands alone, cut where the
+// general word pass cuts it. When only checking, a plain word has nothing to
+// check.
+template <class C> void LineCutter<C>::loneWords() {
     const C* b = b_;
     const size_t end = end_;
     size_t i = 1;
@@ -814,42 +814,19 @@ template <class C> void LineCutter<C>::checkLoneWords() {
             any |= kind;
             ++i;
         } while (i < end && !((kind = wordKind(b[i])) & kSpace));
-        if (!(all & kWordChar) || !(any & kAlnum))
-            checkWord(View(b + start, i - start), false, s_.word, s_.spare, sink_, true);
-    }
-}
-
-// Keeping the words of a line without codes or word links: each word stands
-// alone, cut where the general word pass cuts it.
-template <class C> void LineCutter<C>::keepLoneWords() {
-    const C* b = b_;
-    const size_t end = end_;
-    size_t i = 1;
-    while (i < end) {
-        std::uint8_t kind = wordKind(b[i]);
-        if (kind & kSpace) {
-            ++i;
-            continue;
-        }
-        const size_t start = i;
-        std::uint8_t all = kWordChar, any = 0;
-        do {
-            all &= kind;
-            any |= kind;
-            ++i;
-        } while (i < end && !((kind = wordKind(b[i])) & kSpace));
-        addWord(View(b + start, i - start), start, false, false, true,
-                (all & kWordChar) && (any & kAlnum) ? 1 : 0);
+        const bool plain = (all & kWordChar) && (any & kAlnum);
+        const View text(b + start, i - start);
+        if (store_)
+            addWord(text, start, false, false, true, plain ? 1 : 0);
+        else if (!plain)
+            checkWord(text, false, s_.word, s_.spare, sink_, true);
     }
 }
 
 // Word links, then each word.
 template <class C> void LineCutter<C>::words() {
     if (codeCloses_.empty() && !anyPresent(kLink)) {
-        if (store_)
-            keepLoneWords();
-        else
-            checkLoneWords();
+        loneWords();
         return;
     }
     View text(buf_);
