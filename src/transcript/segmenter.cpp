@@ -132,16 +132,6 @@ inline std::uint8_t wordKind(char32_t c) {
                                      (cls::isAlnum(c) ? kAlnum : 0));
 }
 
-// isUnintelligibleMark for the plain words, in line: "x", "xx" or "xxx" in any case.
-template <class C> inline bool unintelligibleMark(std::basic_string_view<C> text) {
-    if (text.empty() || text.size() > 3)
-        return false;
-    for (C c : text)
-        if ((c | C(0x20)) != C('x'))
-            return false;
-    return true;
-}
-
 } // namespace
 
 // The copies of a line being cut, as bytes (C = char) or code points.
@@ -955,7 +945,7 @@ void LineCutter<C>::addWord(View text, size_t position, bool linked, bool malfor
         s_.words.push_back(Word());
         kept = &s_.words.back();
         kept->assignPlain(line_.substr(position, text.size()));
-        kept->unintelligible = unintelligibleMark(text);
+        kept->unintelligible = isUnintelligibleMark(text);
     } else {
         std::string_view bytes = linked || !contiguous || line_.empty()
                                      ? std::string_view()
@@ -1215,7 +1205,7 @@ void cutPlainLine(std::string_view line, size_t end, std::vector<Word>& words, U
         words.push_back(Word());
         Word& w = words.back();
         w.assignPlain(line.substr(start, i - start));
-        const bool mark = unintelligibleMark(w.text());
+        const bool mark = isUnintelligibleMark(w.text());
         w.unintelligible = mark;
         marks += mark ? 1 : 0;
     }

@@ -369,12 +369,6 @@ template <class C> bool isPlainWord(std::basic_string_view<C> text) {
     return alnum;
 }
 
-template <class C> bool isUnintelligibleMark(std::basic_string_view<C> root) {
-    if (root.empty() || root.size() > 3)
-        return false;
-    return std::all_of(root.begin(), root.end(), [](C c) { return c == C('x') || c == C('X'); });
-}
-
 template <class C>
 bool splitWord(std::basic_string_view<C> text, bool linked, WordDraft& word, ProblemSink* sink,
                std::string_view bytes, std::string& spare, bool notPlain) {
@@ -414,14 +408,12 @@ void splitRemarkWords(std::basic_string_view<C> inner, TranscriptStore& store,
 }
 
 template bool isPlainWord(std::basic_string_view<char>);
-template bool isUnintelligibleMark(std::basic_string_view<char>);
 template bool splitWord(std::basic_string_view<char>, bool, WordDraft&, ProblemSink*,
                         std::string_view, std::string&, bool);
 template void checkWord(std::basic_string_view<char>, bool, WordDraft&, std::string&, ProblemSink*,
                         bool);
 template void splitRemarkWords(std::basic_string_view<char>, TranscriptStore&, std::vector<Word>&);
 template bool isPlainWord(std::basic_string_view<char32_t>);
-template bool isUnintelligibleMark(std::basic_string_view<char32_t>);
 template bool splitWord(std::basic_string_view<char32_t>, bool, WordDraft&, ProblemSink*,
                         std::string_view, std::string&, bool);
 template void checkWord(std::basic_string_view<char32_t>, bool, WordDraft&, std::string&,

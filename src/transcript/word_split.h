@@ -41,7 +41,15 @@ template <class C>
 void splitRemarkWords(std::basic_string_view<C> inner, TranscriptStore& store,
                       std::vector<Word>& out);
 
-// True for "X", "XX" and "XXX" in any case: an unintelligible mark.
-template <class C> bool isUnintelligibleMark(std::basic_string_view<C> root);
+// True for "X", "XX" and "XXX" in any case: an unintelligible mark. In the
+// header, so that the segmenter's loop over plain words keeps it in line.
+template <class C> inline bool isUnintelligibleMark(std::basic_string_view<C> root) {
+    if (root.empty() || root.size() > 3)
+        return false;
+    for (C c : root)
+        if (c != C('x') && c != C('X'))
+            return false;
+    return true;
+}
 
 } // namespace tavi
