@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <stdexcept>
 #include <string_view>
 
 namespace tavi {
@@ -368,5 +369,39 @@ constexpr MeasureFormat measureFormat(MeasureId id) {
 
 // The identifier with this exact name (case-sensitive), if any.
 std::optional<MeasureId> measureIdByName(std::string_view name);
+
+// The identifier of a name the code itself spells (a table's column), found
+// while compiling: a name not in the list fails the build.
+constexpr MeasureId measureIdNamed(std::string_view name) {
+    for (std::size_t i = 0; i < kMeasureCount; ++i)
+        if (kMeasureInfo[i].name == name)
+            return static_cast<MeasureId>(i);
+    throw std::logic_error("no measure of this name");
+}
+
+// The identifier `n` places after `first`: the numbered families stand in
+// the list in order ("MzByUL1" to "MzByUL15"), as isNumberedFamily checks.
+constexpr MeasureId measureIdAfter(MeasureId first, int n) {
+    return static_cast<MeasureId>(static_cast<int>(first) + n);
+}
+
+// Whether the identifiers from `first` on are named `prefix` followed by
+// `from`, `from` + 1, ... `to`.
+constexpr bool isNumberedFamily(MeasureId first, std::string_view prefix, int from, int to) {
+    for (int n = from; n <= to; ++n) {
+        const std::string_view name = measureName(measureIdAfter(first, n - from));
+        if (!name.starts_with(prefix) || name.size() == prefix.size())
+            return false;
+        int value = 0;
+        for (char c : name.substr(prefix.size())) {
+            if (c < '0' || c > '9')
+                return false;
+            value = value * 10 + (c - '0');
+        }
+        if (value != n)
+            return false;
+    }
+    return true;
+}
 
 } // namespace tavi

@@ -4,7 +4,6 @@
 #include <array>
 
 #include "analysis/measure_context.h"
-#include "base/format.h"
 
 namespace tavi {
 
@@ -67,11 +66,13 @@ void fillTurns(const SpeakerView& v, SpeakerMeasures& m) {
         m[Id::MedTurnUt] = Value::real(utts.median());
         m[Id::MedTurnWd] = Value::real(words.median());
     }
+    static_assert(isNumberedFamily(Id::TurnByTLUt1, "TurnByTLUt", 1, 6));
+    static_assert(isNumberedFamily(Id::TurnByTLWd0, "TurnByTLWd", 0, 15));
     for (int k = 1; k <= 6; ++k)
-        m[*measureIdByName(format("TurnByTLUt%d", k))] = Value::count(utts.howMany(k, k == 6));
+        m[measureIdAfter(Id::TurnByTLUt1, k - 1)] = Value::count(utts.howMany(k, k == 6));
     m[Id::TurnByTLUtTot] = Value::count(utts.size());
     for (int k = 0; k <= 15; ++k)
-        m[*measureIdByName(format("TurnByTLWd%d", k))] = Value::count(words.howMany(k, k == 15));
+        m[measureIdAfter(Id::TurnByTLWd0, k)] = Value::count(words.howMany(k, k == 15));
     m[Id::TurnByTLWdTot] = Value::count(utts.size());
 }
 

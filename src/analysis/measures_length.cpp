@@ -12,7 +12,6 @@
 #include "analysis/measure_context.h"
 #include "analysis/moving_average.h"
 #include "analysis/word_forms.h"
-#include "base/format.h"
 #include "base/text.h"
 
 namespace tavi {
@@ -104,8 +103,9 @@ void fillLengthAndVocabulary(const SpeakerView& v, SpeakerMeasures& m) {
 void fillDistributions(const SpeakerView& v, SpeakerMeasures& m) {
     const auto& utts = v.c.options.distributionOnAnalysisSet ? v.analysisSet : v.total;
     const std::array<int, 16>& rows = v.tally().lengthRows;
+    static_assert(isNumberedFamily(Id::UtbyUL0, "UtbyUL", 0, 15));
     for (int len = 0; len < 16; ++len)
-        m[*measureIdByName(format("UtbyUL%d", len))] = Value::count(rows[len]);
+        m[measureIdAfter(Id::UtbyUL0, len)] = Value::count(rows[len]);
     m[Id::UtbyULTot] = Value::count(static_cast<int>(utts.size()));
 }
 

@@ -153,6 +153,17 @@ void countPhrasesNumbered(const StandardWordLists& lists, int set, std::uint64_t
     }
 }
 
+// The total and types identifiers of each entry of a table of lists or
+// categories, found while compiling.
+template <auto& Table> constexpr auto columnIds() {
+    std::array<std::pair<MeasureId, MeasureId>, Table.size()> ids{};
+    for (size_t k = 0; k < Table.size(); ++k)
+        ids[k] = {measureIdNamed(Table[k].totalColumn), measureIdNamed(Table[k].typesColumn)};
+    return ids;
+}
+constexpr auto kWordListIds = columnIds<kStandardWordLists>();
+constexpr auto kCategoryIds = columnIds<kGrammaticalCategoryTable>();
+
 bool isVerbCategory(int c) {
     return c == GcVerb || c == GcCop || c == GcAxMod || c == GcAxOp;
 }
@@ -252,8 +263,8 @@ void fillWordLists(const SpeakerView& v, SpeakerMeasures& m) {
     else
         countAreaLists(v, utts, tally);
     for (int k = 0; k < kWordListKinds; ++k) {
-        m[*measureIdByName(kStandardWordLists[k].totalColumn)] = Value::count(m.wordLists[k].total);
-        m[*measureIdByName(kStandardWordLists[k].typesColumn)] = Value::count(m.wordLists[k].types);
+        m[kWordListIds[k].first] = Value::count(m.wordLists[k].total);
+        m[kWordListIds[k].second] = Value::count(m.wordLists[k].types);
     }
 }
 
@@ -319,10 +330,8 @@ void fillCategoriesAndVerbs(const SpeakerView& v, SpeakerMeasures& m) {
         uttsWithVerb += here > 0 ? 1 : 0;
     }
     for (int c = 0; c < kGrammaticalCategories; ++c) {
-        m[*measureIdByName(kGrammaticalCategoryTable[c].totalColumn)] =
-            Value::count(m.categories[c].total);
-        m[*measureIdByName(kGrammaticalCategoryTable[c].typesColumn)] =
-            Value::count(m.categories[c].types);
+        m[kCategoryIds[c].first] = Value::count(m.categories[c].total);
+        m[kCategoryIds[c].second] = Value::count(m.categories[c].types);
     }
     const double aset = static_cast<double>(v.analysisSet.size());
     m[Id::PctUtWVerb] = m[Id::PCUttWithVerbs] = Value::ratio(uttsWithVerb, aset, 100);

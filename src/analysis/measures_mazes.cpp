@@ -7,7 +7,6 @@
 #include "analysis/measure_context.h"
 #include "analysis/word_forms.h"
 #include "analysis/word_lists.h"
-#include "base/format.h"
 
 namespace tavi {
 
@@ -15,9 +14,9 @@ namespace {
 
 using Id = MeasureId;
 
-Id idOf(const char* fmt, int n) {
-    return *measureIdByName(format(fmt, n));
-}
+static_assert(isNumberedFamily(Id::PctUtWMzByUL1, "%UtWMzByUL", 1, 15));
+static_assert(isNumberedFamily(Id::MzByUL1, "MzByUL", 1, 15));
+static_assert(isNumberedFamily(Id::MzByML1, "MzByML", 1, 15));
 
 } // namespace
 
@@ -42,9 +41,10 @@ void fillMazes(const SpeakerView& v, SpeakerMeasures& m) {
         m[kindIds[k]] = Value::count(kinds[k]);
 
     for (int len = 1; len <= 15; ++len) {
-        m[idOf("%%UtWMzByUL%d", len)] = Value::ratio(mazeUttsByLen[len], uttsByLen[len], 100);
-        m[idOf("MzByUL%d", len)] = Value::count(mazesByUttLen[len]);
-        m[idOf("MzByML%d", len)] = Value::count(mazesByMazeLen[len]);
+        m[measureIdAfter(Id::PctUtWMzByUL1, len - 1)] =
+            Value::ratio(mazeUttsByLen[len], uttsByLen[len], 100);
+        m[measureIdAfter(Id::MzByUL1, len - 1)] = Value::count(mazesByUttLen[len]);
+        m[measureIdAfter(Id::MzByML1, len - 1)] = Value::count(mazesByMazeLen[len]);
     }
     m[Id::PctUtWMzByULTot] = m[Id::PctUtWMaze];
     m[Id::MzByULTot] = Value::count(mazes);

@@ -1,6 +1,8 @@
-// printf-style formatting into std::string, through vsnprintf.
+// printf-style formatting into std::string, through vsnprintf; plain numbers
+// through std::to_chars, which writes them as printf does.
 #include "base/format.h"
 
+#include <charconv>
 #include <cstdarg>
 #include <cstdio>
 
@@ -28,6 +30,20 @@ std::string format(const char* fmt, ...) {
     }
     va_end(copy);
     return out;
+}
+
+std::string formatInteger(long long n) {
+    char text[24];
+    return {text, std::to_chars(text, text + sizeof text, n).ptr};
+}
+
+std::string formatFixed(double x, int places) {
+    char text[64];
+    auto [end, error] =
+        std::to_chars(text, text + sizeof text, x, std::chars_format::fixed, places);
+    if (error != std::errc())
+        return format("%0.*f", places, x); // too long for the buffer
+    return {text, end};
 }
 
 } // namespace tavi

@@ -271,9 +271,9 @@ const std::string& missingValue(ValueType type, const BatchSelections& s) {
 
 std::string batchValueText(const Value& value, const BatchVariable& v, const BatchSelections& s) {
     if (value.isCount())
-        return format("%d", value.asCount());
+        return formatInteger(value.asCount());
     if (value.isReal())
-        return format("%0.*f", v.decimals > 0 ? v.decimals : 2, value.asReal());
+        return formatFixed(value.asReal(), v.decimals > 0 ? v.decimals : 2);
     if (value.isText() && !value.asText().empty())
         return value.asText();
     return missingValue(v.type, s);
@@ -285,7 +285,7 @@ std::vector<std::string> batchRow(const std::vector<BatchColumn>& columns, const
     row.reserve(columns.size());
     for (const BatchColumn& column : columns) {
         if (column.explore) {
-            row.push_back(format("%d", exploreValue(column, src)));
+            row.push_back(formatInteger(exploreValue(column, src)));
             continue;
         }
         if (column.variable < 0) {
@@ -302,7 +302,9 @@ std::vector<std::string> batchRow(const std::vector<BatchColumn>& columns, const
             row.push_back(plusLineText(v, src, s));
             break;
         case ValueSource::Measure: {
-            const Value* value = src.measures ? src.measures->find(v.measure) : nullptr;
+            const Value* value = !src.measures             ? nullptr
+                                 : v.measureId.has_value() ? &(*src.measures)[*v.measureId]
+                                                           : src.measures->find(v.measure);
             row.push_back(value ? batchValueText(*value, v, s) : missingValue(v.type, s));
             break;
         }

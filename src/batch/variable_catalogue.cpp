@@ -39,6 +39,8 @@ public:
         v.decimals = decimals;
         v.source = source;
         v.measure = measure.empty() ? v.name : std::move(measure);
+        if (source == ValueSource::Measure)
+            v.measureId = measureIdByName(v.measure);
         c_.variables_.push_back(std::move(v));
     }
     // Measures: a count, a decimal with two places, a ratio with three, a text.

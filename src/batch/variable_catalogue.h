@@ -9,6 +9,8 @@
 #include <string_view>
 #include <vector>
 
+#include "analysis/measure_id.h"
+
 namespace tavi {
 
 enum class ValueType { Integer, Decimal, Text };
@@ -27,7 +29,8 @@ struct BatchVariable {
     ValueType type = ValueType::Integer;
     int decimals = 0; // places written for a decimal value (2 or 3)
     ValueSource source = ValueSource::Measure;
-    std::string measure; // measure identifier, or the header keyword of a plus line
+    std::string measure;                // measure identifier, or the header keyword of a plus line
+    std::optional<MeasureId> measureId; // of `measure` when it names a single-value measure
 };
 
 struct VariableGroup {
