@@ -145,41 +145,72 @@ template <class C> struct LineBuffers {
 // word's split depends on its text alone, so a word met again is rebuilt
 // from the offsets of its pieces instead of split anew. Only splits that
 // found no fault are kept (a word met again must report its faults again).
+// Each entry also remembers the record last kept for it and in which store:
+// met again while cutting into that store, the word is that record again (a
+// record kept from the same text and pieces is the same record).
 class SplitCache {
+    static constexpr std::uint32_t kNull = ~std::uint32_t{0}; // a view with no data
+    struct Piece {
+        std::uint32_t from = kNull; // offset in the word's text
+        std::uint32_t size = 0;
+    };
+
 public:
-    // Fills `draft` (views into `text`) when `text` was split before.
-    bool find(std::string_view text, WordDraft& draft) const {
+    // A word split before: where its pieces lie in its text.
+    struct Entry {
+        Word flags;
+        Piece root, rootIdentification;
+        size_t firstPiece = 0;
+        std::array<std::uint8_t, 5> counts{};
+        bool omittedRoot = false;
+        std::string key;          // the word's text
+        Word kept;                // the record last kept for the word,
+        std::uint64_t keptIn = 0; // in the store of this serial (0: none)
+    };
+
+    // The entry of `text` when it was split before, else null.
+    Entry* find(std::string_view text) {
         if (entries_.empty() || text.size() > kMaxText)
-            return false;
+            return nullptr;
         for (size_t i = hashOf(text) & mask();; i = (i + 1) & mask()) {
             const std::uint32_t id = slots_[i];
             if (id == kEmpty)
-                return false;
-            const Entry& e = entries_[id];
-            if (e.key.size() != text.size() ||
-                std::memcmp(e.key.data(), text.data(), text.size()) != 0)
-                continue;
-            // Every field of the draft is set.
-            draft.text = text;
-            draft.root = viewOf(text, e.root);
-            draft.rootIdentification = viewOf(text, e.rootIdentification);
-            draft.omittedRoot = e.omittedRoot;
-            size_t at = e.firstPiece;
-            for (size_t k = 0; k < e.counts.size(); ++k) {
-                draft.pieces[k].clear();
-                for (size_t n = 0; n < e.counts[k]; ++n)
-                    draft.pieces[k].push_back(viewOf(text, pieces_[at++]));
-            }
-            draft.flags = e.flags;
-            return true;
+                return nullptr;
+            Entry& e = entries_[id];
+            if (e.key.size() == text.size() &&
+                std::memcmp(e.key.data(), text.data(), text.size()) == 0)
+                return &e;
         }
     }
-    // Keeps the split of `draft`, whose text is `text` (nothing when a view
-    // lies outside it).
-    void add(std::string_view text, const WordDraft& draft) {
+    // The record kept for `e` in the store numbered `store`, if any.
+    static const Word* keptIn(const Entry& e, std::uint64_t store) {
+        return e.keptIn == store ? &e.kept : nullptr;
+    }
+    static void noteKept(Entry& e, const Word& kept, std::uint64_t store) {
+        e.kept = kept;
+        e.keptIn = store;
+    }
+    // Fills `draft` (views into `text`, the entry's text where it lies now).
+    void fill(const Entry& e, std::string_view text, WordDraft& draft) const {
+        // Every field of the draft is set.
+        draft.text = text;
+        draft.root = viewOf(text, e.root);
+        draft.rootIdentification = viewOf(text, e.rootIdentification);
+        draft.omittedRoot = e.omittedRoot;
+        size_t at = e.firstPiece;
+        for (size_t k = 0; k < e.counts.size(); ++k) {
+            draft.pieces[k].clear();
+            for (size_t n = 0; n < e.counts[k]; ++n)
+                draft.pieces[k].push_back(viewOf(text, pieces_[at++]));
+        }
+        draft.flags = e.flags;
+    }
+    // Keeps the split of `draft`, whose text is `text`; null when it is not
+    // kept (a view lies outside the text, or the cache is full).
+    Entry* add(std::string_view text, const WordDraft& draft) {
         if (entries_.size() >= kMaxEntries || text.size() > kMaxText ||
             draft.text.data() != text.data() || draft.text.size() != text.size())
-            return;
+            return nullptr;
         Entry e;
         e.firstPiece = pieces_.size();
         bool ok = pieceOf(text, draft.root, e.root) &&
@@ -196,7 +227,7 @@ public:
         }
         if (!ok) {
             pieces_.resize(e.firstPiece);
-            return;
+            return nullptr;
         }
         e.omittedRoot = draft.omittedRoot;
         e.flags = draft.flags;
@@ -207,24 +238,12 @@ public:
             grow();
         entries_.push_back(std::move(e));
         place(static_cast<std::uint32_t>(entries_.size() - 1));
+        return &entries_.back();
     }
 
 private:
     static constexpr size_t kMaxEntries = 1 << 14;
     static constexpr size_t kMaxText = 64;
-    static constexpr std::uint32_t kNull = ~std::uint32_t{0}; // a view with no data
-    struct Piece {
-        std::uint32_t from = kNull; // offset in the word's text
-        std::uint32_t size = 0;
-    };
-    struct Entry {
-        Word flags;
-        Piece root, rootIdentification;
-        size_t firstPiece = 0;
-        std::array<std::uint8_t, 5> counts{};
-        bool omittedRoot = false;
-        std::string key; // the word's text
-    };
     static std::string_view viewOf(std::string_view text, Piece p) {
         return p.from == kNull ? std::string_view()
                                : std::string_view(text.data() + p.from, p.size);
@@ -954,18 +973,26 @@ void LineCutter<C>::addWord(View text, size_t position, bool linked, bool malfor
         bool cached = false;
         if constexpr (std::is_same_v<C, char>)
             cached = !bytes.empty() && bytes == text;
-        if (!cached || !s_.splits.find(bytes, word)) {
-            word.clear();
-            CountingSink counting(sink_);
-            if (!splitWord(text, linked, word, cached ? &counting : sink_, bytes, s_.spare,
-                           plain == 0))
-                return;
-            word.flags.linked = linked;
-            if (cached && counting.problems == 0)
-                s_.splits.add(bytes, word);
+        SplitCache::Entry* known = cached ? s_.splits.find(bytes) : nullptr;
+        if (const Word* again = known ? SplitCache::keptIn(*known, store_->serial()) : nullptr) {
+            s_.words.push_back(*again);
+        } else {
+            if (known) {
+                s_.splits.fill(*known, bytes, word);
+            } else {
+                word.clear();
+                CountingSink counting(sink_);
+                if (!splitWord(text, linked, word, cached ? &counting : sink_, bytes, s_.spare,
+                               plain == 0))
+                    return;
+                word.flags.linked = linked;
+                if (cached && counting.problems == 0)
+                    known = s_.splits.add(bytes, word);
+            }
+            s_.words.push_back(store_->keepWord(word, stable_));
+            if (known)
+                SplitCache::noteKept(*known, s_.words.back(), store_->serial());
         }
-        const Word made = store_->keepWord(word, stable_);
-        s_.words.push_back(made);
         kept = &s_.words.back();
     }
     // Words come in line order and mazes and overlaps do not nest: one cursor

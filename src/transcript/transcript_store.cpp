@@ -2,6 +2,7 @@
 #include "transcript/transcript_store.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cstdint>
 #include <cstring>
 #include <new>
@@ -112,6 +113,11 @@ bool sameParts(const WordParts& p, const WordDraft& draft) {
 }
 
 } // namespace
+
+TranscriptStore::TranscriptStore() {
+    static std::atomic<std::uint64_t> stores{0};
+    serial_ = ++stores;
+}
 
 void TranscriptStore::endSharing() {
     shared_ = TextIndex();

@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <span>
 #include <string>
@@ -34,7 +35,7 @@ struct WordDraft {
 
 class TranscriptStore {
 public:
-    TranscriptStore() = default;
+    TranscriptStore();
     TranscriptStore(const TranscriptStore&) = delete;
     TranscriptStore& operator=(const TranscriptStore&) = delete;
 
@@ -80,6 +81,10 @@ public:
     // Bytes held by the store's blocks and adopted text.
     size_t bytes() const { return held_ + adopted_.capacity(); }
 
+    // A number no other store of this run of the program has: what a cache
+    // of kept records that outlives one store checks before reusing them.
+    std::uint64_t serial() const { return serial_; }
+
 private:
     void* allocate(size_t bytes, size_t align);
 
@@ -92,6 +97,7 @@ private:
     size_t left_ = 0;
     size_t blockSize_ = 16 << 10;
     size_t held_ = 0;
+    std::uint64_t serial_;
 };
 
 } // namespace tavi
