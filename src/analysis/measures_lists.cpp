@@ -273,61 +273,72 @@ void fillCategoriesAndVerbs(const SpeakerView& v, SpeakerMeasures& m) {
     const VerbList* verbFile = v.c.options.verbs;
     if (!dictionary)
         return;
-    const size_t roots = static_cast<size_t>(v.c.rootIds().size());
-    int verbs = 0, uttsWithVerb = 0;
-    // Per root number: one bit per category in which the root was counted,
-    // and the dictionary's entry, looked up once (by the root as first written).
-    std::vector<std::uint32_t> counted(roots, 0);
-    std::vector<std::optional<std::vector<int>>> entries(roots);
+    const FactTables& tables = v.c.tables;
     // Per spelling: its categories (the root's entry, else the guess from the
-    // root and the spelling's endings), worked out once and kept in one run.
+    // root and the spelling's endings), worked out at its first use and kept
+    // in one run, and how often it is used. The counts are made per spelling
+    // once every word is seen: the spellings in order of first use give the
+    // roots of each category in order of first use.
     struct SpellingCategories {
+        int uses = 0;
+        int verbs = 0;                     // verbs each use adds to its utterance
         std::uint32_t from = 0, count = 0; // in `runs`
-        bool looked = false;
-        bool verb = false; // the first category is a verb's
     };
-    std::vector<SpellingCategories> bySpelling(v.c.tables.spellingList.size());
+    std::vector<SpellingCategories> bySpelling(tables.spellingList.size());
+    std::vector<std::uint32_t> firstUsed; // counted spellings, in order of first use
     std::vector<int> runs;
+    // Per root number: the dictionary's entry, looked up once (by the root as first written).
+    std::vector<std::optional<std::vector<int>>> entries(static_cast<size_t>(tables.roots.size()));
+    auto categoriesOf = [&](const SpellingFacts& spelling, SpellingCategories& known) {
+        const int id = spelling.root;
+        if (!entries[id]) {
+            entries[id] = dictionaryCategories(spelling.word->root(), *dictionary);
+            // A verb of the verb file that the dictionary lacks.
+            if (entries[id]->empty() && verbFile && verbFile->contains(tables.roots.name(id)))
+                entries[id] = std::vector<int>{GcVerb};
+        }
+        const std::vector<int> cats =
+            entries[id]->empty()
+                ? guessCategories(tables.roots.name(id), spelling.traits.endingGroups)
+                : *entries[id];
+        known.from = static_cast<std::uint32_t>(runs.size());
+        known.count = static_cast<std::uint32_t>(cats.size());
+        known.verbs = (!cats.empty() && isVerbCategory(cats.front()) ? 1 : 0) +
+                      spelling.traits.contractedVerbs;
+        runs.insert(runs.end(), cats.begin(), cats.end());
+    };
+    int verbs = 0, uttsWithVerb = 0;
     for (int i : v.analysisSet) {
         int here = 0;
         for (const CountedWord& w : v.words(i)) {
-            const SpellingFacts& spelling = v.spelling(w);
-            const WordTraits& t = spelling.traits;
-            if (t.skipped)
-                continue;
-            const int id = spelling.root;
             SpellingCategories& known = bySpelling[w.spelling];
-            if (!known.looked) {
-                if (!entries[id]) {
-                    entries[id] = dictionaryCategories(spelling.word->root(), *dictionary);
-                    // A verb of the verb file that the dictionary lacks.
-                    if (entries[id]->empty() && verbFile &&
-                        verbFile->contains(v.c.tables.roots.name(id)))
-                        entries[id] = std::vector<int>{GcVerb};
-                }
-                const std::vector<int> cats =
-                    entries[id]->empty()
-                        ? guessCategories(v.c.tables.roots.name(id), t.endingGroups)
-                        : *entries[id];
-                known = {static_cast<std::uint32_t>(runs.size()),
-                         static_cast<std::uint32_t>(cats.size()), true,
-                         !cats.empty() && isVerbCategory(cats.front())};
-                runs.insert(runs.end(), cats.begin(), cats.end());
+            if (known.uses++ == 0) {
+                const SpellingFacts& spelling = v.spelling(w);
+                if (spelling.traits.skipped)
+                    continue; // never counted: its uses stay unread
+                firstUsed.push_back(w.spelling);
+                categoriesOf(spelling, known);
             }
-            for (std::uint32_t k = known.from; k < known.from + known.count; ++k) {
-                const int c = runs[k];
-                WordCount& count = m.categories[c];
-                ++count.total;
-                if (!(counted[id] & (1u << c))) {
-                    counted[id] |= 1u << c;
-                    ++count.types;
-                    count.words.push_back(v.c.tables.roots.name(id));
-                }
-            }
-            here += (known.verb ? 1 : 0) + t.contractedVerbs;
+            here += known.verbs;
         }
         verbs += here;
         uttsWithVerb += here > 0 ? 1 : 0;
+    }
+    // Per root number: one bit per category in which the root was counted.
+    std::vector<std::uint32_t> counted(static_cast<size_t>(tables.roots.size()), 0);
+    for (std::uint32_t id : firstUsed) {
+        const SpellingCategories& known = bySpelling[id];
+        const int root = tables.spellingList[id].root;
+        for (std::uint32_t k = known.from; k < known.from + known.count; ++k) {
+            const int c = runs[k];
+            WordCount& count = m.categories[c];
+            count.total += known.uses;
+            if (!(counted[root] & (1u << c))) {
+                counted[root] |= 1u << c;
+                ++count.types;
+                count.words.push_back(tables.roots.name(root));
+            }
+        }
     }
     for (int c = 0; c < kGrammaticalCategories; ++c) {
         m[kCategoryIds[c].first] = Value::count(m.categories[c].total);
