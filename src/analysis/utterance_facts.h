@@ -5,10 +5,10 @@
 #include <array>
 #include <cstdint>
 #include <deque>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "analysis/code_lists.h"
@@ -49,11 +49,11 @@ struct WordTraits {
 class Numbering {
 public:
     int idOf(std::string_view text) {
-        if (auto it = ids_.find(text); it != ids_.end())
-            return it->second; // nothing built for a string already numbered
+        if (std::optional<std::uint32_t> id = ids_.find(text))
+            return static_cast<int>(*id); // nothing built for a string already numbered
         names_.emplace_back(text);
         views_.emplace_back(names_.back());
-        return ids_.emplace(names_.back(), static_cast<int>(names_.size()) - 1).first->second;
+        return static_cast<int>(ids_.insert(names_.back()));
     }
     const std::string& name(int id) const { return names_[static_cast<size_t>(id)]; }
     // The same text as a view, found without walking the deque's blocks.
@@ -61,9 +61,9 @@ public:
     int size() const { return static_cast<int>(names_.size()); }
 
 private:
-    std::deque<std::string> names_;       // never moved: the map's keys view them
+    std::deque<std::string> names_;       // never moved: the index views them
     std::vector<std::string_view> views_; // of names_
-    std::unordered_map<std::string_view, int> ids_;
+    TextIndex ids_;                       // numbers names_ in order
 };
 
 // The roots of one transcript.
