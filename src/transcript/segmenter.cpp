@@ -20,10 +20,13 @@
 #include <array>
 #include <cstdint>
 #include <cstring>
+#include <deque>
+#include <optional>
 #include <string>
 #include <type_traits>
 
 #include "base/text.h"
+#include "base/text_index.h"
 #include "transcript/char_class.h"
 #include "transcript/code_points.h"
 #include "transcript/comments_and_codes.h"
@@ -163,24 +166,16 @@ public:
         size_t firstPiece = 0;
         std::array<std::uint8_t, 5> counts{};
         bool omittedRoot = false;
-        std::string key;          // the word's text
         Word kept;                // the record last kept for the word,
         std::uint64_t keptIn = 0; // in the store of this serial (0: none)
     };
 
     // The entry of `text` when it was split before, else null.
     Entry* find(std::string_view text) {
-        if (entries_.empty() || text.size() > kMaxText)
+        if (text.size() > kMaxText)
             return nullptr;
-        for (size_t i = hashOf(text) & mask();; i = (i + 1) & mask()) {
-            const std::uint32_t id = slots_[i];
-            if (id == kEmpty)
-                return nullptr;
-            Entry& e = entries_[id];
-            if (e.key.size() == text.size() &&
-                std::memcmp(e.key.data(), text.data(), text.size()) == 0)
-                return &e;
-        }
+        const std::optional<std::uint32_t> id = index_.find(text);
+        return id ? &entries_[*id] : nullptr;
     }
     // The record kept for `e` in the store numbered `store`, if any.
     static const Word* keptIn(const Entry& e, std::uint64_t store) {
@@ -231,13 +226,8 @@ public:
         }
         e.omittedRoot = draft.omittedRoot;
         e.flags = draft.flags;
-        e.key.assign(text);
-        if (slots_.empty())
-            slots_.assign(64, kEmpty);
-        else if ((entries_.size() + 1) * 2 > slots_.size())
-            grow();
-        entries_.push_back(std::move(e));
-        place(static_cast<std::uint32_t>(entries_.size() - 1));
+        index_.insert(keys_.emplace_back(text)); // numbered as entries_ is
+        entries_.push_back(e);
         return &entries_.back();
     }
 
@@ -259,34 +249,8 @@ private:
                   static_cast<std::uint32_t>(view.size())};
         return true;
     }
-    // A short hash of a word's first and last eight bytes and its size.
-    static size_t hashOf(std::string_view text) {
-        std::uint64_t a = 0, b = 0;
-        const size_t n = text.size();
-        if (n >= 8) {
-            std::memcpy(&a, text.data(), 8);
-            std::memcpy(&b, text.data() + n - 8, 8);
-        } else {
-            for (size_t i = 0; i < n; ++i)
-                a = a << 8 | static_cast<unsigned char>(text[i]);
-        }
-        std::uint64_t h = a * 0x9E3779B97F4A7C15u ^ (b + n) * 0xC2B2AE3D27D4EB4Fu;
-        return static_cast<size_t>(h ^ h >> 29);
-    }
-    size_t mask() const { return slots_.size() - 1; }
-    void place(std::uint32_t id) {
-        size_t i = hashOf(entries_[id].key) & mask();
-        while (slots_[i] != kEmpty)
-            i = (i + 1) & mask();
-        slots_[i] = id;
-    }
-    void grow() {
-        slots_.assign(slots_.size() * 2, kEmpty);
-        for (std::uint32_t id = 0; id < entries_.size(); ++id)
-            place(id);
-    }
-    static constexpr std::uint32_t kEmpty = ~std::uint32_t{0};
-    std::vector<std::uint32_t> slots_; // entry numbers; a power of two, at most half full
+    TextIndex index_;              // the words' texts, numbered as entries_
+    std::deque<std::string> keys_; // the texts the index views (never moved)
     std::vector<Entry> entries_;
     std::vector<Piece> pieces_;
 };
@@ -450,6 +414,8 @@ private:
     size_t firstComment_ = kNowhere;
     size_t firstQuote_ = kNowhere;
     size_t cut_ = kNowhere; // an earlier terminator: the text from it on is dropped
+    int spoken_ = 0;        // words kept outside mazes, not omitted
+    int marks_ = 0;         // of them, unintelligible marks
 };
 
 template <class C> void LineCutter<C>::run() {
@@ -1010,6 +976,10 @@ void LineCutter<C>::addWord(View text, size_t position, bool linked, bool malfor
     kept->inOverlap =
         overlapCursor_ < overlaps_.size() && overlaps_[overlapCursor_].first <= position;
     s_.positions.push_back(position);
+    if (!kept->inMaze && !kept->omitted) {
+        ++spoken_;
+        marks_ += kept->unintelligible ? 1 : 0;
+    }
 }
 
 // A code touches the text before it when no blank stands between them; a code
@@ -1042,17 +1012,10 @@ template <class C> void LineCutter<C>::attachCodes() {
 // when some are; nonverbal when no word is spoken outside mazes but a comment
 // is there.
 template <class C> void LineCutter<C>::classify() {
-    int spoken = 0, marks = 0;
-    for (const Word& w : s_.words) {
-        if (w.inMaze || w.omitted)
-            continue;
-        ++spoken;
-        marks += w.unintelligible ? 1 : 0;
-    }
-    if (marks > 0)
+    if (marks_ > 0)
         out_.intelligibility =
-            marks == spoken ? Intelligibility::Unintelligible : Intelligibility::Partly;
-    out_.nonverbal = spoken == 0 && out_.hasComment;
+            marks_ == spoken_ ? Intelligibility::Unintelligible : Intelligibility::Partly;
+    out_.nonverbal = spoken_ == 0 && out_.hasComment;
 }
 
 } // namespace
