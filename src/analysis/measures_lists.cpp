@@ -184,38 +184,50 @@ void countMainBodyLists(const SpeakerView& v, const std::vector<int>& utts,
     const bool fewPhrases = phrases.size() <= 64;
     constexpr std::uint32_t kNotLooked = ~0u;
     std::vector<std::uint32_t> rootKinds(static_cast<size_t>(t.roots.size()), kNotLooked);
-    std::vector<std::uint32_t> spellingKinds(t.spellingList.size(), kNotLooked);
+    // Per spelling, what its words add: their lists and the phrases that may
+    // start at them.
+    struct SpellingLists {
+        bool looked = false;
+        std::uint32_t kinds = 0;
+        std::uint64_t starts = 0;
+    };
+    std::vector<SpellingLists> bySpelling(t.spellingList.size());
     FormLookups look(static_cast<size_t>(t.forms.size()));
-    auto kindsOf = [&](const CountedWord& w) {
-        std::uint32_t& bySpelling = spellingKinds[w.spelling];
-        if (bySpelling != kNotLooked)
-            return bySpelling;
+    auto listsOf = [&](const CountedWord& w) -> const SpellingLists& {
+        SpellingLists& known = bySpelling[w.spelling];
+        if (known.looked)
+            return known;
+        known.looked = true;
         const SpellingFacts& s = t.spelling(w);
         const std::string_view root = t.roots.view(s.root), form = t.forms.view(s.form);
-        std::uint32_t& known = rootKinds[static_cast<size_t>(s.root)];
-        if (known == kNotLooked)
-            known = lists.kindMask(set, root);
-        bySpelling = known;
+        std::uint32_t& byRoot = rootKinds[static_cast<size_t>(s.root)];
+        if (byRoot == kNotLooked)
+            byRoot = lists.kindMask(set, root);
+        known.kinds = byRoot;
         if (root != form) {
             const size_t f = static_cast<size_t>(s.form);
             if (!look.kindsKnown[f]) {
                 look.kinds[f] = lists.kindMask(set, form);
                 look.kindsKnown[f] = true;
             }
-            bySpelling |= look.kinds[f];
+            known.kinds |= look.kinds[f];
         }
-        return bySpelling;
+        if (fewPhrases && !phrases.empty())
+            known.starts = phraseStartsOf(lists, set, s.form, t, look);
+        return known;
     };
     std::vector<std::string_view> forms;
     for (int i : utts) {
         const std::span<const CountedWord> counted = v.words(i);
         std::uint64_t starts = 0;
         for (const CountedWord& w : counted) {
+            const SpellingLists& known = listsOf(w);
+            starts |= known.starts;
+            if (known.kinds == 0)
+                continue;
             const int form = t.spelling(w).form;
-            for (std::uint32_t kinds = kindsOf(w); kinds != 0; kinds &= kinds - 1)
+            for (std::uint32_t kinds = known.kinds; kinds != 0; kinds &= kinds - 1)
                 tally.addForm(std::countr_zero(kinds), form, t.forms.view(form));
-            if (fewPhrases && !phrases.empty())
-                starts |= phraseStartsOf(lists, set, form, t, look);
         }
         if (phrases.empty() || (fewPhrases && starts == 0))
             continue;
