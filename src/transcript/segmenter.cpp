@@ -380,6 +380,21 @@ private:
     // `plain`: 1 or 0 when the caller knows whether isPlainWord(text) holds, else -1.
     void addWord(View text, size_t position, bool linked, bool malformed, bool contiguous = true,
                  int plain = -1);
+    // The common case, an ASCII word of word characters only: no rule
+    // applies, and the word is a view of its line.
+    Word& keepPlainWord(size_t position, size_t size) {
+        Word& kept = s_.words.emplace_back();
+        kept.assignPlain(line_.substr(position, size));
+        kept.unintelligible = isUnintelligibleMark(kept.text());
+        return kept;
+    }
+    // Counts a kept word for the utterance's intelligibility (classify).
+    void noteSpoken(const Word& w) {
+        if (!w.inMaze && !w.omitted) {
+            ++spoken_;
+            marks_ += w.unintelligible ? 1 : 0;
+        }
+    }
     bool inCode(size_t pos);
     bool isAttachedCode(size_t open) const;
     void attachCodes();
@@ -775,6 +790,9 @@ template <class C> size_t LineCutter<C>::readPause(size_t colon) {
 template <class C> void LineCutter<C>::loneWords() {
     const C* b = b_;
     const size_t end = end_;
+    // Kept from an ASCII line without mazes or overlaps, a plain word is no
+    // more than its record (no code needs its position).
+    const bool bare = store_ && !line_.empty() && mazes_.empty() && overlaps_.empty();
     size_t i = 1;
     while (i < end) {
         std::uint8_t kind = wordKind(b[i]);
@@ -791,7 +809,9 @@ template <class C> void LineCutter<C>::loneWords() {
         } while (i < end && !((kind = wordKind(b[i])) & kSpace));
         const bool plain = (all & kWordChar) && (any & kAlnum);
         const View text(b + start, i - start);
-        if (store_)
+        if (plain && bare)
+            noteSpoken(keepPlainWord(start, text.size()));
+        else if (store_)
             addWord(text, start, false, false, true, plain ? 1 : 0);
         else if (!plain)
             checkWord(text, false, s_.word, s_.spare, sink_, true);
@@ -925,12 +945,7 @@ void LineCutter<C>::addWord(View text, size_t position, bool linked, bool malfor
     if (plain < 0 && !linked && contiguous && !line_.empty())
         plain = isPlainWord(text) ? 1 : 0;
     if (!linked && contiguous && !line_.empty() && plain == 1) {
-        // The common case, an ASCII word of word characters only: no rule
-        // applies, and the word is a view of its line.
-        s_.words.push_back(Word());
-        kept = &s_.words.back();
-        kept->assignPlain(line_.substr(position, text.size()));
-        kept->unintelligible = isUnintelligibleMark(text);
+        kept = &keepPlainWord(position, text.size());
     } else {
         std::string_view bytes = linked || !contiguous || line_.empty()
                                      ? std::string_view()
@@ -976,10 +991,7 @@ void LineCutter<C>::addWord(View text, size_t position, bool linked, bool malfor
     kept->inOverlap =
         overlapCursor_ < overlaps_.size() && overlaps_[overlapCursor_].first <= position;
     s_.positions.push_back(position);
-    if (!kept->inMaze && !kept->omitted) {
-        ++spoken_;
-        marks_ += kept->unintelligible ? 1 : 0;
-    }
+    noteSpoken(*kept);
 }
 
 // A code touches the text before it when no blank stands between them; a code
