@@ -64,7 +64,7 @@ public:
     bool operator()(const Word& other) const {
         // One spelling: one form.
         return (mayStartAlike(other) && surfaceIs(other, form_)) ||
-               (word_.linked == other.linked && word_.text() == other.text());
+               (word_.linked == other.linked && sameText(word_.text(), other.text()));
     }
     // Moves `words` on to its first word of this form; false when none is left.
     bool findIn(MainBodyWalk& words) const {
@@ -76,6 +76,10 @@ public:
 
 private:
     static constexpr int kNoLetter = 256; // no char has this value
+    // Most texts of one size differ in their first byte: no call then.
+    static bool sameText(std::string_view a, std::string_view b) {
+        return a.size() == b.size() && (a.empty() || (a[0] == b[0] && a == b));
+    }
     // Most words are told apart here, without a call: a root of two letters
     // or more begins the form with its first letter, unless that is a "\\".
     bool mayStartAlike(const Word& other) const {
