@@ -48,26 +48,26 @@ char lowerAscii(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
 }
 
-// One word compared with others by surface form (as surfaceForm gives it),
-// its own form found once; a word whose form is its lower-case text needs none.
+// One word compared with others by surface form (as surfaceForm gives it).
+// Most words are told apart by their first letter, which the root shows; the
+// word's own form is found only when that does not decide, and once.
 class SameForm {
 public:
-    explicit SameForm(const Word& w) : word_(w) {
-        if (formIsLowerText(w))
-            form_ = w.text();
-        else
-            form_ = built_.emplace(InlineForm::surface(w)).view();
-        first_ = form_.empty() ? kNoLetter : lowerAscii(form_[0]);
+    explicit SameForm(const Word& w) : word_(w), first_(firstLetter(w)) {
+        if (first_ == kUnknown)
+            first_ = form().empty() ? kNoLetter : lowerAscii(form()[0]);
     }
     SameForm(const SameForm&) = delete; // the form may lie in built_
     SameForm& operator=(const SameForm&) = delete;
-    bool operator()(const Word& other) const {
-        // One spelling: one form.
-        return (mayStartAlike(other) && surfaceIs(other, form_)) ||
-               (word_.linked == other.linked && sameText(word_.text(), other.text()));
+
+    bool operator()(const Word& other) {
+        const int first = firstLetter(other);
+        if (first != kUnknown && first != first_)
+            return sameSpelling(other);
+        return surfaceIs(other, form()) || sameSpelling(other);
     }
     // Moves `words` on to its first word of this form; false when none is left.
-    bool findIn(MainBodyWalk& words) const {
+    bool findIn(MainBodyWalk& words) {
         for (; !words.done(); words.next())
             if ((*this)(words.word()))
                 return true;
@@ -75,22 +75,36 @@ public:
     }
 
 private:
-    static constexpr int kNoLetter = 256; // no char has this value
-    // Most texts of one size differ in their first byte: no call then.
-    static bool sameText(std::string_view a, std::string_view b) {
-        return a.size() == b.size() && (a.empty() || (a[0] == b[0] && a == b));
+    static constexpr int kUnknown = 256, kNoLetter = 257; // no char has these values
+
+    // A root of two letters or more begins the form with its first letter,
+    // unless that is a "\\".
+    static int firstLetter(const Word& w) {
+        std::string_view r = w.root();
+        return r.size() < 2 || r[0] == '\\' ? kUnknown : lowerAscii(r[0]);
     }
-    // Most words are told apart here, without a call: a root of two letters
-    // or more begins the form with its first letter, unless that is a "\\".
-    bool mayStartAlike(const Word& other) const {
-        std::string_view r = other.root();
-        return r.size() < 2 || r[0] == '\\' || lowerAscii(r[0]) == first_;
+    // One spelling: one form.
+    bool sameSpelling(const Word& other) const {
+        std::string_view a = word_.text(), b = other.text();
+        // Most texts of one size differ in their first byte: no call then.
+        return word_.linked == other.linked && a.size() == b.size() &&
+               (a.empty() || (a[0] == b[0] && a == b));
+    }
+    // A word whose form is its lower-case text needs none built.
+    std::string_view form() {
+        if (!formFound_) {
+            form_ = formIsLowerText(word_) ? word_.text()
+                                           : built_.emplace(InlineForm::surface(word_)).view();
+            formFound_ = true;
+        }
+        return form_;
     }
 
     const Word& word_;
-    std::optional<InlineForm> built_;
+    int first_; // the form's first letter
+    bool formFound_ = false;
     std::string_view form_;
-    int first_ = kNoLetter; // the form's first letter
+    std::optional<InlineForm> built_;
 };
 
 // `mineCount` and `theirsCount`: the main-body words of `u` and of `prev`.
