@@ -169,7 +169,7 @@ bool surfaceIs(const Word& w, std::string_view text) {
 int mainBodyWordCount(const Utterance& u) {
     int n = 0;
     for (const Word& w : u.words)
-        n += (w.inMaze | w.omitted | w.unintelligible) ? 0 : 1; // no branches
+        n += (w.inMaze | w.omitted | w.unintelligible) ? 0 : 1; // isMainBodyWord, branch-free
     return n;
 }
 
