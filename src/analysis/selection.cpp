@@ -14,65 +14,104 @@ namespace tavi {
 
 namespace {
 
-// Reused room for comparing the words of two utterances.
-struct ImitationScratch {
-    std::vector<const Word*> mine, theirs;
-};
+// The main-body words of an utterance, walked in order without a copy.
+class MainBodyWalk {
+public:
+    explicit MainBodyWalk(const Utterance& u) : at_(u.words.data()), end_(at_ + u.words.size()) {
+        skipOthers();
+    }
+    bool done() const { return at_ == end_; }
+    const Word& word() const { return *at_; }
+    void next() {
+        ++at_;
+        skipOthers();
+    }
 
-void mainBodyWords(const Utterance& u, std::vector<const Word*>& out) {
-    out.clear();
-    for (const Word& w : u.words)
-        if (w.isMainBodyWord())
-            out.push_back(&w);
-}
+private:
+    void skipOthers() {
+        while (at_ != end_ && !at_->isMainBodyWord())
+            ++at_;
+    }
+    const Word* at_;
+    const Word* end_;
+};
 
 // A word whose surface form is its text in lower case: no parts, not a
 // part word, no bound prefix mark.
 bool formIsLowerText(const Word& w) {
     if (w.parts() || w.incomplete)
         return false;
-    for (char c : w.text())
-        if (c == '\\')
-            return false;
-    return true;
+    return w.text().find('\\') == std::string_view::npos;
 }
 
-bool equalAsciiCase(std::string_view a, std::string_view b) {
-    if (a.size() != b.size())
-        return false;
-    for (size_t k = 0; k < a.size(); ++k) {
-        char x = a[k], y = b[k];
-        if (x >= 'A' && x <= 'Z')
-            x = static_cast<char>(x + 32);
-        if (y >= 'A' && y <= 'Z')
-            y = static_cast<char>(y + 32);
-        if (x != y)
-            return false;
+char lowerAscii(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
+}
+
+// One word compared with others by surface form (as surfaceForm gives it).
+// Most words are told apart by their first letter, which the root shows; the
+// word's own form is found only when that does not decide, and once.
+class SameForm {
+public:
+    explicit SameForm(const Word& w) : word_(w), first_(firstLetter(w)) {
+        if (first_ == kUnknown)
+            first_ = form().empty() ? kNoLetter : lowerAscii(form()[0]);
     }
-    return true;
-}
+    SameForm(const SameForm&) = delete; // the form may lie in built_
+    SameForm& operator=(const SameForm&) = delete;
 
-// Whether two words have the same surface form (as surfaceForm gives it).
-// Forms are built only for words whose form is not their lower-case text,
-// and without heap memory.
-bool sameForm(const Word& a, const Word& b) {
-    if (a.linked == b.linked && a.text() == b.text())
-        return true; // one spelling: one form
-    const bool lowerA = formIsLowerText(a), lowerB = formIsLowerText(b);
-    if (lowerA && lowerB)
-        return equalAsciiCase(a.text(), b.text());
-    if (lowerA)
-        return equalAsciiCase(a.text(), InlineForm::surface(b).view());
-    if (lowerB)
-        return equalAsciiCase(InlineForm::surface(a).view(), b.text());
-    return InlineForm::surface(a).view() == InlineForm::surface(b).view();
-}
+    bool operator()(const Word& other) {
+        const int first = firstLetter(other);
+        if (first != kUnknown && first != first_)
+            return sameSpelling(other);
+        return surfaceIs(other, form()) || sameSpelling(other);
+    }
+    // Moves `words` on to its first word of this form; false when none is left.
+    bool findIn(MainBodyWalk& words) {
+        for (; !words.done(); words.next())
+            if ((*this)(words.word()))
+                return true;
+        return false;
+    }
+
+private:
+    static constexpr int kUnknown = 256, kNoLetter = 257; // no char has these values
+
+    // A root of two letters or more begins the form with its first letter,
+    // unless that is a "\\".
+    static int firstLetter(const Word& w) {
+        std::string_view r = w.root();
+        return r.size() < 2 || r[0] == '\\' ? kUnknown : lowerAscii(r[0]);
+    }
+    // One spelling: one form.
+    bool sameSpelling(const Word& other) const {
+        std::string_view a = word_.text(), b = other.text();
+        // Most texts of one size differ in their first byte: no call then.
+        return word_.linked == other.linked && a.size() == b.size() &&
+               (a.empty() || (a[0] == b[0] && a == b));
+    }
+    // A word whose form is its lower-case text needs none built.
+    std::string_view form() {
+        if (!formFound_) {
+            form_ = formIsLowerText(word_) ? word_.text()
+                                           : built_.emplace(InlineForm::surface(word_)).view();
+            formFound_ = true;
+        }
+        return form_;
+    }
+
+    const Word& word_;
+    int first_; // the form's first letter
+    bool formFound_ = false;
+    std::string_view form_;
+    std::optional<InlineForm> built_;
+};
 
 // `mineCount` and `theirsCount`: the main-body words of `u` and of `prev`.
 // An exact imitation has the same surface forms in the same order; a reduced
 // one fewer of them, some left out, order kept.
 void classifyImitation(const Utterance& u, int mineCount, const Utterance& prev, int theirsCount,
-                       ResponseType& r, ImitationScratch& s) {
+                       ResponseType& r) {
     if (mineCount == 0)
         return;
     if (mineCount > theirsCount) {
@@ -80,26 +119,22 @@ void classifyImitation(const Utterance& u, int mineCount, const Utterance& prev,
         r.exactImitation = r.reducedImitation = r.imitation = false;
         return;
     }
-    mainBodyWords(u, s.mine);
-    mainBodyWords(prev, s.theirs);
-    if (s.mine.size() == s.theirs.size()) {
+    MainBodyWalk mine(u), theirs(prev);
+    if (mineCount == theirsCount) {
         bool same = true;
-        for (size_t k = 0; k < s.mine.size() && same; ++k)
-            same = sameForm(*s.mine[k], *s.theirs[k]);
+        for (; !mine.done() && same; mine.next(), theirs.next())
+            same = SameForm(mine.word())(theirs.word());
         r.exactImitation = same;
         r.reducedImitation = false;
     } else {
         r.exactImitation = false;
         bool subset = true;
-        size_t j = 0;
-        for (const Word* w : s.mine) {
-            while (j < s.theirs.size() && !sameForm(*w, *s.theirs[j]))
-                ++j;
-            if (j == s.theirs.size()) {
+        for (; !mine.done(); mine.next()) {
+            if (!SameForm(mine.word()).findIn(theirs)) {
                 subset = false;
                 break;
             }
-            ++j;
+            theirs.next();
         }
         r.reducedImitation = subset;
     }
@@ -371,7 +406,6 @@ std::optional<int> elapsedInCut(const SegmentedTranscript& t, size_t first, size
 std::vector<ResponseType> classifyResponses(const SegmentedTranscript& t, const YesNoTest& yesNo) {
     std::vector<ResponseType> result(t.utterances.size());
     int wordsBefore = 0; // main-body words of the utterance before
-    ImitationScratch scratch;
     for (size_t i = 0; i < t.utterances.size(); ++i) {
         const Utterance& u = t.utterances[i];
         const int words = mainBodyWordCount(u);
@@ -386,7 +420,7 @@ std::vector<ResponseType> classifyResponses(const SegmentedTranscript& t, const 
         r.question = prev.terminator == Terminator::Question;
         r.prompt = prev.terminator == Terminator::Prompt;
         r.yesNo = r.question && yesNo && firstWordIsYesNo(u, yesNo);
-        classifyImitation(u, words, prev, prevWords, r, scratch);
+        classifyImitation(u, words, prev, prevWords, r);
     }
     return result;
 }

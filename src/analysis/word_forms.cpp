@@ -110,10 +110,66 @@ InlineForm InlineForm::surface(const Word& w) {
     return f;
 }
 
+namespace {
+
+char lowerAscii(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
+}
+
+// Steps through a text, a character at a time, in lower case.
+class FormReader {
+public:
+    explicit FormReader(std::string_view text) : text_(text) {}
+    bool take(char c) {
+        if (at_ == text_.size() || lowerAscii(text_[at_]) != lowerAscii(c))
+            return false;
+        ++at_;
+        return true;
+    }
+    bool takeAll(std::string_view s) {
+        for (char c : s)
+            if (!take(c))
+                return false;
+        return true;
+    }
+    bool done() const { return at_ == text_.size(); }
+
+private:
+    std::string_view text_;
+    std::size_t at_ = 0;
+};
+
+} // namespace
+
+// Follows InlineForm::surface piece by piece, so that most words that differ
+// are told apart at their first letter.
+bool surfaceIs(const Word& w, std::string_view text) {
+    FormReader form(text);
+    std::string_view r = w.root();
+    if (w.incomplete && !r.empty() && r.back() == '*')
+        r.remove_suffix(1);
+    for (char c : r)
+        if (c != '\\' && !form.take(c))
+            return false;
+    if (!w.parts())
+        return form.done();
+    for (std::string_view m : w.boundMorphemes()) {
+        std::string_view said = equalsIgnoreCase(m, "3s")  ? "s"
+                                : equalsIgnoreCase(m, "z") ? "'s"
+                                                           : m;
+        if (!form.takeAll(said))
+            return false;
+    }
+    for (std::string_view c : w.clitics())
+        if (!form.takeAll(c))
+            return false;
+    return form.done();
+}
+
 int mainBodyWordCount(const Utterance& u) {
     int n = 0;
     for (const Word& w : u.words)
-        n += w.isMainBodyWord() ? 1 : 0;
+        n += (w.inMaze | w.omitted | w.unintelligible) ? 0 : 1; // isMainBodyWord, branch-free
     return n;
 }
 

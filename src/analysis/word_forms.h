@@ -44,6 +44,9 @@ private:
     std::size_t size_ = 0;
     std::string long_;
 };
+// Whether the surface form of `w` is `text` in lower case; found without
+// building the form.
+bool surfaceIs(const Word& w, std::string_view text);
 // One for the word plus one for each bound morpheme present (endings and
 // bound prefixes); clitics add nothing.
 inline int morphemeCount(const Word& w) {

@@ -1,7 +1,14 @@
 // Response types, the analysis set and the transcript cut with its messages.
 #include <gtest/gtest.h>
 
+#include <random>
+#include <string>
+#include <vector>
+
 #include "analysis/selection.h"
+#include "analysis/word_forms.h"
+#include "base/text.h"
+#include "transcript/transcript_store.h"
 #include "transcript_builder.h"
 
 namespace tavi {
@@ -44,6 +51,169 @@ TEST(ResponseTypes, DecidedFromTheUtteranceJustBefore) {
 
     auto withoutList = classifyResponses(b, {});
     EXPECT_TRUE(withoutList[1].question && !withoutList[1].yesNo);
+}
+
+TEST(ResponseTypes, ImitationsCompareSurfaceForms) {
+    TranscriptBuilder b;
+    b.e("The Dog/s ran/ed to re\\do ba* it .") // 0
+        .c("the DOGS RANed to redo BA it .")   // 1: exact, by surface forms
+        .e("he/z run/3s (um) home+'s now .")   // 2
+        .c("he's RUNS (uh) *the HOME's now .") // 3: exact, maze and omitted words left out
+        .e("he+'s go/ing to re\\do it .")      // 4
+        .c("He's re\\Do .")                    // 5: reduced
+        .e("he/z going now .")                 // 6
+        .c("going he's .")                     // 7: order not kept
+        .e("ba* dog/s .")                      // 8
+        .c("b dogs .")                         // 9: "ba*" is "ba", not "b"
+        .e("redo dog .")                       // 10
+        .c("re\\do .");                        // 11: reduced, the mark dropped
+    auto r = classifyResponses(b, {});
+    EXPECT_TRUE(r[1].exactImitation && !r[1].reducedImitation);
+    EXPECT_TRUE(r[3].exactImitation);
+    EXPECT_TRUE(r[5].reducedImitation && !r[5].exactImitation);
+    EXPECT_FALSE(r[7].imitation);
+    EXPECT_FALSE(r[9].imitation);
+    EXPECT_TRUE(r[11].reducedImitation);
+}
+
+// Words whose surface forms meet in many ways: endings written by grammar,
+// clitics, part words, prefix marks, case, long words, linked words.
+const std::vector<std::string>& formTokens() {
+    static const std::vector<std::string> tokens = {
+        "dog",
+        "Dog",
+        "DOGS",
+        "dogs",
+        "dog/s",
+        "Dog/S",
+        "dog/z",
+        "dog's",
+        "dog+'s",
+        "do/3s",
+        "dos",
+        "does",
+        "go/ing",
+        "going",
+        "Going*",
+        "go*",
+        "go",
+        "g",
+        "*",
+        "ba*",
+        "BA",
+        "ba",
+        "b*",
+        "re\\do",
+        "redo",
+        "RE\\DO",
+        "\\do",
+        "do",
+        "go_on",
+        "Go_On",
+        "he+'s",
+        "he/z",
+        "He's",
+        "Z",
+        "s",
+        "3s",
+        "a/3s",
+        "as",
+        "abcdefghijklmnopqrstuvwxyzabcdefghijklmnopqrstuvwxyz",
+        "abcdefghijklmnopqrstuvwxyzabcdefghijklmnopqrstuvwxyz/s",
+        "ABCDEFGHIJKLMNOPQRSTUVWXYZABCDEFGHIJKLMNOPQRSTUVWXYZS"};
+    return tokens;
+}
+
+TEST(WordForms, SurfaceIsMatchesTheBuiltForm) {
+    TranscriptStore store;
+    for (const std::string& a : formTokens()) {
+        const Word w = test::makeWord(a, store);
+        for (const std::string& b : formTokens()) {
+            const Word other = test::makeWord(b, store);
+            const std::string form = surfaceForm(other);
+            EXPECT_EQ(surfaceIs(w, form), surfaceForm(w) == form) << a << " / " << b;
+            EXPECT_EQ(surfaceIs(w, other.text()), surfaceForm(w) == toLowerAscii(other.text()))
+                << a << " / " << b;
+        }
+    }
+}
+
+// The imitation rules written plainly, with built forms and word lists.
+bool sameFormPlainly(const Word& a, const Word& b) {
+    return (a.linked == b.linked && a.text() == b.text()) || surfaceForm(a) == surfaceForm(b);
+}
+
+std::vector<const Word*> mainBodyWordsOf(const Utterance& u) {
+    std::vector<const Word*> out;
+    for (const Word& w : u.words)
+        if (w.isMainBodyWord())
+            out.push_back(&w);
+    return out;
+}
+
+// {exact, reduced} of `u` after `prev`.
+std::pair<bool, bool> imitationPlainly(const Utterance& u, const Utterance& prev) {
+    std::vector<const Word*> mine = mainBodyWordsOf(u), theirs = mainBodyWordsOf(prev);
+    if (mine.empty() || mine.size() > theirs.size())
+        return {false, false};
+    if (mine.size() == theirs.size()) {
+        for (size_t k = 0; k < mine.size(); ++k)
+            if (!sameFormPlainly(*mine[k], *theirs[k]))
+                return {false, false};
+        return {true, false};
+    }
+    size_t j = 0;
+    for (const Word* w : mine) {
+        while (j < theirs.size() && !sameFormPlainly(*w, *theirs[j]))
+            ++j;
+        if (j == theirs.size())
+            return {false, false};
+        ++j;
+    }
+    return {false, true};
+}
+
+TEST(ResponseTypes, ImitationsAgreeWithThePlainRulesOnRandomUtterances) {
+    std::mt19937 rng(7);
+    const std::vector<std::string>& tokens = formTokens();
+    auto randomToken = [&] {
+        const std::string& token = tokens[rng() % tokens.size()];
+        const unsigned kind = rng() % 12;
+        return kind == 0 ? "(" + token + ")" : kind == 1 ? "*" + token : kind == 2 ? "X" : token;
+    };
+    TranscriptBuilder b;
+    std::vector<std::string> before;
+    for (int k = 0; k < 4000; ++k) {
+        // Often the words of the utterance before, some left out or changed,
+        // so that imitations occur.
+        std::vector<std::string> words;
+        if (rng() % 2 == 0) {
+            for (const std::string& w : before)
+                if (rng() % 4 != 0)
+                    words.push_back(rng() % 6 == 0 ? randomToken() : w);
+        } else {
+            for (unsigned n = rng() % 6; n > 0; --n)
+                words.push_back(randomToken());
+        }
+        std::string text;
+        for (const std::string& w : words)
+            text += w + " ";
+        b.utt(rng() % 9 == 0 ? 2 : static_cast<int>(k % 2), text + ".");
+        before = std::move(words);
+    }
+    const SegmentedTranscript& t = b;
+    auto r = classifyResponses(t, {});
+    int imitations = 0;
+    for (size_t i = 1; i < t.utterances.size(); ++i) {
+        const Utterance &u = t.utterances[i], &prev = t.utterances[i - 1];
+        if (u.speakerGroup > 1 || prev.speakerGroup != 1 - u.speakerGroup)
+            continue;
+        auto [exact, reduced] = imitationPlainly(u, prev);
+        EXPECT_EQ(r[i].exactImitation, exact) << i;
+        EXPECT_EQ(r[i].reducedImitation, reduced) << i;
+        imitations += exact || reduced ? 1 : 0;
+    }
+    EXPECT_GT(imitations, 50);
 }
 
 TEST(AnalysisSet, DefaultsLeaveOutIncompleteUnintelligibleAndNonverbal) {
