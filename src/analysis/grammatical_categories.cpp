@@ -12,7 +12,8 @@ std::optional<int> categoryOfCode(std::string_view code) {
         code = code.substr(3);
     for (size_t i = 0; i < kGrammaticalCategoryTable.size(); ++i) {
         std::string_view c = kGrammaticalCategoryTable[i].code; // "[GC:NOUN]"
-        if (equalsIgnoreCase(c.substr(4, c.size() - 5), code))
+        // Sizes first: most names differ in size, and are passed over without a call.
+        if (c.size() - 5 == code.size() && equalsIgnoreCase(c.substr(4, c.size() - 5), code))
             return static_cast<int>(i);
     }
     return std::nullopt;
