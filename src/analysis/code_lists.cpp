@@ -116,9 +116,16 @@ bool codeMatchesItem(std::string_view code, std::string_view item) {
 }
 
 bool CodeMatcher::matches(std::string_view code) const {
-    for (const std::string& item : items_)
-        if (codeMatchesItem(code, item))
+    // codeMatchesItem for each item, the code's head found once.
+    const std::string_view head = code.substr(0, code.find(':'));
+    for (std::string_view item : items_) {
+        if (item.empty() || item.back() != '*') {
+            if (equalsIgnoreCase(head, item))
+                return true;
+        } else if (startsWithIgnoreCase(head, item.substr(0, item.size() - 1))) {
             return true;
+        }
+    }
     return false;
 }
 

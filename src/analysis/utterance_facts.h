@@ -115,8 +115,9 @@ struct FactTables {
     Numbering forms;
     Numbering endings; // bound morphemes in lower case
     std::vector<CountedWord> words;
-    std::vector<int> remarkRoots; // root numbers of counted parenthetical words
-    std::string key, form;        // scratch
+    std::vector<int> remarkRoots;        // root numbers of counted parenthetical words
+    std::string key, form;               // scratch
+    std::vector<std::uint8_t> codeLists; // scratch: the lists each code of an utterance matches
     TextIndex spellings; // each spelling met (tagged when linked): its number in spellingList
     std::vector<SpellingFacts> spellingList;
     std::vector<int> spellingEndings;
