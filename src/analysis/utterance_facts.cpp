@@ -83,10 +83,9 @@ WordTraits traitsOf(const Word& w) {
     return t;
 }
 
-// The facts of `w`'s spelling, worked out at its first use.
-std::uint32_t spellingOf(const Word& w, FactTables& t) {
-    if (std::optional<std::uint32_t> known = t.spellings.find(w.text(), w.linked))
-        return *known;
+// Numbers `w`'s spelling, met for the first time, and works out its facts.
+// Kept out of the walk over the words: few words bring a new spelling.
+[[gnu::noinline]] std::uint32_t addSpelling(const Word& w, FactTables& t) {
     const std::uint32_t id = t.spellings.insert(w.text(), w.linked);
     SpellingFacts f;
     f.word = &w;
@@ -108,6 +107,35 @@ std::uint32_t spellingOf(const Word& w, FactTables& t) {
     f.clitics = static_cast<int>(w.clitics().size());
     t.spellingList.push_back(f);
     return id;
+}
+
+// The number of `w`'s spelling in `t`.
+std::uint32_t spellingOf(const Word& w, FactTables& t) {
+    if (std::optional<std::uint32_t> known = t.spellings.find(w.text(), w.linked))
+        return *known;
+    return addSpelling(w, t);
+}
+
+// Notes a word that is a maze word, omitted, an unintelligible mark or has
+// parts; whether it may still count (a main-body word with parts).
+[[gnu::noinline]] bool noteMarkedWord(const Word& w, UtteranceFacts& f, RareFacts& rare) {
+    if (w.inMaze) {
+        f.mazeWords += !w.omitted && !w.unintelligible ? 1 : 0;
+        return false;
+    }
+    if (w.omitted) {
+        ++rare.omittedWords;
+        return false;
+    }
+    if (const WordParts* parts = w.parts()) {
+        rare.omittedMorphemes += parts->counts[2];
+        rare.omittedClitics += parts->counts[4];
+    }
+    if (w.unintelligible) {
+        ++rare.unintelligibleMarks;
+        return false;
+    }
+    return true;
 }
 
 void tallyCodes(std::span<const Code> codes, const std::vector<std::uint8_t>& lists, CodeFacts& f) {
@@ -148,26 +176,14 @@ UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeM
     const bool listedBase = !m.wordBase.empty();
     const bool everyWordPasses = !listedBase && !base.includeMode;
     bool overlap = u.hasOverlap;
+    int morphemes = 0, boundMorphemes = 0, clitics = 0;
     int counted = 0;
     for (int index = 0; index < static_cast<int>(u.words.size()); ++index) {
         const Word& w = u.words[static_cast<size_t>(index)];
         overlap = overlap || w.inOverlap;
-        if (w.inMaze) {
-            f.mazeWords += !w.omitted && !w.unintelligible ? 1 : 0;
+        if ((w.inMaze || w.omitted || w.unintelligible || w.parts() != nullptr) &&
+            !noteMarkedWord(w, f, rare))
             continue;
-        }
-        if (w.omitted) {
-            ++rare.omittedWords;
-            continue;
-        }
-        if (const WordParts* parts = w.parts()) {
-            rare.omittedMorphemes += parts->counts[2];
-            rare.omittedClitics += parts->counts[4];
-        }
-        if (w.unintelligible) {
-            ++rare.unintelligibleMarks;
-            continue;
-        }
         if (!everyWordPasses &&
             (!listedBase ||
              base.includeMode != wordCarries(codeList, t.codeLists, index, kWordBase)))
@@ -176,13 +192,16 @@ UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeM
         const SpellingFacts& known = t.spellingList[spelling];
         t.words.push_back(CountedWord{spelling});
         ++counted;
-        f.morphemes += known.morphemes;
-        f.boundMorphemes += known.boundMorphemes;
-        f.clitics += known.clitics;
+        morphemes += known.morphemes;
+        boundMorphemes += known.boundMorphemes;
+        clitics += known.clitics;
         if (!codeList.empty())
             codes.errorWords += wordCarries(codeList, t.codeLists, index, kErrors) ? 1 : 0;
     }
     f.overlap = overlap;
+    f.morphemes = morphemes;
+    f.boundMorphemes = boundMorphemes;
+    f.clitics = clitics;
     if (!base.excludeParenthetical)
         addParentheticalWords(u, rare, t);
     f.wordCount = counted + rare.remarks;
