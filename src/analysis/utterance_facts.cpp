@@ -35,7 +35,8 @@ enum CodeList : std::uint8_t {
     kWordBase = 32,
 };
 
-void matchCodes(std::span<const Code> codes, const CodeMatchers& m,
+// Only the word base list is tested unless `every`.
+void matchCodes(std::span<const Code> codes, const CodeMatchers& m, bool every,
                 std::vector<std::uint8_t>& lists) {
     lists.clear();
     for (const Code& c : codes) {
@@ -43,12 +44,16 @@ void matchCodes(std::span<const Code> codes, const CodeMatchers& m,
         auto test = [&](const CodeMatcher& list, std::uint8_t bit) {
             in |= list.matches(c.text) ? bit : 0;
         };
+        test(m.wordBase, kWordBase);
+        if (!every) {
+            lists.push_back(in);
+            continue;
+        }
         test(m.errors, kErrors);
         test(m.fluency, kFluency);
         test(m.nonmainstream, kNonmainstream);
         test(m.codeSwitch, kCodeSwitch);
         test(m.excludeSet, kExcludeSet);
-        test(m.wordBase, kWordBase);
         lists.push_back(in);
     }
 }
@@ -163,15 +168,16 @@ bool isCountedWord(const Utterance& u, int index, const WordBase& base, const Co
 }
 
 UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeMatchers& m,
-                           FactTables& t) {
+                           bool withCodes, FactTables& t) {
     UtteranceFacts f;
     RareFacts rare;
     f.wordsFrom = static_cast<std::uint32_t>(t.words.size());
     rare.remarksFrom = static_cast<std::uint32_t>(t.remarkRoots.size());
     CodeFacts codes;
     const std::span<const Code> codeList = u.codes();
+    const bool tallied = withCodes && !codeList.empty();
     if (!codeList.empty())
-        matchCodes(codeList, m, t.codeLists);
+        matchCodes(codeList, m, withCodes, t.codeLists);
     // Without a word base list every word passes or none does.
     const bool listedBase = !m.wordBase.empty();
     const bool everyWordPasses = !listedBase && !base.includeMode;
@@ -195,7 +201,7 @@ UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeM
         morphemes += known.morphemes;
         boundMorphemes += known.boundMorphemes;
         clitics += known.clitics;
-        if (!codeList.empty())
+        if (tallied)
             codes.errorWords += wordCarries(codeList, t.codeLists, index, kErrors) ? 1 : 0;
     }
     f.overlap = overlap;
@@ -206,7 +212,7 @@ UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeM
         addParentheticalWords(u, rare, t);
     f.wordCount = counted + rare.remarks;
     f.morphemes += rare.remarks;
-    if (!codeList.empty()) {
+    if (tallied) {
         tallyCodes(codeList, t.codeLists, codes);
         f.codes = static_cast<std::uint32_t>(t.codeFacts.size());
         t.codeFacts.push_back(codes);

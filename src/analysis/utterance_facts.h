@@ -167,7 +167,9 @@ static_assert(sizeof(UtteranceFacts) <= 36, "a record is made for every utteranc
 bool isCountedWord(const Utterance& u, int index, const WordBase& base, const CodeMatchers& codes);
 
 // Gathers the facts of `u`, adding its words, roots and endings to `tables`.
+// Without `withCodes` the facts of its codes are left out (UtteranceFacts::codes
+// is 0), for an utterance of which only the words are read.
 UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeMatchers& codes,
-                           FactTables& tables);
+                           bool withCodes, FactTables& tables);
 
 } // namespace tavi
