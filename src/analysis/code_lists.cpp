@@ -115,10 +115,34 @@ bool codeMatchesItem(std::string_view code, std::string_view item) {
     return equalsIgnoreCase(head, item);
 }
 
+namespace {
+
+char upperAscii(char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c;
+}
+
+} // namespace
+
+CodeMatcher::CodeMatcher(std::string_view list) : items_(parseCodeItems(list)) {
+    for (const std::string& item : items_) {
+        const bool open = !item.empty() && item.back() == '*';
+        stems_.push_back({toUpperAscii(open ? item.substr(0, item.size() - 1) : item), open});
+    }
+}
+
+// codeMatchesItem for each item, the code's head found once and each item
+// compared in the upper case it is kept in.
 bool CodeMatcher::matches(std::string_view code) const {
-    for (const std::string& item : items_)
-        if (codeMatchesItem(code, item))
+    const std::string_view head = code.substr(0, code.find(':'));
+    for (const Stem& stem : stems_) {
+        if (stem.open ? head.size() < stem.upper.size() : head.size() != stem.upper.size())
+            continue;
+        size_t at = 0;
+        while (at < stem.upper.size() && upperAscii(head[at]) == stem.upper[at])
+            ++at;
+        if (at == stem.upper.size())
             return true;
+    }
     return false;
 }
 

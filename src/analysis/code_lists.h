@@ -52,13 +52,19 @@ bool isValidCodeList(std::string_view list);
 class CodeMatcher {
 public:
     CodeMatcher() = default;
-    explicit CodeMatcher(std::string_view list) : items_(parseCodeItems(list)) {}
+    explicit CodeMatcher(std::string_view list);
     bool empty() const { return items_.empty(); }
     bool matches(std::string_view code) const;
     const std::vector<std::string>& items() const { return items_; }
 
 private:
+    // An item as matching reads it, made once: tested for every code of a walk.
+    struct Stem {
+        std::string upper; // the item in upper case, without a final "*"
+        bool open = false; // the item ends in "*": any ending matches
+    };
     std::vector<std::string> items_;
+    std::vector<Stem> stems_; // of items_
 };
 
 } // namespace tavi

@@ -200,8 +200,10 @@ void walkUtterances(MeasureContext& c, const std::array<bool, 2>& measured) {
     MentionTally mentions;
     for (int i : sel.utterances) {
         const Utterance& u = c.t.utterances[static_cast<size_t>(i)];
-        const UtteranceFacts f = gatherFacts(u, o.wordBase, c.codes, c.tables);
         const int group = u.speakerGroup;
+        // Of the other speakers' utterances only the words are read.
+        const bool kept = group <= 1 && measured[static_cast<size_t>(group)];
+        const UtteranceFacts f = gatherFacts(u, o.wordBase, c.codes, kept, c.tables);
         if (group > 1)
             continue;
         mentions.add(f, group, tables);

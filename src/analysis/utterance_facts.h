@@ -115,8 +115,9 @@ struct FactTables {
     Numbering forms;
     Numbering endings; // bound morphemes in lower case
     std::vector<CountedWord> words;
-    std::vector<int> remarkRoots; // root numbers of counted parenthetical words
-    std::string key, form;        // scratch
+    std::vector<int> remarkRoots;        // root numbers of counted parenthetical words
+    std::string key, form;               // scratch
+    std::vector<std::uint8_t> codeLists; // scratch: the lists each code of an utterance matches
     TextIndex spellings; // each spelling met (tagged when linked): its number in spellingList
     std::vector<SpellingFacts> spellingList;
     std::vector<int> spellingEndings;
@@ -166,7 +167,9 @@ static_assert(sizeof(UtteranceFacts) <= 36, "a record is made for every utteranc
 bool isCountedWord(const Utterance& u, int index, const WordBase& base, const CodeMatchers& codes);
 
 // Gathers the facts of `u`, adding its words, roots and endings to `tables`.
+// Without `withCodes` the facts of its codes are left out (UtteranceFacts::codes
+// is 0), for an utterance of which only the words are read.
 UtteranceFacts gatherFacts(const Utterance& u, const WordBase& base, const CodeMatchers& codes,
-                           FactTables& tables);
+                           bool withCodes, FactTables& tables);
 
 } // namespace tavi

@@ -16,7 +16,8 @@ class TextIndex {
 public:
     // The number of `text` with `tag` (the same text under two tags is two
     // entries), or nothing when it was never inserted.
-    std::optional<std::uint32_t> find(std::string_view text, bool tag = false) const {
+    [[gnu::always_inline]] std::optional<std::uint32_t> find(std::string_view text,
+                                                             bool tag = false) const {
         const std::uint64_t packed = packText(text.data(), text.size());
         const std::uint32_t hash = hashOf(packed, text.size(), tag);
         const size_t mask = slots_.size() - 1;

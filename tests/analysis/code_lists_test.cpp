@@ -1,6 +1,10 @@
 // Code lists: parsing both list forms, matching, and the validity check.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <random>
+#include <string>
+
 #include "analysis/code_lists.h"
 
 namespace tavi {
@@ -42,6 +46,32 @@ TEST(CodeLists, DescribedCodesReadOldAndNewForms) {
     EXPECT_EQ(text, "[EW] error (word) level [EO][PRO] pronoun");
     EXPECT_EQ(parseDescribedCodes(text),
               (D{{"EW", "error (word) level"}, {"EO", ""}, {"PRO", "pronoun"}}));
+}
+
+// A matcher keeps its items in the form it tests them in; it must agree with
+// matching each item on its own, whatever the case, endings and ":" parts.
+TEST(CodeLists, MatcherAgreesWithItemByItemMatching) {
+    std::mt19937 rng(7);
+    const std::string letters = "EeWwOo*:x";
+    auto text = [&](size_t most) {
+        std::string t;
+        for (size_t n = rng() % (most + 1); n > 0; --n)
+            t += letters[rng() % letters.size()];
+        return t;
+    };
+    for (int round = 0; round < 2000; ++round) {
+        std::string list;
+        for (int items = static_cast<int>(rng() % 4); items > 0; --items)
+            list += "[" + text(3) + "]";
+        const CodeMatcher matcher(list);
+        for (int k = 0; k < 10; ++k) {
+            const std::string code = text(5);
+            const bool each =
+                std::any_of(matcher.items().begin(), matcher.items().end(),
+                            [&](const std::string& item) { return codeMatchesItem(code, item); });
+            EXPECT_EQ(matcher.matches(code), each) << list << " " << code;
+        }
+    }
 }
 
 } // namespace
