@@ -113,13 +113,58 @@ struct StepTable {
 };
 constexpr StepTable kSteps;
 
+// Eight bytes at a time: a bit 0x80 in each byte that may concern a step. A
+// byte from 128 always may; the tests on the low seven bits cannot carry from
+// one byte into the next.
+constexpr std::uint64_t kOnes = 0x0101010101010101u;
+constexpr std::uint64_t kHighBits = 0x8080808080808080u;
+// The bytes of `low` (each below 128) that are below `n` (at most 128).
+constexpr std::uint64_t bytesBelow(std::uint64_t low, unsigned n) {
+    return ~(low + (0x80u - n) * kOnes) & kHighBits;
+}
+constexpr std::uint64_t bytesEqual(std::uint64_t low, unsigned c) {
+    return bytesBelow(low ^ (c * kOnes), 1);
+}
+// More bytes than the step has a rule for may be marked (control characters,
+// ":" to "@"): the byte loop that follows decides.
+template <std::uint8_t step> std::uint64_t mayConcern(std::uint64_t eight) {
+    const std::uint64_t low = eight & ~kHighBits;
+    std::uint64_t marked = eight & kHighBits;
+    if constexpr (step == kParenStep) {
+        // "(" ")", "," "\"", other white space and quotation marks below 0x20.
+        marked |= bytesEqual(low | kOnes, ')') | bytesEqual(low, ',') | bytesEqual(low, '"') |
+                  bytesBelow(low, 0x20);
+    } else if constexpr (step == kMazeStep) {
+        marked |= bytesEqual(low | kOnes, ')') | bytesEqual(low | 2 * kOnes, '>');
+    } else {
+        // Control characters, ":" to "@", "!" "$", "," to "/", "^" "~" and 0x7F.
+        marked |= bytesBelow(low, 0x20) | (bytesBelow(low, 0x41) & ~bytesBelow(low, 0x3A)) |
+                  bytesEqual(low, '!') | bytesEqual(low, '$') | bytesEqual(low | 3 * kOnes, '/') |
+                  bytesEqual(low | 0x20 * kOnes, '~') | bytesEqual(low, 0x7F);
+    }
+    return marked;
+}
+
 // The first position from `i` (up to `end`) of a character that concerns
-// `step`. Only bytes are passed over: the code-point cut, which the tests
-// compare the byte cut with, looks at every character.
-template <class C> size_t nextFor(const C* b, size_t i, size_t end, std::uint8_t step) {
+// `step`. Only bytes are passed over, eight at a time where none may concern
+// it: the code-point cut, which the tests compare the byte cut with, looks at
+// every character.
+template <std::uint8_t step, class C> size_t nextFor(const C* b, size_t i, size_t end) {
     if constexpr (std::is_same_v<C, char>) {
-        while (i < end && !(kSteps.kinds[static_cast<unsigned char>(b[i])] & step))
-            ++i;
+        for (;;) {
+            std::uint64_t eight;
+            while (i + 8 <= end) {
+                std::memcpy(&eight, b + i, 8);
+                if (mayConcern<step>(eight))
+                    break;
+                i += 8;
+            }
+            for (const size_t stop = std::min(end, i + 8); i < stop; ++i)
+                if (kSteps.kinds[static_cast<unsigned char>(b[i])] & step)
+                    return i;
+            if (i >= end)
+                return i;
+        }
     }
     return i;
 }
@@ -540,7 +585,7 @@ template <class C> void LineCutter<C>::parentheticals() {
     int inner = 0;     // single-bracket balance inside the open remark
     int mazeDepth = 0; // single-bracket depth outside remarks
     size_t i = 1;
-    while ((i = nextFor(b_, i, end_, kParenStep)) < end_) {
+    while ((i = nextFor<kParenStep>(b_, i, end_)) < end_) {
         char32_t c = at(i);
         bool pairNext = i + 1 < end_ && at(i + 1) == c;
         if (c == U'(' && pairNext) {
@@ -624,7 +669,7 @@ template <class C> void LineCutter<C>::closeParenthetical(size_t open, size_t cl
 template <class C> void LineCutter<C>::mazesAndOverlaps() {
     size_t maze = 0, overlap = 0;
     bool mazeOpen = false, overlapOpen = false;
-    for (size_t i = 1; (i = nextFor(b_, i, end_, kMazeStep)) < end_; ++i) {
+    for (size_t i = 1; (i = nextFor<kMazeStep>(b_, i, end_)) < end_; ++i) {
         switch (at(i)) {
         case U'(':
             if (mazeOpen) {
@@ -703,7 +748,7 @@ std::string shown(char32_t c) {
 }
 
 template <class C> void LineCutter<C>::pausesAndCharacters() {
-    for (size_t i = 1; (i = nextFor(b_, i, end_, kPauseStep)) < end_; ++i) {
+    for (size_t i = 1; (i = nextFor<kPauseStep>(b_, i, end_)) < end_; ++i) {
         char32_t c = at(i);
         if (c == U':') {
             i = readPause(i);

@@ -175,6 +175,26 @@ TEST(CuttingPaths, BytesAndCodePointsAgree) {
     EXPECT_GT(ascii, 5000); // most lines do take the byte path
 }
 
+// The steps pass over bytes eight at a time: every ASCII character, alone or
+// next to another, at every place of a long line, must be seen as the
+// code-point cut sees it.
+TEST(CuttingPaths, EveryCharacterAtEveryPlaceAgrees) {
+    UtteranceSegmenter bytes, codePoints;
+    codePoints.setCodePointsOnly(true);
+    const std::string filler = "C the dog and the big cat went home to the farm";
+    std::mt19937 rng(7);
+    for (int c = 1; c < 128; ++c) {
+        for (size_t at = 1; at < filler.size(); ++at) {
+            std::string line = filler;
+            line[at] = static_cast<char>(c);
+            if (rng() % 2)
+                line[1 + rng() % (line.size() - 1)] = kCharacters[rng() % kCharacters.size()];
+            line += ".!?"[rng() % 3];
+            ASSERT_EQ(cutBy(bytes, line), cutBy(codePoints, line)) << line;
+        }
+    }
+}
+
 // Lines at the edge of the plain-line shortcut: plain words, apostrophes,
 // blanks and tabs, other white space after the terminator, and one character
 // of the notation or outside ASCII put in now and then.
