@@ -74,18 +74,28 @@ struct PresenceTable {
 constexpr PresenceTable kPresence;
 
 // What a character is to the word pass, one bit each: white space, a word
-// character, a letter or digit (a word of word characters only, with a letter
-// or digit, is plain). A byte from 128 (never in a line cut from its bytes) is
-// none of these.
-enum WordKind : std::uint8_t { kSpace = 1, kWordChar = 2, kAlnum = 4 };
+// character or not, a letter or digit (a word of word characters only, with a
+// letter or digit, is plain), and whether a word may end at it (white space, a
+// terminator, the character past the end of a string). A byte from 128 (never
+// in a line cut from its bytes) is no word character.
+enum WordKind : std::uint8_t {
+    kSpace = 1,
+    kWordChar = 2,
+    kAlnum = 4,
+    kNotWordChar = 8,
+    kMayEndWord = 16
+};
 
 struct WordKindTable {
     std::uint8_t kinds[256] = {};
     constexpr WordKindTable() {
         for (char32_t c = 0; c < 128; ++c)
-            kinds[c] = static_cast<std::uint8_t>((cls::isSpace(c) ? kSpace : 0) |
-                                                 (cls::isWordChar(c) ? kWordChar : 0) |
-                                                 (cls::isAlnum(c) ? kAlnum : 0));
+            kinds[c] = static_cast<std::uint8_t>(
+                (cls::isSpace(c) ? kSpace : 0) | (cls::isWordChar(c) ? kWordChar : kNotWordChar) |
+                (cls::isAlnum(c) ? kAlnum : 0) |
+                (cls::isSpace(c) || cls::isTerminator(c) || c == 0 ? kMayEndWord : 0));
+        for (int c = 128; c < 256; ++c)
+            kinds[c] = kNotWordChar;
     }
 };
 constexpr WordKindTable kWordKinds;
@@ -176,8 +186,9 @@ inline std::uint8_t wordKind(char c) {
 inline std::uint8_t wordKind(char32_t c) {
     if (c < 128)
         return kWordKinds.kinds[c];
-    return static_cast<std::uint8_t>((cls::isWordChar(c) ? kWordChar : 0) |
-                                     (cls::isAlnum(c) ? kAlnum : 0));
+    return static_cast<std::uint8_t>((cls::isWordChar(c) ? kWordChar : kNotWordChar) |
+                                     (cls::isAlnum(c) ? kAlnum : 0) |
+                                     (cls::isTerminator(c) ? kMayEndWord : 0));
 }
 
 } // namespace
@@ -846,13 +857,14 @@ template <class C> void LineCutter<C>::loneWords() {
             continue;
         }
         const size_t start = i;
-        std::uint8_t all = kWordChar, any = 0;
+        // The character at `end` (the terminator, a blank, or the one past the
+        // string) may end a word: only there is the end looked for.
+        std::uint8_t seen = 0;
         do {
-            all &= kind;
-            any |= kind;
-            ++i;
-        } while (i < end && !((kind = wordKind(b[i])) & kSpace));
-        const bool plain = (all & kWordChar) && (any & kAlnum);
+            seen |= kind;
+            kind = wordKind(b[++i]);
+        } while (!(kind & kMayEndWord) || (i < end && !(kind & kSpace)));
+        const bool plain = !(seen & kNotWordChar) && (seen & kAlnum);
         const View text(b + start, i - start);
         if (plain && bare)
             noteSpoken(keepPlainWord(start, text.size()));
