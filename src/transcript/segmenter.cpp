@@ -18,6 +18,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <cstring>
 #include <deque>
@@ -161,20 +162,26 @@ template <std::uint8_t step> std::uint64_t mayConcern(std::uint64_t eight) {
 // every character.
 template <std::uint8_t step, class C> size_t nextFor(const C* b, size_t i, size_t end) {
     if constexpr (std::is_same_v<C, char>) {
-        for (;;) {
+        auto concerns = [b](size_t k) {
+            return (kSteps.kinds[static_cast<unsigned char>(b[k])] & step) != 0;
+        };
+        for (; i + 8 <= end; i += 8) {
             std::uint64_t eight;
-            while (i + 8 <= end) {
-                std::memcpy(&eight, b + i, 8);
-                if (mayConcern<step>(eight))
-                    break;
-                i += 8;
+            std::memcpy(&eight, b + i, 8);
+            std::uint64_t marked = mayConcern<step>(eight);
+            if constexpr (std::endian::native == std::endian::little) {
+                // The lowest marked byte is the first one.
+                for (; marked != 0; marked &= marked - 1)
+                    if (const size_t k = i + std::countr_zero(marked) / 8; concerns(k))
+                        return k;
+            } else if (marked != 0) {
+                for (size_t k = i; k < i + 8; ++k)
+                    if (concerns(k))
+                        return k;
             }
-            for (const size_t stop = std::min(end, i + 8); i < stop; ++i)
-                if (kSteps.kinds[static_cast<unsigned char>(b[i])] & step)
-                    return i;
-            if (i >= end)
-                return i;
         }
+        while (i < end && !concerns(i))
+            ++i;
     }
     return i;
 }
