@@ -11,8 +11,10 @@
 #pragma once
 
 #include <algorithm>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string>
 #include <type_traits>
 
@@ -27,6 +29,35 @@ template <class V, class... A> void scanReport(V& v, ProblemRef<A...> p, const A
     v.problem(p.id, problemText(p, args...));
 }
 
+// The first "[", "]", "{" or "}" from `i` (up to `end`) in a line of bytes,
+// eight bytes at a time where none may be one. A byte ORed with 0x26 gives 0x7F
+// for each of them (and for "Y" "_" "y" and 0x7F, looked at one by one).
+inline std::size_t nextBracket(const char* text, std::size_t i, std::size_t end) {
+    constexpr std::uint64_t kOnes = 0x0101010101010101u, kHigh = 0x8080808080808080u;
+    auto isBracket = [text](std::size_t k) {
+        const char c = text[k];
+        return c == '[' || c == ']' || c == '{' || c == '}';
+    };
+    for (; i + 8 <= end; i += 8) {
+        std::uint64_t eight;
+        std::memcpy(&eight, text + i, 8);
+        // A bit 0x80 in each byte that is 0x7F once ORed with 0x26, or from 128.
+        const std::uint64_t low = (eight | 0x26 * kOnes) & ~kHigh;
+        std::uint64_t marked = (~((low ^ 0x7F * kOnes) + 0x7F * kOnes) | eight) & kHigh;
+        if constexpr (std::endian::native == std::endian::little) {
+            for (; marked != 0; marked &= marked - 1)
+                if (const std::size_t k = i + std::countr_zero(marked) / 8; isBracket(k))
+                    return k;
+        } else if (marked != 0) {
+            for (std::size_t k = i; k < i + 8; ++k)
+                if (isBracket(k))
+                    return k;
+        }
+    }
+    while (i < end && !isBracket(i))
+        ++i;
+    return i;
+}
 } // namespace detail
 
 template <class Char, class Visitor>
@@ -41,21 +72,15 @@ void scanCommentsAndCodes(std::basic_string<Char>& text, std::size_t end, Visito
     auto at = [&](std::size_t i) {
         return static_cast<char32_t>(static_cast<std::make_unsigned_t<Char>>(text[i]));
     };
-    // "[", "]", "{" and "}": outside comments and codes no other character matters.
-    constexpr std::uint64_t kBrackets =
-        (std::uint64_t{1} << ('[' - 64)) | (std::uint64_t{1} << (']' - 64)) |
-        (std::uint64_t{1} << ('{' - 64)) | (std::uint64_t{1} << ('}' - 64));
-    auto isBracket = [&](char32_t c) {
-        return c >= 64 && c < 128 && ((kBrackets >> (c - 64)) & 1) != 0;
-    };
     for (std::size_t i = 1; i < end; ++i) {
-        // Bytes only: the code points of a line are all looked at, as the
-        // tests compare the two.
-        if (sizeof(Char) == 1 && !inComment && !inCode) {
-            while (i < end && !isBracket(at(i)))
-                ++i;
-            if (i == end)
-                break;
+        // Outside comments and codes only brackets matter. Bytes only: the
+        // code points of a line are all looked at, as the tests compare the two.
+        if constexpr (sizeof(Char) == 1) {
+            if (!inComment && !inCode) {
+                i = detail::nextBracket(text.data(), i, end);
+                if (i == end)
+                    break;
+            }
         }
         auto c = at(i);
         if (inComment) {

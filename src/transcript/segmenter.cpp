@@ -18,6 +18,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <cstring>
 #include <deque>
@@ -74,18 +75,28 @@ struct PresenceTable {
 constexpr PresenceTable kPresence;
 
 // What a character is to the word pass, one bit each: white space, a word
-// character, a letter or digit (a word of word characters only, with a letter
-// or digit, is plain). A byte from 128 (never in a line cut from its bytes) is
-// none of these.
-enum WordKind : std::uint8_t { kSpace = 1, kWordChar = 2, kAlnum = 4 };
+// character or not, a letter or digit (a word of word characters only, with a
+// letter or digit, is plain), and whether a word may end at it (white space, a
+// terminator, the character past the end of a string). A byte from 128 (never
+// in a line cut from its bytes) is no word character.
+enum WordKind : std::uint8_t {
+    kSpace = 1,
+    kWordChar = 2,
+    kAlnum = 4,
+    kNotWordChar = 8,
+    kMayEndWord = 16
+};
 
 struct WordKindTable {
     std::uint8_t kinds[256] = {};
     constexpr WordKindTable() {
         for (char32_t c = 0; c < 128; ++c)
-            kinds[c] = static_cast<std::uint8_t>((cls::isSpace(c) ? kSpace : 0) |
-                                                 (cls::isWordChar(c) ? kWordChar : 0) |
-                                                 (cls::isAlnum(c) ? kAlnum : 0));
+            kinds[c] = static_cast<std::uint8_t>(
+                (cls::isSpace(c) ? kSpace : 0) | (cls::isWordChar(c) ? kWordChar : kNotWordChar) |
+                (cls::isAlnum(c) ? kAlnum : 0) |
+                (cls::isSpace(c) || cls::isTerminator(c) || c == 0 ? kMayEndWord : 0));
+        for (int c = 128; c < 256; ++c)
+            kinds[c] = kNotWordChar;
     }
 };
 constexpr WordKindTable kWordKinds;
@@ -113,12 +124,63 @@ struct StepTable {
 };
 constexpr StepTable kSteps;
 
+// Eight bytes at a time: a bit 0x80 in each byte that may concern a step. A
+// byte from 128 always may; the tests on the low seven bits cannot carry from
+// one byte into the next.
+constexpr std::uint64_t kOnes = 0x0101010101010101u;
+constexpr std::uint64_t kHighBits = 0x8080808080808080u;
+// The bytes of `low` (each below 128) that are below `n` (at most 128).
+constexpr std::uint64_t bytesBelow(std::uint64_t low, unsigned n) {
+    return ~(low + (0x80u - n) * kOnes) & kHighBits;
+}
+constexpr std::uint64_t bytesEqual(std::uint64_t low, unsigned c) {
+    return bytesBelow(low ^ (c * kOnes), 1);
+}
+// More bytes than the step has a rule for may be marked (control characters,
+// ":" to "@"): the byte loop that follows decides.
+template <std::uint8_t step> std::uint64_t mayConcern(std::uint64_t eight) {
+    const std::uint64_t low = eight & ~kHighBits;
+    std::uint64_t marked = eight & kHighBits;
+    if constexpr (step == kParenStep) {
+        // "(" ")", "," "\"", other white space and quotation marks below 0x20.
+        marked |= bytesEqual(low | kOnes, ')') | bytesEqual(low, ',') | bytesEqual(low, '"') |
+                  bytesBelow(low, 0x20);
+    } else if constexpr (step == kMazeStep) {
+        marked |= bytesEqual(low | kOnes, ')') | bytesEqual(low | 2 * kOnes, '>');
+    } else {
+        // Control characters, ":" to "@", "!" "$", "," to "/", "^" "~" and 0x7F.
+        marked |= bytesBelow(low, 0x20) | (bytesBelow(low, 0x41) & ~bytesBelow(low, 0x3A)) |
+                  bytesEqual(low, '!') | bytesEqual(low, '$') | bytesEqual(low | 3 * kOnes, '/') |
+                  bytesEqual(low | 0x20 * kOnes, '~') | bytesEqual(low, 0x7F);
+    }
+    return marked;
+}
+
 // The first position from `i` (up to `end`) of a character that concerns
-// `step`. Only bytes are passed over: the code-point cut, which the tests
-// compare the byte cut with, looks at every character.
-template <class C> size_t nextFor(const C* b, size_t i, size_t end, std::uint8_t step) {
+// `step`. Only bytes are passed over, eight at a time where none may concern
+// it: the code-point cut, which the tests compare the byte cut with, looks at
+// every character.
+template <std::uint8_t step, class C> size_t nextFor(const C* b, size_t i, size_t end) {
     if constexpr (std::is_same_v<C, char>) {
-        while (i < end && !(kSteps.kinds[static_cast<unsigned char>(b[i])] & step))
+        auto concerns = [b](size_t k) {
+            return (kSteps.kinds[static_cast<unsigned char>(b[k])] & step) != 0;
+        };
+        for (; i + 8 <= end; i += 8) {
+            std::uint64_t eight;
+            std::memcpy(&eight, b + i, 8);
+            std::uint64_t marked = mayConcern<step>(eight);
+            if constexpr (std::endian::native == std::endian::little) {
+                // The lowest marked byte is the first one.
+                for (; marked != 0; marked &= marked - 1)
+                    if (const size_t k = i + std::countr_zero(marked) / 8; concerns(k))
+                        return k;
+            } else if (marked != 0) {
+                for (size_t k = i; k < i + 8; ++k)
+                    if (concerns(k))
+                        return k;
+            }
+        }
+        while (i < end && !concerns(i))
             ++i;
     }
     return i;
@@ -131,8 +193,9 @@ inline std::uint8_t wordKind(char c) {
 inline std::uint8_t wordKind(char32_t c) {
     if (c < 128)
         return kWordKinds.kinds[c];
-    return static_cast<std::uint8_t>((cls::isWordChar(c) ? kWordChar : 0) |
-                                     (cls::isAlnum(c) ? kAlnum : 0));
+    return static_cast<std::uint8_t>((cls::isWordChar(c) ? kWordChar : kNotWordChar) |
+                                     (cls::isAlnum(c) ? kAlnum : 0) |
+                                     (cls::isTerminator(c) ? kMayEndWord : 0));
 }
 
 } // namespace
@@ -540,7 +603,7 @@ template <class C> void LineCutter<C>::parentheticals() {
     int inner = 0;     // single-bracket balance inside the open remark
     int mazeDepth = 0; // single-bracket depth outside remarks
     size_t i = 1;
-    while ((i = nextFor(b_, i, end_, kParenStep)) < end_) {
+    while ((i = nextFor<kParenStep>(b_, i, end_)) < end_) {
         char32_t c = at(i);
         bool pairNext = i + 1 < end_ && at(i + 1) == c;
         if (c == U'(' && pairNext) {
@@ -624,7 +687,7 @@ template <class C> void LineCutter<C>::closeParenthetical(size_t open, size_t cl
 template <class C> void LineCutter<C>::mazesAndOverlaps() {
     size_t maze = 0, overlap = 0;
     bool mazeOpen = false, overlapOpen = false;
-    for (size_t i = 1; (i = nextFor(b_, i, end_, kMazeStep)) < end_; ++i) {
+    for (size_t i = 1; (i = nextFor<kMazeStep>(b_, i, end_)) < end_; ++i) {
         switch (at(i)) {
         case U'(':
             if (mazeOpen) {
@@ -703,7 +766,7 @@ std::string shown(char32_t c) {
 }
 
 template <class C> void LineCutter<C>::pausesAndCharacters() {
-    for (size_t i = 1; (i = nextFor(b_, i, end_, kPauseStep)) < end_; ++i) {
+    for (size_t i = 1; (i = nextFor<kPauseStep>(b_, i, end_)) < end_; ++i) {
         char32_t c = at(i);
         if (c == U':') {
             i = readPause(i);
@@ -801,13 +864,14 @@ template <class C> void LineCutter<C>::loneWords() {
             continue;
         }
         const size_t start = i;
-        std::uint8_t all = kWordChar, any = 0;
+        // The character at `end` (the terminator, a blank, or the one past the
+        // string) may end a word: only there is the end looked for.
+        std::uint8_t seen = 0;
         do {
-            all &= kind;
-            any |= kind;
-            ++i;
-        } while (i < end && !((kind = wordKind(b[i])) & kSpace));
-        const bool plain = (all & kWordChar) && (any & kAlnum);
+            seen |= kind;
+            kind = wordKind(b[++i]);
+        } while (!(kind & kMayEndWord) || (i < end && !(kind & kSpace)));
+        const bool plain = !(seen & kNotWordChar) && (seen & kAlnum);
         const View text(b + start, i - start);
         if (plain && bare)
             noteSpoken(keepPlainWord(start, text.size()));

@@ -175,6 +175,26 @@ TEST(CuttingPaths, BytesAndCodePointsAgree) {
     EXPECT_GT(ascii, 5000); // most lines do take the byte path
 }
 
+// The steps pass over bytes eight at a time: every ASCII character, alone or
+// next to another, at every place of a long line, must be seen as the
+// code-point cut sees it.
+TEST(CuttingPaths, EveryCharacterAtEveryPlaceAgrees) {
+    UtteranceSegmenter bytes, codePoints;
+    codePoints.setCodePointsOnly(true);
+    const std::string filler = "C the dog and Yuri went by the big farm at noon";
+    std::mt19937 rng(7);
+    for (int c = 1; c < 128; ++c) {
+        for (size_t at = 1; at < filler.size(); ++at) {
+            std::string line = filler;
+            line[at] = static_cast<char>(c);
+            if (rng() % 2)
+                line[1 + rng() % (line.size() - 1)] = kCharacters[rng() % kCharacters.size()];
+            line += ".!?"[rng() % 3];
+            ASSERT_EQ(cutBy(bytes, line), cutBy(codePoints, line)) << line;
+        }
+    }
+}
+
 // Lines at the edge of the plain-line shortcut: plain words, apostrophes,
 // blanks and tabs, other white space after the terminator, and one character
 // of the notation or outside ASCII put in now and then.
@@ -270,9 +290,14 @@ TEST(CuttingPaths, LoneWordsCutAsByTheGeneralPass) {
         std::string body = "C";
         for (int k = 0, count = static_cast<int>(rng() % 9); k < count; ++k)
             body += " " + words[rng() % words.size()];
-        const std::string end = std::string(1, ".?!"[rng() % 3]);
+        // Now and then no terminator: the last word runs to the end of the
+        // line, and the code goes first so as not to end the utterance early.
+        static const std::vector<std::string> ends = {".", "?", "!", ".", "", " ", "\t"};
+        const std::string end = ends[rng() % ends.size()];
         std::string lone = cutBy(segmenter, body + end);
-        std::string general = cutBy(segmenter, body + " [EU]" + end);
+        std::string general =
+            cutBy(segmenter, end.size() == 1 && end[0] > ' ' ? body + " [EU]" + end
+                                                             : "C [EU]" + body.substr(1) + end);
         ASSERT_EQ(wordLines(lone), wordLines(general)) << body;
     }
 }
