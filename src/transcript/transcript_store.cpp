@@ -17,8 +17,18 @@ void WordDraft::clear() {
     flags = Word();
 }
 
+namespace {
+
+// The bytes from `at` to the next multiple of `align`, a power of two (an
+// alignof): a mask, not a division, as this is asked for every line.
+size_t padding(const std::byte* at, size_t align) {
+    return (0 - reinterpret_cast<std::uintptr_t>(at)) & (align - 1);
+}
+
+} // namespace
+
 void* TranscriptStore::allocate(size_t bytes, size_t align) {
-    size_t pad = left_ == 0 ? 0 : (align - reinterpret_cast<std::uintptr_t>(next_) % align) % align;
+    size_t pad = left_ == 0 ? 0 : padding(next_, align);
     if (left_ < bytes + pad) {
         // Blocks grow with the transcript, up to 1 MB; a larger piece gets its own.
         size_t size = std::max(bytes + align, blockSize_);
@@ -27,7 +37,7 @@ void* TranscriptStore::allocate(size_t bytes, size_t align) {
         held_ += size;
         next_ = blocks_.back().get();
         left_ = size;
-        pad = (align - reinterpret_cast<std::uintptr_t>(next_) % align) % align;
+        pad = padding(next_, align);
     }
     void* out = next_ + pad;
     next_ += pad + bytes;
